@@ -1,0 +1,33 @@
+# SPDX-FileCopyrightText: 2026 Ostrand
+# SPDX-License-Identifier: MIT
+#
+# What a person who builds the project may choose, and the names of the folders that a build fills.
+
+option(BUILD_TESTING "Build the tests" ON)
+option(NERIX_BUILD_BENCHMARKS "Build the benchmark programs" ON)
+option(NERIX_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+set(NERIX_SANITIZE "" CACHE STRING "Sanitizers to build with, as in -fsanitize=: 'address,undefined' or 'thread'")
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_C_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# The build tree and the installed tree have the same shape, so that what is found from the one
+# (plug-ins beside the libraries, tools beside the viewer) is found from the other.
+set(NERIX_PLUGIN_DIR "lib/nerix/plugins")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_INSTALL_LIBDIR "lib")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_C_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()

@@ -1,0 +1,40 @@
+# SPDX-FileCopyrightText: 2026 Ostrand
+# SPDX-License-Identifier: MIT
+#
+# One place for what every target of the project has in common.
+
+# Warnings, sanitizers and strictness for a target of ours.
+function(nerix_configure_target target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+        $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
+            -Wextra-semi -Wnull-dereference -Wsuggest-override>
+        $<$<BOOL:${NERIX_WARNINGS_AS_ERRORS}>:-Werror>)
+    if(NERIX_SANITIZE)
+        target_compile_options(${target} PRIVATE
+            -fsanitize=${NERIX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+        target_link_options(${target} PRIVATE -fsanitize=${NERIX_SANITIZE})
+    endif()
+endfunction()
+
+# The same for a target that uses Qt: texts are never converted from or to bytes by accident.
+function(nerix_configure_qt_target target)
+    nerix_configure_target(${target})
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+        QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050C00)
+endfunction()
+
+# nerix_add_test(NAME SOURCES ... LIBRARIES ... [ENVIRONMENT ...]): a QtTest program as a CTest
+# test. It has no display, keeps to test folders and gets a generous limit against hanging.
+function(nerix_add_test name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES;ENVIRONMENT" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    nerix_configure_qt_target(${name})
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} Qt5::Test)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests/bin")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=;${arg_ENVIRONMENT}")
+endfunction()
