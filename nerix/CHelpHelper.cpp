@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include <CHelpHelper.h>
+
+#include <utility>
+
+namespace {
+
+CHelpHelper::Handler &currentHandler()
+{
+    static CHelpHelper::Handler handler;
+    return handler;
+}
+
+} // namespace
+
+bool CHelpHelper::showHelp(HelpType type)
+{
+    return currentHandler() && currentHandler()(type);
+}
+
+void CHelpHelper::setHandler(Handler handler)
+{
+    currentHandler() = std::move(handler);
+}

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include <DocumentationHelper.h>
+
+#include <utility>
+
+#include <QDesktopServices>
+#include <QLoggingCategory>
+
+namespace {
+
+Q_LOGGING_CATEGORY(documentation, "nerix.documentation")
+
+bool openInBrowser(const QUrl &url, bool /*inViewer*/)
+{
+    return QDesktopServices::openUrl(url);
+}
+
+DocumentationHelper::Handler &currentHandler()
+{
+    static DocumentationHelper::Handler handler = openInBrowser;
+    return handler;
+}
+
+bool isAccepted(const QUrl &url)
+{
+    const QString scheme = url.scheme();
+    return url.isValid()
+           && (scheme == QLatin1String("https") || scheme == QLatin1String("http")
+               || scheme == QLatin1String("mailto"));
+}
+
+} // namespace
+
+bool DocumentationHelper::OpenUrl(const QString &address, bool inViewer)
+{
+    const QUrl url(address, QUrl::StrictMode);
+    if (!isAccepted(url)) {
+        qCWarning(documentation).noquote()
+            << "not opened:" << address << "(only http, https and mailto addresses are)";
+        return false;
+    }
+    return currentHandler()(url, inViewer);
+}
+
+void DocumentationHelper::setHandler(Handler handler)
+{
+    currentHandler() = handler ? std::move(handler) : Handler(openInBrowser);
+}

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include <ParameterCollection/IEnumerationParameter.h>
+
+namespace ParameterCollection {
+
+IEnumerationParameter::IEnumerationParameter(QObject *parent)
+    : IParameter(parent)
+{}
+
+IEnumerationParameter::~IEnumerationParameter() = default;
+
+} // namespace ParameterCollection

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <Core/CameraPoolComponents/ICameraInfo.h>
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+namespace CameraPool {
+
+/// What the viewer's own windows and scripts do with cameras; the news come from
+/// `ICameraStatusService`. Offered as a service by the built-in plug-in "CameraPool".
+///
+/// Every operation may be called in any thread and returns at once; the work is done in the camera
+/// pool's thread. The signals are emitted there too, while no lock is held.
+class ICameraControlService : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum CameraState {
+        Gone,           ///< not connected now
+        Free,           ///< connected, and nobody has it open
+        InUseElsewhere, ///< another program controls it
+        Open,           ///< open in this viewer
+        Grabbing        ///< open in this viewer and grabbing
+    };
+    Q_ENUM(CameraState)
+
+    /// The cameras that are connected now, in the order in which they were first seen.
+    virtual QList<Core::CameraPoolComponents::CameraInfoPtr> cameras() const = 0;
+
+    virtual CameraState state(const Core::CameraPoolComponents::CameraInfoPtr &camera) const = 0;
+
+    /// Opens \a camera. Ends with `IDeviceStatusService::deviceOpened` or with `openFailed`. A
+    /// camera that is open already stays so; nothing is emitted.
+    virtual void open(const Core::CameraPoolComponents::CameraInfoPtr &camera) = 0;
+
+    /// Stops its grab and closes \a camera. Ends with `closed`. `closed` comes also when it was not
+    /// open.
+    virtual void close(const Core::CameraPoolComponents::CameraInfoPtr &camera) = 0;
+
+    /// Stops the search for cameras, closes every camera, and emits `allClosed`.
+    virtual void closeAll() = 0;
+
+Q_SIGNALS:
+    /// \a message is one line that names the camera and the remedy.
+    void openFailed(Core::CameraPoolComponents::CameraInfoPtr camera, const QString &message);
+
+    /// \a camera is closed; `deviceClosing` came before if it was open.
+    void closed(Core::CameraPoolComponents::CameraInfoPtr camera);
+
+    void allClosed();
+
+protected:
+    using QObject::QObject;
+};
+
+} // namespace CameraPool
