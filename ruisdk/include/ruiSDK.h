@@ -1,0 +1,165 @@
+/* SPDX-FileCopyrightText: 2026 Ostrand */
+/* SPDX-License-Identifier: MIT */
+#pragma once
+
+/*
+ * ruiSDK: stores usage events on this machine and delivers them to a collector.
+ *
+ * A session is this sequence of calls:
+ *
+ *     ruiCreateInstance, ruiCreateConfig, ruiSetProductData, ruiStartSDK,
+ *     ruiTrackEvent / ruiTrackEventText ..., ruiStopSDK, ruiDestroyInstance
+ *
+ * and a withdrawal of the user's consent is this one:
+ *
+ *     ruiCreateInstance, ruiCreateConfig, ruiSetProductData, ruiOptOut, ruiStartSDK, ruiStopSDK,
+ *     ruiDestroyInstance
+ *
+ * Threads: every function may be called from any thread at any time, with the same or with
+ * different instances. Any number of instances and of processes may use one directory.
+ *
+ * Texts: every text is UTF-8 and ends with a zero byte. The library copies what it keeps. A null
+ * text, or one that is not UTF-8, is RUI_BAD_ARGUMENT.
+ *
+ * Errors: every function checks its handle first, then its arguments, then the state of the
+ * instance. A function that fails changes nothing. No function throws.
+ */
+
+#include <stdint.h>
+
+#if defined(RUISDK_BUILD)
+#define RUI_API __attribute__((visibility("default")))
+#else
+#define RUI_API
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* What a function returns. The numbers are stable; new ones are added at the end. */
+enum ruiResult {
+    RUI_OK = 0,           /* done; for a track call: the event is committed to disk */
+    RUI_BAD_HANDLE = 1,   /* the instance is null, destroyed, or was never one */
+    RUI_BAD_ARGUMENT = 2, /* a null text, a text that is not UTF-8, a value out of range */
+    RUI_WRONG_STATE = 3,  /* the call does not fit what was called before */
+    RUI_UNSUPPORTED = 4,  /* a protocol, a key, a server address or a database of a newer version */
+    RUI_STORAGE = 5,      /* the directory or the database cannot be used */
+    RUI_FULL = 6,         /* the disk is full */
+    RUI_OPTED_OUT = 7,    /* consent was withdrawn since this session began; nothing is stored */
+    RUI_TOO_LARGE = 8,    /* the event is larger than 1 MiB */
+    RUI_BUSY = 9,         /* another process kept the database locked; the call may be repeated */
+    RUI_INTERNAL = 10     /* out of memory, or a defect of the library */
+};
+
+/* OTLP over HTTP, the one protocol that ruiCreateConfig accepts. */
+enum { RUI_PROTOCOL_OTLP_HTTP = 3 };
+
+/*
+ * A checked handle, not a pointer to anything: it is never dereferenced. A handle of a destroyed
+ * instance stays invalid for the life of the process, and so does every handle in a process that
+ * was forked from the one that created it.
+ */
+typedef struct ruiInstance_ *ruiInstance;
+
+/*
+ * Creates an instance that is to be destroyed with ruiDestroyInstance. An instance that is never
+ * destroyed costs memory, and nothing else.
+ *
+ * flag: reserved, 0.
+ * Returns null when flag is not 0, when 65,535 instances exist, or when memory is short.
+ */
+RUI_API ruiInstance ruiCreateInstance(int32_t flag);
+
+/*
+ * Says where events are kept and where they go. Opens the database, and creates it and the
+ * directory if they are missing. Once per instance, before anything else; it may be repeated
+ * after it failed.
+ *
+ * configDirectory: holds the database and nothing of anybody else. It is created with mode 0700.
+ * productId, applicationName: sent with every event. Up to 1,024 bytes each.
+ * serverHost: empty: events stay on this machine, and nothing is ever sent. Otherwise a host name
+ *     with an optional port and path ("collector.example.com:4318"), for which https is used, or
+ *     the same as a URL. http is RUI_UNSUPPORTED unless the host is the loopback.
+ * protocol: RUI_PROTOCOL_OTLP_HTTP; others are RUI_UNSUPPORTED.
+ * encryptionKey: empty; events are not encrypted on disk. Others are RUI_UNSUPPORTED.
+ * localOnly: 1: events stay on this machine although a serverHost is given. 0: they are sent.
+ * syncEveryCommit: 1: an accepted event survives a power cut, for some milliseconds a call.
+ *     0: a killed process loses nothing, a power cut at most the last events.
+ *
+ * A file in the place of the database that is not one, or is damaged, is set aside under a dated
+ * name, which is said once on standard error; a new database is begun.
+ * RUI_STORAGE: the directory or the database cannot be created, read or written.
+ * RUI_UNSUPPORTED also: a database of a newer version; it is left alone.
+ */
+RUI_API int32_t ruiCreateConfig(ruiInstance instance, const char *configDirectory,
+                                const char *productId, const char *applicationName,
+                                const char *serverHost, int32_t protocol, const char *encryptionKey,
+                                uint8_t localOnly, uint8_t syncEveryCommit);
+
+/*
+ * Describes the product; sent with every event. After ruiCreateConfig and before ruiStartSDK; a
+ * repeated call replaces the earlier data. Up to 1,024 bytes each.
+ */
+RUI_API int32_t ruiSetProductData(ruiInstance instance, const char *edition, const char *language,
+                                  const char *version, const char *buildNumber);
+
+/*
+ * Begins the session. From here on events are accepted, and a thread of the library delivers
+ * them. A first session, and the first one after an opt-out, gets a new random client id.
+ *
+ * On an instance that has opted out it only delivers the opt-out: track calls are RUI_OPTED_OUT.
+ */
+RUI_API int32_t ruiStartSDK(ruiInstance instance);
+
+/*
+ * Ends the session; ruiStartSDK may begin another one. Returns within 2 seconds, within 5 when an
+ * opt-out waits for delivery. What could not be delivered is kept for the next session.
+ *
+ * flag: 0: tries to deliver what is left within that time. 1: does not. Others are
+ *     RUI_BAD_ARGUMENT.
+ */
+RUI_API int32_t ruiStopSDK(ruiInstance instance, int32_t flag);
+
+/*
+ * Withdraws the user's consent for everybody who uses this directory. In one step every event
+ * that was not delivered is deleted, the client id is retired, and one record of the opt-out is
+ * left for delivery under that id; the record goes out before anything else. Sessions that are
+ * open, in this process or another, are RUI_OPTED_OUT from here on. Any time after
+ * ruiCreateConfig; an opt-out that is repeated changes nothing and returns RUI_OK.
+ */
+RUI_API int32_t ruiOptOut(ruiInstance instance);
+
+/*
+ * Stores an event without a text: ruiTrackEventText explains the rest.
+ */
+RUI_API int32_t ruiTrackEvent(ruiInstance instance, const char *category, const char *name,
+                              const char *sessionId);
+
+/*
+ * Stores an event; RUI_OK means that it is committed to the database, so that it survives the
+ * death of the process. Waits for another writer for at most 5 seconds, never for the network.
+ *
+ * category, name: what happened. May be empty.
+ * text: the record, kept and sent byte for byte; it need not be JSON.
+ * sessionId: the caller's name of the session, or empty.
+ * Together they are at most 1 MiB, else RUI_TOO_LARGE.
+ */
+RUI_API int32_t ruiTrackEventText(ruiInstance instance, const char *category, const char *name,
+                                  const char *text, const char *sessionId);
+
+/*
+ * Ends the session if one is open, as ruiStopSDK with flag 1 does, and frees the instance. Calls
+ * in other threads that use it finish first or are RUI_BAD_HANDLE.
+ */
+RUI_API int32_t ruiDestroyInstance(ruiInstance instance);
+
+/*
+ * Returns the words for a result, in English, for a log. Never null; the text is static and must
+ * not be freed. A number that is no result gives "unknown result".
+ */
+RUI_API const char *ruiResultText(int32_t result);
+
+#ifdef __cplusplus
+}
+#endif

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+namespace rui {
+
+// Where the time comes from; a test replaces it. Any thread may ask.
+class Clock
+{
+public:
+    virtual ~Clock() = default;
+
+    // Nanoseconds since 1970 in UTC. May jump when somebody sets the machine's clock.
+    virtual std::int64_t now() const = 0;
+};
+
+// The machine's clock; lives as long as the process.
+const Clock &systemClock();
+
+constexpr std::int64_t nanosecondsPerMillisecond = 1000000;
+constexpr std::int64_t nanosecondsPerSecond = 1000000000;
+
+} // namespace rui

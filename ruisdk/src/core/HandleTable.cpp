@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "core/HandleTable.h"
+
+#include "core/Random.h"
+
+#include <algorithm>
+
+namespace rui {
+
+namespace {
+
+// The low 16 bits are the slot plus one, so that no handle is null; the others the generation.
+constexpr int slotBits = 16;
+constexpr std::uint64_t slotMask = (std::uint64_t{1} << slotBits) - 1;
+constexpr std::uint64_t generationMask = ~std::uint64_t{0} >> slotBits;
+
+constexpr std::size_t noSlot = slotMask;
+
+ruiInstance makeHandle(std::size_t slot, std::uint64_t generation)
+{
+    const std::uint64_t bits = (generation << slotBits) | (slot + 1);
+    return reinterpret_cast<ruiInstance>(static_cast<std::uintptr_t>(bits));
+}
+
+} // namespace
+
+HandleTable &HandleTable::process()
+{
+    static auto *table = new HandleTable;
+    return *table;
+}
+
+HandleTable::HandleTable()
+    : m_nextGeneration(random64() & generationMask)
+{}
+
+ruiInstance HandleTable::add(std::shared_ptr<Instance> instance)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::size_t slot = freeSlot();
+    if (slot >= slotMask) {
+        return nullptr;
+    }
+    if (slot == m_slots.size()) {
+        m_slots.emplace_back();
+    }
+    m_nextGeneration = (m_nextGeneration + 1) & generationMask;
+    m_slots[slot] = {m_nextGeneration, std::move(instance)};
+    return makeHandle(slot, m_nextGeneration);
+}
+
+std::shared_ptr<Instance> HandleTable::find(ruiInstance handle) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::size_t slot = slotOf(handle);
+    return slot == noSlot ? nullptr : m_slots[slot].instance;
+}
+
+std::shared_ptr<Instance> HandleTable::remove(ruiInstance handle)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::size_t slot = slotOf(handle);
+    return slot == noSlot ? nullptr : std::move(m_slots[slot].instance);
+}
+
+std::vector<std::shared_ptr<Instance>> HandleTable::all() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    std::vector<std::shared_ptr<Instance>> instances;
+    for (const Slot &slot : m_slots) {
+        if (slot.instance) {
+            instances.push_back(slot.instance);
+        }
+    }
+    return instances;
+}
+
+std::size_t HandleTable::freeSlot() const
+{
+    const auto isFree = [](const Slot &slot) { return !slot.instance; };
+    const auto found = std::find_if(m_slots.begin(), m_slots.end(), isFree);
+    return static_cast<std::size_t>(found - m_slots.begin());
+}
+
+std::size_t HandleTable::slotOf(ruiInstance handle) const
+{
+    const auto bits = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(handle));
+    const std::uint64_t slot = (bits & slotMask) - 1;
+    const bool live = slot < m_slots.size() && m_slots[slot].instance
+                      && m_slots[slot].generation == bits >> slotBits;
+    return live ? slot : noSlot;
+}
+
+} // namespace rui

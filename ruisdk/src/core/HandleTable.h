@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <ruiSDK.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace rui {
+
+class Instance;
+
+// Maps handles to instances. A handle is a slot and the generation of what stands in it, so that
+// an old handle, or a number that never was one, finds nothing. Any thread.
+class HandleTable
+{
+public:
+    // The process's table. Never destroyed: a thread may still call at exit.
+    static HandleTable &process();
+
+    HandleTable();
+
+    // Null when all slots are in use.
+    ruiInstance add(std::shared_ptr<Instance> instance);
+
+    // Null when the handle is not a live one.
+    std::shared_ptr<Instance> find(ruiInstance handle) const;
+
+    // Invalidates the handle and returns its instance, or null.
+    std::shared_ptr<Instance> remove(ruiInstance handle);
+
+    std::vector<std::shared_ptr<Instance>> all() const;
+
+private:
+    struct Slot
+    {
+        std::uint64_t generation = 0;
+        std::shared_ptr<Instance> instance;
+    };
+
+    std::size_t freeSlot() const;
+    std::size_t slotOf(ruiInstance handle) const;
+
+    mutable std::mutex m_mutex;
+    std::vector<Slot> m_slots;
+    // Starts anywhere, so that handles of other processes and of a forked parent do not match.
+    std::uint64_t m_nextGeneration;
+};
+
+} // namespace rui

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "core/Ulid.h"
+
+#include "core/Random.h"
+
+namespace rui {
+
+namespace {
+
+constexpr char alphabet[] = "0123456789ABCDEFGHJKMNPQRSTVWXYZ";
+
+void appendBase32(std::string &text, std::uint64_t value, int characters)
+{
+    for (int i = characters - 1; i >= 0; --i) {
+        text += alphabet[(value >> (5 * i)) & 0x1F];
+    }
+}
+
+std::uint64_t fortyBits(const UlidEntropy &entropy, std::size_t from)
+{
+    std::uint64_t value = 0;
+    for (std::size_t i = from; i < from + 5; ++i) {
+        value = (value << 8) | entropy[i];
+    }
+    return value;
+}
+
+} // namespace
+
+std::string ulidText(std::uint64_t milliseconds, const UlidEntropy &entropy)
+{
+    std::string text;
+    text.reserve(26);
+    appendBase32(text, milliseconds & 0xFFFFFFFFFFFFU, 10);
+    appendBase32(text, fortyBits(entropy, 0), 8);
+    appendBase32(text, fortyBits(entropy, 5), 8);
+    return text;
+}
+
+std::string makeUlid(std::int64_t unixNanoseconds)
+{
+    UlidEntropy entropy{};
+    fillRandom(entropy.data(), entropy.size());
+    const std::int64_t milliseconds = unixNanoseconds / 1000000;
+    return ulidText(milliseconds < 0 ? 0 : static_cast<std::uint64_t>(milliseconds), entropy);
+}
+
+} // namespace rui

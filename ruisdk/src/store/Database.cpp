@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/Database.h"
+
+#include "store/SqliteError.h"
+
+#include <algorithm>
+#include <thread>
+
+namespace rui {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// The time that a waiter has slept before its n-th try; sleeps double up to 5 ms. SQLite's own
+// handler sleeps up to 100 ms, which a user of several writers would feel.
+std::chrono::microseconds sleepBefore(int tries)
+{
+    return tries < 7 ? 50us * (1 << tries) : std::chrono::microseconds(5ms);
+}
+
+int waitForLock(void *data, int tries)
+{
+    const auto *busy = static_cast<const BusyLimit *>(data);
+    const auto sleep = sleepBefore(tries);
+    // The first seven sleeps are 6 ms together; counting them as 5 ms each errs on the short side.
+    if (busy->giveUp || 5ms * tries >= busy->limit) {
+        return 0;
+    }
+    std::this_thread::sleep_for(sleep);
+    return 1;
+}
+
+} // namespace
+
+Database::Database(const std::string &path, Access access, std::shared_ptr<BusyLimit> busyLimit)
+    : m_busyLimit(std::move(busyLimit))
+{
+    const int mode = access == Access::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+    sqlite3 *connection = nullptr;
+    const int code = sqlite3_open_v2(path.c_str(), &connection,
+                                     mode | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
+    m_connection.reset(connection);
+    if (code != SQLITE_OK) {
+        throw SqliteError(code, path);
+    }
+    sqlite3_busy_handler(connection, waitForLock, m_busyLimit.get());
+}
+
+void Database::execute(const std::string &sql)
+{
+    const int code = sqlite3_exec(m_connection.get(), sql.c_str(), nullptr, nullptr, nullptr);
+    if (code != SQLITE_OK) {
+        throw SqliteError(sqlite3_extended_errcode(m_connection.get()),
+                          sqlite3_errmsg(m_connection.get()));
+    }
+}
+
+std::int64_t Database::integer(std::string_view sql) const
+{
+    Statement statement = prepare(sql);
+    return statement.step() ? statement.integer(0) : 0;
+}
+
+bool Database::hasMoved() const
+{
+    int moved = 0;
+    sqlite3_file_control(m_connection.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0;
+}
+
+Transaction::Transaction(Database &database)
+    : m_database(database)
+{
+    m_database.execute("BEGIN IMMEDIATE");
+}
+
+Transaction::~Transaction()
+{
+    if (m_open) {
+        // Fails only when SQLite has rolled back already.
+        sqlite3_exec(m_database.handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+}
+
+void Transaction::commit()
+{
+    m_database.execute("COMMIT");
+    m_open = false;
+}
+
+} // namespace rui

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/Statement.h"
+
+#include <sqlite3.h>
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <string>
+
+namespace rui {
+
+// How long a connection waits for a lock that another one holds. Shared with the owner, who may
+// end all waiting from another thread.
+struct BusyLimit
+{
+    explicit BusyLimit(std::chrono::milliseconds time)
+        : limit(time)
+    {}
+
+    const std::chrono::milliseconds limit;
+    std::atomic<bool> giveUp{false};
+};
+
+// One connection to an SQLite file. Used by one thread at a time. Everything throws SqliteError.
+class Database
+{
+public:
+    enum class Access { ReadOnly, ReadWrite };
+
+    // Opens a file that exists already.
+    Database(const std::string &path, Access access, std::shared_ptr<BusyLimit> busyLimit);
+
+    // Runs statements that give no rows and take no parameters.
+    void execute(const std::string &sql);
+
+    Statement prepare(std::string_view sql) const
+    {
+        return Statement(m_connection.get(), sql);
+    }
+
+    // The first column of the first row; 0 when there is no row.
+    std::int64_t integer(std::string_view sql) const;
+
+    // True when the file was removed from its path or another one stands there now.
+    bool hasMoved() const;
+
+    sqlite3 *handle() const noexcept
+    {
+        return m_connection.get();
+    }
+
+private:
+    struct Closer
+    {
+        void operator()(sqlite3 *connection) const noexcept
+        {
+            sqlite3_close_v2(connection);
+        }
+    };
+    // Stands before the connection, which uses it until it is closed.
+    std::shared_ptr<BusyLimit> m_busyLimit;
+    std::unique_ptr<sqlite3, Closer> m_connection;
+};
+
+// A write transaction; rolled back unless it is committed. Takes the write lock at once, so that
+// nothing that it read can be out of date when it writes.
+class Transaction
+{
+public:
+    explicit Transaction(Database &database);
+    ~Transaction();
+    Transaction(const Transaction &) = delete;
+    Transaction &operator=(const Transaction &) = delete;
+
+    void commit();
+
+private:
+    Database &m_database;
+    bool m_open = true;
+};
+
+} // namespace rui

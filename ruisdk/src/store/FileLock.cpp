@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/FileLock.h"
+
+#include "core/Failure.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <thread>
+
+namespace rui {
+
+FileLock::FileLock(const std::string &path)
+    : m_path(path)
+    , m_descriptor(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
+{
+    if (m_descriptor < 0) {
+        throw Failure(RUI_STORAGE, path + ": " + std::strerror(errno));
+    }
+}
+
+FileLock::~FileLock()
+{
+    close(m_descriptor);
+}
+
+bool FileLock::tryLock()
+{
+    while (flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EWOULDBLOCK) {
+            return false;
+        }
+        if (errno != EINTR) {
+            throw Failure(RUI_STORAGE, m_path + ": " + std::strerror(errno));
+        }
+    }
+    return true;
+}
+
+void FileLock::lock(std::chrono::milliseconds limit)
+{
+    const auto end = std::chrono::steady_clock::now() + limit;
+    while (!tryLock()) {
+        if (std::chrono::steady_clock::now() >= end) {
+            throw Failure(RUI_BUSY, m_path + ": held by another process");
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+}
+
+void FileLock::unlock()
+{
+    flock(m_descriptor, LOCK_UN);
+}
+
+} // namespace rui

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <string>
+
+namespace rui {
+
+// A lock between processes that the kernel releases when its holder dies. Two objects exclude
+// each other in one process, too.
+class FileLock
+{
+public:
+    // Opens the file, creating it with mode 0600. Throws Failure with RUI_STORAGE.
+    explicit FileLock(const std::string &path);
+    ~FileLock();
+    FileLock(const FileLock &) = delete;
+    FileLock &operator=(const FileLock &) = delete;
+
+    // True when the lock is held now, also when it was before.
+    bool tryLock();
+
+    // Waits; throws Failure with RUI_BUSY when the time is over.
+    void lock(std::chrono::milliseconds limit);
+
+    void unlock();
+
+private:
+    std::string m_path;
+    int m_descriptor;
+};
+
+} // namespace rui

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/PrivateFiles.h"
+
+#include "core/Failure.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+
+namespace rui {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void fail(const std::string &path, int error)
+{
+    throw Failure(RUI_STORAGE, path + ": " + std::strerror(error));
+}
+
+// Made one by one: the mode of std::filesystem::create_directories depends on the umask.
+void makeDirectories(const fs::path &path)
+{
+    if (path.has_parent_path() && !fs::exists(path.parent_path())) {
+        makeDirectories(path.parent_path());
+    }
+    if (mkdir(path.c_str(), 0700) != 0 && errno != EEXIST) {
+        fail(path.string(), errno);
+    }
+}
+
+bool isOursAndOpen(const std::string &path)
+{
+    struct stat status = {};
+    return stat(path.c_str(), &status) == 0 && status.st_uid == geteuid()
+           && (status.st_mode & 0077) != 0;
+}
+
+} // namespace
+
+void makePrivateDirectory(const std::string &path)
+{
+    std::error_code error;
+    if (!fs::exists(path, error) && !error) {
+        makeDirectories(path);
+    } else if (isOursAndOpen(path) && fs::is_directory(path, error) && fs::is_empty(path, error)) {
+        chmod(path.c_str(), 0700);
+    }
+    if (!fs::is_directory(path, error)) {
+        fail(path, error ? error.value() : ENOTDIR);
+    }
+}
+
+void makePrivateFile(const std::string &path)
+{
+    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    if (descriptor < 0) {
+        fail(path, errno);
+    }
+    close(descriptor);
+}
+
+} // namespace rui

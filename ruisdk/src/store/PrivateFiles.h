@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace rui {
+
+// Creates the directory with its parents, for this user alone. One that exists and is empty is
+// closed to others if it is ours; any other one is left as it is, as somebody may rely on it.
+// Throws Failure with RUI_STORAGE.
+void makePrivateDirectory(const std::string &path);
+
+// Creates an empty file with mode 0600 unless it exists. SQLite gives its side files the same
+// mode. Throws Failure with RUI_STORAGE.
+void makePrivateFile(const std::string &path);
+
+} // namespace rui

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/Quota.h"
+
+#include "store/Losses.h"
+
+#include <string>
+
+namespace rui {
+
+namespace {
+
+constexpr const char *spanOfNumbers =
+    "coalesce((SELECT max(seq) FROM event) - (SELECT min(seq) FROM event) + 1, 0)";
+
+// Reads two rows.
+Occupancy occupancyByNumbers(const Database &database)
+{
+    Statement query =
+        database.prepare(std::string("SELECT ") + spanOfNumbers
+                         + ", coalesce((SELECT total FROM event ORDER BY seq DESC LIMIT 1)"
+                           " - (SELECT total - size FROM event ORDER BY seq LIMIT 1), 0)");
+    query.step();
+    return {query.integer(0), query.integer(1)};
+}
+
+// Reads every row.
+Occupancy occupancyByCounting(const Database &database)
+{
+    Statement query = database.prepare("SELECT count(*), coalesce(sum(size), 0) FROM event");
+    query.step();
+    return {query.integer(0), query.integer(1)};
+}
+
+Occupancy occupancyOf(Database &database)
+{
+    if (database.integer("SELECT gaps FROM state") == 0) {
+        return occupancyByNumbers(database);
+    }
+    const Occupancy occupancy = occupancyByCounting(database);
+    if (occupancy.events == occupancyByNumbers(database).events) {
+        database.execute("UPDATE state SET gaps = 0");
+    }
+    return occupancy;
+}
+
+struct Eviction
+{
+    std::int64_t last = 0;
+    std::int64_t forNumber = 0;
+    std::int64_t forSize = 0;
+};
+
+// Counts from the oldest on what has to go.
+Eviction planEviction(const Database &database, Occupancy occupancy, const Limits &limits)
+{
+    Eviction eviction;
+    Statement oldest = database.prepare("SELECT seq, size FROM event ORDER BY seq");
+    while (exceeds(occupancy, limits) && oldest.step()) {
+        eviction.last = oldest.integer(0);
+        ++(occupancy.events > limits.maxEvents ? eviction.forNumber : eviction.forSize);
+        --occupancy.events;
+        occupancy.bytes -= oldest.integer(1);
+    }
+    return eviction;
+}
+
+void count(Database &database, LossReason reason, std::int64_t lost)
+{
+    if (lost > 0) {
+        addLoss(database, reason, lost);
+    }
+}
+
+std::int64_t countOlder(const Database &database, std::int64_t time)
+{
+    Statement query = database.prepare("SELECT count(*) FROM event WHERE time < ?1");
+    query.bind(1, time).step();
+    return query.integer(0);
+}
+
+// The numbers of deleted events are not given again, even when none is left.
+constexpr const char *keepFloor =
+    "UPDATE state SET floor = max(floor, coalesce((SELECT max(seq) FROM event), 0))";
+
+} // namespace
+
+bool exceeds(const Occupancy &occupancy, const Limits &limits)
+{
+    return occupancy.events > limits.maxEvents || occupancy.bytes > limits.maxBytes;
+}
+
+void enforceQuota(Database &database, const Limits &limits)
+{
+    Transaction transaction(database);
+    const Occupancy occupancy = occupancyOf(database);
+    if (exceeds(occupancy, limits)) {
+        const Eviction eviction = planEviction(database, occupancy, limits);
+        database.execute(keepFloor);
+        database.prepare("DELETE FROM event WHERE seq <= ?1").bind(1, eviction.last).run();
+        count(database, LossReason::MaxEvents, eviction.forNumber);
+        count(database, LossReason::MaxBytes, eviction.forSize);
+    }
+    transaction.commit();
+}
+
+void dropExpired(Database &database, const Limits &limits, std::int64_t now)
+{
+    const std::int64_t oldest = now - std::chrono::nanoseconds(limits.maxAge).count();
+    if (countOlder(database, oldest) == 0) {
+        return;
+    }
+    Transaction transaction(database);
+    count(database, LossReason::MaxAge, countOlder(database, oldest));
+    database.execute(keepFloor);
+    database.prepare("DELETE FROM event WHERE time < ?1").bind(1, oldest).run();
+    // A clock that was set may have left old times between newer ones.
+    database.execute("UPDATE state SET gaps = 1");
+    transaction.commit();
+}
+
+} // namespace rui

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/Limits.h"
+#include "store/Database.h"
+#include "store/EventInsert.h"
+
+namespace rui {
+
+bool exceeds(const Occupancy &occupancy, const Limits &limits);
+
+// Deletes the oldest events until the number and the size of the undelivered ones keep to the
+// limits, and counts them as lost; one transaction. Throws SqliteError.
+void enforceQuota(Database &database, const Limits &limits);
+
+// Deletes events that are too old, and counts them as lost; one transaction. Throws SqliteError.
+void dropExpired(Database &database, const Limits &limits, std::int64_t now);
+
+} // namespace rui

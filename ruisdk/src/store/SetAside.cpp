@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/SetAside.h"
+
+#include "core/Failure.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+#include <filesystem>
+
+namespace rui {
+
+namespace {
+
+std::string timeStamp()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm utc = {};
+    gmtime_r(&now, &utc);
+    std::array<char, 32> text{};
+    std::strftime(text.data(), text.size(), "%Y%m%dT%H%M%SZ", &utc);
+    return text.data();
+}
+
+std::string freeName(const std::string &path)
+{
+    const std::string base = path + ".damaged-" + timeStamp();
+    std::string name = base;
+    for (int i = 2; std::filesystem::exists(name); ++i) {
+        name = base + "-" + std::to_string(i);
+    }
+    return name;
+}
+
+} // namespace
+
+void setAside(const StorePaths &paths)
+{
+    const std::string database = paths.database();
+    const std::string name = freeName(database);
+    if (std::rename(database.c_str(), name.c_str()) != 0) {
+        throw Failure(RUI_STORAGE, database + ": " + std::strerror(errno));
+    }
+    // Under these names SQLite finds them again should somebody repair the file. They need not
+    // exist.
+    std::rename((database + "-wal").c_str(), (name + "-wal").c_str());
+    std::rename((database + "-shm").c_str(), (name + "-shm").c_str());
+    std::fprintf(stderr,
+                 "ruiSDK: %s is not a usable database; set aside as %s, a new one is begun\n",
+                 database.c_str(), name.c_str());
+}
+
+} // namespace rui

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/StorePaths.h"
+
+namespace rui {
+
+// Renames a damaged database and its journal, keeping every byte, and says so once on standard
+// error. Throws Failure with RUI_STORAGE. The caller holds the opening lock.
+void setAside(const StorePaths &paths);
+
+} // namespace rui

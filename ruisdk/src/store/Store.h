@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/Clock.h"
+#include "core/Limits.h"
+#include "store/EventInsert.h"
+#include "store/StoreOpening.h"
+
+#include <optional>
+
+namespace rui {
+
+// One instance's connection to the database of a directory. Notices when the file is damaged or
+// replaced, and goes on with the new one. Used by one thread at a time. Throws Failure.
+class Store
+{
+public:
+    Store(StorePaths paths, OpeningOptions options, Limits limits, const Clock &clock);
+
+    // Begins a session; events are stored under the consent that holds now.
+    void join(const Product &product);
+
+    // Ends the session.
+    void leave();
+
+    // Commits an event of the session. RUI_OPTED_OUT after an opt-out by anybody.
+    void add(const Event &event);
+
+    // See ruiOptOut.
+    void withdraw(const Product &product);
+
+    // Ends the waiting of a call in another thread for a lock; later calls do not wait.
+    void stopWaiting(bool stop) noexcept;
+
+private:
+    struct Connection
+    {
+        explicit Connection(Database opened)
+            : database(std::move(opened))
+            , insert(database)
+        {}
+
+        Database database;
+        EventInsert insert;
+    };
+
+    Connection &connection();
+    void refuseTooLarge(const Event &event);
+    Occupancy insert(const Event &event);
+    bool isCurrent();
+    void reopen(bool verify);
+    void keepToQuota(const Occupancy &occupancy) noexcept;
+
+    StorePaths m_paths;
+    OpeningOptions m_options;
+    Limits m_limits;
+    const Clock &m_clock;
+    std::shared_ptr<BusyLimit> m_busyLimit;
+    std::optional<Connection> m_connection;
+    std::optional<Product> m_product;
+    Membership m_membership;
+};
+
+} // namespace rui

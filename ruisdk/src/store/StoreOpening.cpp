@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/StoreOpening.h"
+
+#include "store/FileLock.h"
+#include "store/Losses.h"
+#include "store/PrivateFiles.h"
+#include "store/Schema.h"
+#include "store/SetAside.h"
+#include "store/SqliteError.h"
+
+namespace rui {
+
+namespace {
+
+// Callers never checkpoint: a checkpoint takes ten times as long as storing an event, and the
+// worker does it. The page size stays at SQLite's default.
+void configure(Database &database, const OpeningOptions &options)
+{
+    database.execute("PRAGMA journal_mode = WAL");
+    database.execute(options.syncEveryCommit ? "PRAGMA synchronous = FULL"
+                                             : "PRAGMA synchronous = NORMAL");
+    database.execute("PRAGMA wal_autocheckpoint = 0");
+}
+
+void verifyContent(const Database &database)
+{
+    Statement check = database.prepare("PRAGMA quick_check(1)");
+    if (!check.step() || check.text(0) != "ok") {
+        throw SqliteError(SQLITE_CORRUPT, "quick_check");
+    }
+}
+
+Database openChecked(const StorePaths &paths, const OpeningOptions &options,
+                     const std::shared_ptr<BusyLimit> &busyLimit)
+{
+    makePrivateFile(paths.database());
+    Database database(paths.database(), Database::Access::ReadWrite, busyLimit);
+    // Before the journal mode, which would be written to somebody else's database.
+    const bool exists = hasSchema(database);
+    configure(database, options);
+    if (!exists) {
+        createSchema(database);
+    }
+    if (options.verify) {
+        verifyContent(database);
+    }
+    return database;
+}
+
+} // namespace
+
+Database openStore(const StorePaths &paths, const OpeningOptions &options,
+                   const std::shared_ptr<BusyLimit> &busyLimit)
+{
+    makePrivateDirectory(paths.directory());
+    FileLock opening(paths.openingLock());
+    opening.lock(busyLimit->limit);
+    try {
+        return openChecked(paths, options, busyLimit);
+    } catch (const SqliteError &error) {
+        if (!error.isDamage()) {
+            throw;
+        }
+    }
+    setAside(paths);
+    Database database = openChecked(paths, options, busyLimit);
+    addLoss(database, LossReason::Damaged, 1);
+    return database;
+}
+
+} // namespace rui
