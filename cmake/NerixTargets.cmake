@@ -26,15 +26,29 @@ function(nerix_configure_qt_target target)
         QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050C00)
 endfunction()
 
-# nerix_add_test(NAME SOURCES ... LIBRARIES ... [ENVIRONMENT ...]): a QtTest program as a CTest
-# test. It has no display, keeps to test folders and gets a generous limit against hanging.
+# Whether a program may have a network of its own here. Where it may not, tests that use the network
+# share the real loopback and run one after the other.
+execute_process(COMMAND unshare --user --map-root-user --net ip link set lo up
+    RESULT_VARIABLE NERIX_UNSHARE_RESULT OUTPUT_QUIET ERROR_QUIET)
+
+# nerix_add_test(NAME SOURCES ... LIBRARIES ... [ENVIRONMENT ...] [ISOLATED_NETWORK]): a QtTest
+# program as a CTest test. It has no display, keeps to test folders and gets a generous limit
+# against hanging. ISOLATED_NETWORK: it runs by tests/support/in-network-namespace.sh.
 function(nerix_add_test name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(arg "ISOLATED_NETWORK" "" "SOURCES;LIBRARIES;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     nerix_configure_qt_target(${name})
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} Qt5::Test)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests/bin")
-    add_test(NAME ${name} COMMAND ${name})
+    if(arg_ISOLATED_NETWORK)
+        add_test(NAME ${name}
+            COMMAND "${CMAKE_SOURCE_DIR}/tests/support/in-network-namespace.sh" $<TARGET_FILE:${name}>)
+        if(NOT NERIX_UNSHARE_RESULT EQUAL 0)
+            set_tests_properties(${name} PROPERTIES RESOURCE_LOCK loopback)
+        endif()
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+    endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT 300
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=;${arg_ENVIRONMENT}")
 endfunction()

@@ -15,7 +15,7 @@ packages=(
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2
     qml-module-qtquick-templates2 qml-module-qtgraphicaleffects qml-module-qttest
     # cameras (the USB headers are asked for by Aravis' pkg-config file)
-    libaravis-dev libusb-1.0-0-dev
+    libaravis-dev libusb-1.0-0-dev libglib2.0-dev
     # analytics library
     libsqlite3-dev libcurl4-openssl-dev zlib1g-dev
     # tests and benchmarks: a display without a screen, an isolated network, tools

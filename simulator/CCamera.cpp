@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "CCamera.h"
+
+#include "Address.h"
+#include "Registers.h"
+
+#include <arv.h>
+
+#include <array>
+#include <stdexcept>
+#include <utility>
+
+namespace Simulator {
+
+namespace {
+
+constexpr guint32 ContinuousMode = 1;
+constexpr guint32 FrameCountAtStart = 10;
+constexpr float TemperatureAtStart = 41.5F;
+
+ArvFakeCamera *registersOf(ArvGvFakeCamera *camera)
+{
+    return arv_gv_fake_camera_get_fake_camera(camera);
+}
+
+} // namespace
+
+CCamera::CCamera(std::string address, CIdentity identity, std::string descriptionPath)
+    : m_address(std::move(address))
+    , m_identity(std::move(identity))
+    , m_descriptionPath(std::move(descriptionPath))
+{
+    m_hold = std::make_unique<CAddressHold>(m_address);
+}
+
+CCamera::~CCamera()
+{
+    g_clear_object(&m_camera);
+}
+
+bool CCamera::isPluggedIn() const
+{
+    return m_camera != nullptr;
+}
+
+void CCamera::plugIn()
+{
+    if (isPluggedIn()) {
+        return;
+    }
+    m_hold.reset();
+    m_camera = arv_gv_fake_camera_new_full(m_address.c_str(), m_identity.serial.c_str(),
+                                           m_descriptionPath.c_str());
+    seed();
+    refuseGhost();
+    setLoss(m_loss);
+}
+
+void CCamera::unplug()
+{
+    if (!isPluggedIn()) {
+        return;
+    }
+    m_identity.userName = storedUserName();
+    g_clear_object(&m_camera);
+    m_hold = std::make_unique<CAddressHold>(m_address);
+}
+
+void CCamera::setLoss(double ratio)
+{
+    m_loss = ratio;
+    if (isPluggedIn()) {
+        g_object_set(m_camera, "gvsp-lost-ratio", ratio, nullptr);
+    }
+}
+
+void CCamera::seed()
+{
+    ArvFakeCamera *camera = registersOf(m_camera);
+    seedIdentity(camera, m_identity, macAddress(m_identity.serial, m_address));
+    arv_fake_camera_write_register(camera, ARV_FAKE_CAMERA_REGISTER_ACQUISITION_MODE,
+                                   ContinuousMode);
+    arv_fake_camera_write_register(camera, Registers::FrameCount, FrameCountAtStart);
+    guint32 bits = 0;
+    static_assert(sizeof bits == sizeof TemperatureAtStart);
+    memcpy(&bits, &TemperatureAtStart, sizeof bits);
+    arv_fake_camera_write_register(camera, Registers::Temperature, bits);
+    m_frameSource.attach(camera);
+}
+
+// A camera whose address somebody took between our letting go and its binding gets no word said to
+// it, yet still answers discovery, under an address at which nobody can open it.
+void CCamera::refuseGhost()
+{
+    if (ownsControlPort(m_address)) {
+        return;
+    }
+    g_clear_object(&m_camera);
+    m_hold = std::make_unique<CAddressHold>(m_address);
+    throw std::runtime_error("address " + m_address
+                             + " was let go by another program a moment ago: try again");
+}
+
+std::string CCamera::storedUserName() const
+{
+    std::array<char, Registers::UserNameSize + 1> text{};
+    arv_fake_camera_read_memory(registersOf(m_camera), Registers::UserName, Registers::UserNameSize,
+                                text.data());
+    return text.data();
+}
+
+} // namespace Simulator
