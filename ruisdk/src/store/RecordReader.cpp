@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/RecordReader.h"
+
+#include "core/Failure.h"
+#include "store/Schema.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace rui {
+
+namespace {
+
+// Reading never waits for a writer; only opening does, for a moment.
+constexpr std::chrono::milliseconds openingLimit{2000};
+
+std::optional<Database> openForReading(const StorePaths &paths)
+{
+    if (!std::filesystem::exists(paths.database())) {
+        return std::nullopt;
+    }
+    Database database(paths.database(), Database::Access::ReadOnly,
+                      std::make_shared<BusyLimit>(openingLimit));
+    return hasSchema(database) ? std::optional<Database>(std::move(database)) : std::nullopt;
+}
+
+Database requireDatabase(const StorePaths &paths)
+{
+    auto database = openForReading(paths);
+    if (!database) {
+        throw Failure(RUI_STORAGE, paths.directory() + ": no usage events are stored here");
+    }
+    return std::move(*database);
+}
+
+std::string querySql(const RecordFilter &filter)
+{
+    std::string sql = "SELECT seq, state, time, uid, resource, category, name, session, text"
+                      " FROM record WHERE seq > ?1";
+    sql += filter.category ? " AND category = ?2" : "";
+    sql += filter.name ? " AND name = ?3" : "";
+    sql += filter.since ? " AND time >= ?4" : "";
+    sql += filter.until ? " AND time < ?5" : "";
+    return sql + " ORDER BY seq";
+}
+
+void bindFilter(Statement &query, const RecordFilter &filter)
+{
+    if (filter.category) {
+        query.bind(2, *filter.category);
+    }
+    if (filter.name) {
+        query.bind(3, *filter.name);
+    }
+    if (filter.since) {
+        query.bind(4, *filter.since);
+    }
+    if (filter.until) {
+        query.bind(5, *filter.until);
+    }
+}
+
+Record recordOf(const Statement &query)
+{
+    Record record;
+    record.seq = query.integer(0);
+    record.state = query.text(1);
+    record.time = query.integer(2);
+    record.uid = query.text(3);
+    record.resource = query.integer(4);
+    record.category = query.text(5);
+    record.name = query.text(6);
+    record.session = query.text(7);
+    if (!query.isNull(8)) {
+        record.text = std::string(query.text(8));
+    }
+    return record;
+}
+
+} // namespace
+
+RecordReader::RecordReader(const StorePaths &paths)
+    : m_database(openForReading(paths))
+{}
+
+std::int64_t RecordReader::read(const RecordFilter &filter, std::int64_t after,
+                                const std::function<void(const Record &)> &take) const
+{
+    std::int64_t last = after;
+    Statement query = m_database.prepare(querySql(filter));
+    query.bind(1, after);
+    bindFilter(query, filter);
+    while (query.step()) {
+        const Record record = recordOf(query);
+        last = std::max(last, record.seq);
+        take(record);
+    }
+    return last;
+}
+
+std::int64_t RecordReader::version() const
+{
+    return m_database.integer("PRAGMA data_version");
+}
+
+bool RecordReader::hasMoved() const
+{
+    return m_database.hasMoved();
+}
+
+} // namespace rui

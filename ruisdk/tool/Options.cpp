@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "Options.h"
+
+#include "core/TimeText.h"
+
+#include <functional>
+#include <map>
+
+namespace rui::tool {
+
+namespace {
+
+std::int64_t timeOption(const std::string &option, const std::string &value)
+{
+    const auto time = parseTime(value);
+    if (!time) {
+        throw UsageError(option + " '" + value
+                         + "': write a UTC time as 2026-11-20 or 2026-11-20T18:30:00");
+    }
+    return *time;
+}
+
+using FlagAction = std::function<void(Options &)>;
+using ValueAction = std::function<void(Options &, const std::string &value)>;
+
+const std::map<std::string, FlagAction> &flags()
+{
+    static const std::map<std::string, FlagAction> table = {
+        {"--help", [](Options &options) { options.command = Command::Help; }},
+        {"--version", [](Options &options) { options.command = Command::Version; }},
+        {"--follow", [](Options &options) { options.follow = true; }},
+        {"--json", [](Options &options) { options.format = Format::Json; }},
+        {"--csv", [](Options &options) { options.format = Format::Csv; }},
+        {"--raw", [](Options &options) { options.format = Format::Raw; }},
+    };
+    return table;
+}
+
+const std::map<std::string, ValueAction> &valueOptions()
+{
+    static const std::map<std::string, ValueAction> table = {
+        {"--category", [](Options &options, const std::string &v) { options.filter.category = v; }},
+        {"--name", [](Options &options, const std::string &v) { options.filter.name = v; }},
+        {"--since", [](Options &options,
+                       const std::string &v) { options.filter.since = timeOption("--since", v); }},
+        {"--until", [](Options &options,
+                       const std::string &v) { options.filter.until = timeOption("--until", v); }},
+    };
+    return table;
+}
+
+void takeDirectory(Options &options, const std::string &argument)
+{
+    if (!options.directory.empty()) {
+        throw UsageError("'" + argument + "': one directory is enough");
+    }
+    if (argument.empty()) {
+        throw UsageError("the directory is empty; name the configuration directory");
+    }
+    options.directory = argument;
+}
+
+// Handles the argument at the index, and returns how many it took.
+std::size_t takeArgument(Options &options, const std::vector<std::string> &arguments,
+                         std::size_t at)
+{
+    const std::string &argument = arguments[at];
+    if (const auto flag = flags().find(argument); flag != flags().end()) {
+        flag->second(options);
+        return 1;
+    }
+    if (const auto option = valueOptions().find(argument); option != valueOptions().end()) {
+        if (at + 1 == arguments.size()) {
+            throw UsageError(argument + " needs a value");
+        }
+        option->second(options, arguments[at + 1]);
+        return 2;
+    }
+    if (argument.rfind('-', 0) == 0) {
+        throw UsageError("unknown option '" + argument + "'; see --help");
+    }
+    takeDirectory(options, argument);
+    return 1;
+}
+
+} // namespace
+
+Options parseOptions(const std::vector<std::string> &arguments)
+{
+    Options options;
+    for (std::size_t at = 0; at < arguments.size();) {
+        at += takeArgument(options, arguments, at);
+    }
+    if (options.command == Command::List && options.directory.empty()) {
+        throw UsageError("name the configuration directory; see --help");
+    }
+    return options;
+}
+
+const char *helpText()
+{
+    return "usage: rui-events [OPTIONS] DIRECTORY\n"
+           "\n"
+           "Prints the usage events that are stored in a configuration directory, oldest first.\n"
+           "\n"
+           "  --json           one JSON object a line, with every detail\n"
+           "  --csv            comma-separated values with a header line\n"
+           "  --raw            category, tab, name, tab and the very bytes of the text\n"
+           "  --follow         go on with new events until interrupted\n"
+           "  --category TEXT  only events of this category\n"
+           "  --name TEXT      only events of this name\n"
+           "  --since TIME     only events from this UTC time on, as 2026-11-20T18:30:00\n"
+           "  --until TIME     only events before this UTC time\n"
+           "  --help           this text\n"
+           "  --version        the version\n";
+}
+
+} // namespace rui::tool
