@@ -81,8 +81,15 @@ Record recordOf(const Statement &query)
 } // namespace
 
 RecordReader::RecordReader(const StorePaths &paths)
-    : m_database(openForReading(paths))
+    : m_database(requireDatabase(paths))
 {}
+
+std::optional<RecordReader> RecordReader::tryOpen(const StorePaths &paths)
+{
+    auto database = openForReading(paths);
+    return database ? std::optional<RecordReader>(RecordReader(std::move(*database)))
+                    : std::nullopt;
+}
 
 std::int64_t RecordReader::read(const RecordFilter &filter, std::int64_t after,
                                 const std::function<void(const Record &)> &take) const
