@@ -180,10 +180,19 @@ void CHostedPlugin::failIn(const char *operation, const QString &reason)
                     .arg(m_spec.name(), QString::fromLatin1(operation), reason, m_spec.remedy()));
 }
 
+std::unique_ptr<Core::Plugin::IPlugin> CHostedPlugin::createBuiltIn()
+{
+    auto plugin = m_factory();
+    if (!plugin) {
+        failIn("its constructor", QStringLiteral("there is no object"));
+    }
+    return plugin;
+}
+
 std::unique_ptr<Core::Plugin::IPlugin> CHostedPlugin::create()
 {
     if (m_spec.isBuiltIn()) {
-        return m_factory();
+        return createBuiltIn();
     }
     QString reason;
     auto plugin = loadPluginLibrary(m_spec.libraryPath(), reason);

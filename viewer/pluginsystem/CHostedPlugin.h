@@ -69,6 +69,7 @@ private:
     template <class Step>
     bool guarded(const char *operation, Step step);
     void failIn(const char *operation, const QString &reason);
+    std::unique_ptr<Core::Plugin::IPlugin> createBuiltIn();
     std::unique_ptr<Core::Plugin::IPlugin> create();
     bool isWorking() const;
 

@@ -157,7 +157,7 @@ QStringList CPluginManager::errors() const
 void CPluginManager::add(std::unique_ptr<CHostedPlugin> plugin)
 {
     CPluginSpec &spec = plugin->spec();
-    const CPluginSpec *other = findSpec(specsOf(m_plugins), spec.metaData().name);
+    const CPluginSpec *other = findSpec(specsOf(m_plugins), spec.name());
     if (!spec.hasError() && other && !other->hasError()) {
         spec.fail(alreadyThere(spec, *other));
     }

@@ -46,7 +46,7 @@ CPluginSpec *findSpec(const QVector<CPluginSpec *> &specs, const QString &name)
 {
     CPluginSpec *found = nullptr;
     for (CPluginSpec *spec : specs) {
-        if (spec->metaData().name == name && (!found || (found->hasError() && !spec->hasError()))) {
+        if (spec->name() == name && (!found || (found->hasError() && !spec->hasError()))) {
             found = spec;
         }
     }
