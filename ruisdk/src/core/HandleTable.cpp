@@ -4,7 +4,7 @@
 
 #include "core/Random.h"
 
-#include <algorithm>
+#include <pthread.h>
 
 namespace rui {
 
@@ -15,7 +15,8 @@ constexpr int slotBits = 16;
 constexpr std::uint64_t slotMask = (std::uint64_t{1} << slotBits) - 1;
 constexpr std::uint64_t generationMask = ~std::uint64_t{0} >> slotBits;
 
-constexpr std::size_t noSlot = slotMask;
+constexpr std::size_t maxSlots = slotMask;
+constexpr std::size_t noSlot = maxSlots;
 
 ruiInstance makeHandle(std::size_t slot, std::uint64_t generation)
 {
@@ -27,7 +28,12 @@ ruiInstance makeHandle(std::size_t slot, std::uint64_t generation)
 
 HandleTable &HandleTable::process()
 {
-    static auto *table = new HandleTable;
+    static HandleTable *table = [] {
+        auto *created = new HandleTable;
+        pthread_atfork([] { process().m_mutex.lock(); }, [] { process().m_mutex.unlock(); },
+                       [] { process().forgetAfterFork(); });
+        return created;
+    }();
     return *table;
 }
 
@@ -38,12 +44,9 @@ HandleTable::HandleTable()
 ruiInstance HandleTable::add(std::shared_ptr<Instance> instance)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const std::size_t slot = freeSlot();
-    if (slot >= slotMask) {
+    const std::size_t slot = takeSlot();
+    if (slot == noSlot) {
         return nullptr;
-    }
-    if (slot == m_slots.size()) {
-        m_slots.emplace_back();
     }
     m_nextGeneration = (m_nextGeneration + 1) & generationMask;
     m_slots[slot] = {m_nextGeneration, std::move(instance)};
@@ -61,7 +64,11 @@ std::shared_ptr<Instance> HandleTable::remove(ruiInstance handle)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const std::size_t slot = slotOf(handle);
-    return slot == noSlot ? nullptr : std::move(m_slots[slot].instance);
+    if (slot == noSlot) {
+        return nullptr;
+    }
+    m_free.push_back(slot);
+    return std::move(m_slots[slot].instance);
 }
 
 std::vector<std::shared_ptr<Instance>> HandleTable::all() const
@@ -76,11 +83,29 @@ std::vector<std::shared_ptr<Instance>> HandleTable::all() const
     return instances;
 }
 
-std::size_t HandleTable::freeSlot() const
+void HandleTable::forgetAfterFork()
 {
-    const auto isFree = [](const Slot &slot) { return !slot.instance; };
-    const auto found = std::find_if(m_slots.begin(), m_slots.end(), isFree);
-    return static_cast<std::size_t>(found - m_slots.begin());
+    // Not destroyed: SQLite's connections must not even be closed in a forked process, and the
+    // threads that use them do not exist here.
+    new std::vector<Slot>(std::move(m_slots));
+    m_slots.clear();
+    m_free.clear();
+    m_nextGeneration = random64() & generationMask;
+    m_mutex.unlock();
+}
+
+std::size_t HandleTable::takeSlot()
+{
+    if (m_free.empty()) {
+        if (m_slots.size() == maxSlots) {
+            return noSlot;
+        }
+        m_slots.emplace_back();
+        return m_slots.size() - 1;
+    }
+    const std::size_t slot = m_free.back();
+    m_free.pop_back();
+    return slot;
 }
 
 std::size_t HandleTable::slotOf(ruiInstance handle) const

@@ -42,11 +42,13 @@ private:
         std::shared_ptr<Instance> instance;
     };
 
-    std::size_t freeSlot() const;
+    void forgetAfterFork();
+    std::size_t takeSlot();
     std::size_t slotOf(ruiInstance handle) const;
 
     mutable std::mutex m_mutex;
     std::vector<Slot> m_slots;
+    std::vector<std::size_t> m_free;
     // Starts anywhere, so that handles of other processes and of a forked parent do not match.
     std::uint64_t m_nextGeneration;
 };

@@ -27,38 +27,15 @@ Store::Store(StorePaths paths, OpeningOptions options, Limits limits, const Cloc
     m_connection.emplace(openStore(m_paths, m_options, m_busyLimit));
 }
 
-void Store::join(const Product &product)
+template <typename Action>
+void Store::recovering(Action action)
 {
-    if (!isCurrent()) {
-        reopen(false);
-    }
-    m_membership = joinConsent(connection().database, product);
-    m_product = product;
-}
-
-void Store::leave()
-{
-    m_product.reset();
-}
-
-void Store::withdraw(const Product &product)
-{
-    if (!isCurrent()) {
-        reopen(false);
-    }
-    withdrawConsent(connection().database, product, m_clock.now());
-}
-
-void Store::add(const Event &event)
-{
-    refuseTooLarge(event);
     for (int reopenings = 0;; ++reopenings) {
         try {
-            const Occupancy occupancy = insert(event);
-            // Looked at after the commit: what was committed to a file that had been moved away
-            // is not in the database that others read.
-            if (isCurrent()) {
-                keepToQuota(occupancy);
+            action(connection());
+            // Looked at afterwards: what was committed to a file that had been moved away is not
+            // in the database that others read.
+            if (!m_connection->database.hasMoved()) {
                 return;
             }
             if (reopenings == maxReopenings) {
@@ -74,6 +51,35 @@ void Store::add(const Event &event)
     }
 }
 
+void Store::join(const Product &product)
+{
+    recovering([&](Connection &current) { m_membership = joinConsent(current.database, product); });
+    m_product = product;
+}
+
+void Store::leave()
+{
+    m_product.reset();
+}
+
+void Store::withdraw(const Product &product)
+{
+    recovering(
+        [&](Connection &current) { withdrawConsent(current.database, product, m_clock.now()); });
+}
+
+void Store::add(const Event &event)
+{
+    if (event.size() > m_limits.maxEventBytes) {
+        recovering(
+            [](Connection &current) { addLoss(current.database, LossReason::EventSize, 1); });
+        throw Failure(RUI_TOO_LARGE, "an event of " + std::to_string(event.size()) + " bytes");
+    }
+    Occupancy occupancy;
+    recovering([&](Connection &current) { occupancy = insert(current, event); });
+    keepToQuota(occupancy);
+}
+
 void Store::stopWaiting(bool stop) noexcept
 {
     m_busyLimit->giveUp = stop;
@@ -87,26 +93,13 @@ Store::Connection &Store::connection()
     return *m_connection;
 }
 
-void Store::refuseTooLarge(const Event &event)
+Occupancy Store::insert(Connection &current, const Event &event) const
 {
-    if (event.size() > m_limits.maxEventBytes) {
-        addLoss(connection().database, LossReason::EventSize, 1);
-        throw Failure(RUI_TOO_LARGE, "an event of " + std::to_string(event.size()) + " bytes");
-    }
-}
-
-Occupancy Store::insert(const Event &event)
-{
-    const auto occupancy = connection().insert.run(event, m_membership, m_clock.now());
+    const auto occupancy = current.insert.run(event, m_membership, m_clock.now());
     if (!occupancy) {
         throw Failure(RUI_OPTED_OUT, "consent was withdrawn");
     }
     return *occupancy;
-}
-
-bool Store::isCurrent()
-{
-    return !connection().database.hasMoved();
 }
 
 void Store::reopen(bool verify)

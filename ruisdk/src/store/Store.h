@@ -46,9 +46,9 @@ private:
     };
 
     Connection &connection();
-    void refuseTooLarge(const Event &event);
-    Occupancy insert(const Event &event);
-    bool isCurrent();
+    template <typename Action>
+    void recovering(Action action);
+    Occupancy insert(Connection &current, const Event &event) const;
     void reopen(bool verify);
     void keepToQuota(const Occupancy &occupancy) noexcept;
 

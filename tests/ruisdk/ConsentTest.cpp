@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/Consent.h"
+
+#include "core/Failure.h"
+#include "store/StoreOpening.h"
+#include "StoredRecords.h"
+#include "TemporaryDirectory.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace rui;
+using namespace rui::test;
+
+const Product product{"1", "app", "edition", "language", "7.1.0", "11271"};
+const Product update{"1", "app", "edition", "language", "7.2.0", "12000"};
+
+class Consent : public testing::Test
+{
+protected:
+    TemporaryDirectory m_directory;
+    Database m_database = openStore(StorePaths(m_directory.path()), {},
+                                    std::make_shared<BusyLimit>(std::chrono::milliseconds(100)));
+};
+
+TEST_F(Consent, FirstSessionIsUnderTheFirstEpoch)
+{
+    EXPECT_EQ(joinConsent(m_database, product).epoch, 1);
+}
+
+TEST_F(Consent, SameProductUnderTheSameClientIsOneResource)
+{
+    const auto first = joinConsent(m_database, product);
+    const auto second = joinConsent(m_database, product);
+    const auto other = joinConsent(m_database, update);
+    EXPECT_EQ(first.resource, second.resource);
+    EXPECT_NE(first.resource, other.resource);
+    EXPECT_EQ(queryValue(m_directory.path(), "SELECT count(DISTINCT client) FROM resource"), "1");
+}
+
+TEST_F(Consent, WithdrawalRaisesTheEpochByOne)
+{
+    joinConsent(m_database, product);
+    withdrawConsent(m_database, product, 0);
+    EXPECT_EQ(joinConsent(m_database, product).epoch, 2);
+}
+
+TEST_F(Consent, RecordOfTheWithdrawalHasItsTime)
+{
+    joinConsent(m_database, product);
+    withdrawConsent(m_database, product, 1795199937000000000);
+    EXPECT_EQ(queryValue(m_directory.path(), "SELECT time FROM notice"), "1795199937000000000");
+}
+
+TEST_F(Consent, FailedWithdrawalChangesNothing)
+{
+    joinConsent(m_database, product);
+    const auto before = query(m_directory.path(), "SELECT * FROM state");
+    change(m_directory.path(), "CREATE TRIGGER refuse BEFORE INSERT ON notice BEGIN"
+                               " SELECT RAISE(ABORT, 'refused'); END");
+    EXPECT_THROW(withdrawConsent(m_database, product, 0), Failure);
+    EXPECT_EQ(query(m_directory.path(), "SELECT * FROM state"), before);
+}
+
+} // namespace

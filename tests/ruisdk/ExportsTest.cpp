@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "Child.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+
+namespace {
+
+TEST(Exports, AreTheFunctionsOfTheHeaderAndNothingElse)
+{
+    const auto outcome = rui::test::runProgram(
+        {"nm", "-D", "--defined-only", "--format=just-symbols", RUI_SDK_LIBRARY});
+    ASSERT_EQ(outcome.status, 0) << outcome.errors;
+    std::istringstream lines(outcome.output);
+    std::set<std::string> names;
+    for (std::string line; lines >> line;) {
+        names.insert(line);
+    }
+    EXPECT_EQ(names, (std::set<std::string>{"ruiCreateConfig", "ruiCreateInstance",
+                                            "ruiDestroyInstance", "ruiOptOut", "ruiResultText",
+                                            "ruiSetProductData", "ruiStartSDK", "ruiStopSDK",
+                                            "ruiTrackEvent", "ruiTrackEventText"}));
+}
+
+} // namespace

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+//
+// Several processes at one directory.
+#include "Child.h"
+#include "Session.h"
+#include "StoredRecords.h"
+#include "TemporaryDirectory.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <memory>
+
+namespace {
+
+using namespace rui::test;
+
+TEST(Processes, FourWritersThatStartTogetherLoseNothing)
+{
+    const TemporaryDirectory directory;
+    std::vector<std::unique_ptr<Child>> writers;
+    for (const char *name : {"a", "b", "c", "d"}) {
+        writers.push_back(std::make_unique<Child>(
+            std::vector<std::string>{RUI_WRITER_PROGRAM, directory.path(), name, "500"}));
+    }
+    for (const auto &writer : writers) {
+        EXPECT_EQ(writer->readAll().find("failed"), std::string::npos);
+        EXPECT_EQ(writer->wait(), 0) << writer->readErrors();
+    }
+    EXPECT_EQ(queryValue(directory.path(), "SELECT count(DISTINCT text) FROM event"), "2000");
+    EXPECT_EQ(queryValue(directory.path(), "SELECT count(*) FROM event"), "2000");
+    EXPECT_EQ(queryValue(directory.path(), "PRAGMA integrity_check"), "ok");
+}
+
+TEST(Processes, OptOutReachesASessionInAnotherProcess)
+{
+    const TemporaryDirectory directory;
+    Child writer({RUI_WRITER_PROGRAM, directory.path(), "w", "100000000"});
+    std::string line;
+    ASSERT_TRUE(writer.readLine(line));
+    EXPECT_EQ(line, "w 1");
+    Session session;
+    session.config(directory.path());
+    session.product();
+    EXPECT_EQ(session.optOut(), 0);
+    while (writer.readLine(line) && line.find("failed") == std::string::npos) {
+    }
+    EXPECT_NE(line.find(" failed 7"), std::string::npos) << line;
+    EXPECT_EQ(storedTexts(directory.path()), std::vector<std::string>{"(null)"});
+}
+
+TEST(Processes, HandleIsABadHandleInAForkedProcess)
+{
+    const TemporaryDirectory directory;
+    Session session;
+    ASSERT_EQ(session.open(directory.path()), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        const int32_t tracked = session.track("text");
+        const int32_t destroyed = session.destroy();
+        _exit(tracked == RUI_BAD_HANDLE && destroyed == RUI_BAD_HANDLE ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(session.track("still here"), 0);
+    EXPECT_EQ(storedTexts(directory.path()), std::vector<std::string>{"still here"});
+}
+
+} // namespace

@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/Quota.h"
+
+#include "store/Store.h"
+#include "StoredRecords.h"
+#include "TemporaryDirectory.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace rui;
+using namespace rui::test;
+
+class SetClock : public Clock
+{
+public:
+    std::int64_t now() const override
+    {
+        return time;
+    }
+
+    std::int64_t time = 0;
+};
+
+constexpr std::int64_t day = 24 * 3600 * nanosecondsPerSecond;
+
+class Quota : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        m_limits.maxEvents = 3;
+        m_limits.maxBytes = 100;
+    }
+
+    Store &store()
+    {
+        if (!m_store) {
+            m_store.emplace(StorePaths(m_directory.path()), OpeningOptions{}, m_limits, m_clock);
+            m_store->join({"1", "app", "", "", "", ""});
+        }
+        return *m_store;
+    }
+
+    void add(const std::string &text)
+    {
+        store().add({"", "", "", text});
+    }
+
+    void drop()
+    {
+        Database database(databasePath(m_directory.path()), Database::Access::ReadWrite,
+                          std::make_shared<BusyLimit>(std::chrono::milliseconds(1000)));
+        dropExpired(database, m_limits, m_clock.time);
+    }
+
+    std::vector<std::string> texts()
+    {
+        return storedTexts(m_directory.path());
+    }
+
+    std::vector<Row> losses()
+    {
+        return query(m_directory.path(), "SELECT reason, lost FROM loss ORDER BY reason");
+    }
+
+    TemporaryDirectory m_directory;
+    Limits m_limits;
+    SetClock m_clock;
+    std::optional<Store> m_store;
+};
+
+using Texts = std::vector<std::string>;
+using Rows = std::vector<Row>;
+
+TEST_F(Quota, AllowedNumberIsKept)
+{
+    add("1");
+    add("2");
+    add("3");
+    EXPECT_EQ(texts(), (Texts{"1", "2", "3"}));
+    EXPECT_EQ(losses(), Rows{});
+}
+
+TEST_F(Quota, OldestGoesFirstAndIsCounted)
+{
+    for (const char *text : {"1", "2", "3", "4", "5"}) {
+        add(text);
+    }
+    EXPECT_EQ(texts(), (Texts{"3", "4", "5"}));
+    EXPECT_EQ(losses(), (Rows{{"maxEvents", "2"}}));
+}
+
+TEST_F(Quota, BytesCountTheTextsOfAnEvent)
+{
+    add(std::string(60, 'a'));
+    add(std::string(40, 'b'));
+    EXPECT_EQ(losses(), Rows{});
+    add("c");
+    EXPECT_EQ(texts(), (Texts{std::string(40, 'b'), "c"}));
+    EXPECT_EQ(losses(), (Rows{{"maxBytes", "1"}}));
+}
+
+TEST_F(Quota, OneLargeEventMayPushOutSeveral)
+{
+    add("1");
+    add("2");
+    add(std::string(99, 'x'));
+    EXPECT_EQ(texts(), (Texts{"2", std::string(99, 'x')}));
+    add(std::string(100, 'y'));
+    EXPECT_EQ(texts(), (Texts{std::string(100, 'y')}));
+    EXPECT_EQ(losses(), (Rows{{"maxBytes", "3"}}));
+}
+
+TEST_F(Quota, NumbersGoOnWhenEverythingWasPushedOut)
+{
+    m_limits.maxEvents = 0;
+    add("1");
+    add("2");
+    EXPECT_EQ(texts(), Texts{});
+    m_store.reset();
+    m_limits.maxEvents = 3;
+    add("3");
+    EXPECT_EQ(queryValue(m_directory.path(), "SELECT seq FROM event"), "3");
+}
+
+TEST_F(Quota, EventIsTooOldAfterThirtyDays)
+{
+    m_clock.time = 1000 * day;
+    add("old");
+    m_clock.time += 1;
+    add("young");
+    m_clock.time = 1030 * day;
+    drop();
+    EXPECT_EQ(texts(), (Texts{"old", "young"}));
+    m_clock.time += 1;
+    drop();
+    EXPECT_EQ(texts(), (Texts{"young"}));
+    EXPECT_EQ(losses(), (Rows{{"maxAge", "1"}}));
+}
+
+TEST_F(Quota, GapsThatExpiryLeavesAreNotCountedAsEvents)
+{
+    m_clock.time = 100 * day;
+    add("new");
+    m_clock.time = 1 * day;
+    add("old by a clock that was set back");
+    m_clock.time = 100 * day;
+    add("newer");
+    drop();
+    add("newest");
+    EXPECT_EQ(texts(), (Texts{"new", "newer", "newest"}));
+    EXPECT_EQ(losses(), (Rows{{"maxAge", "1"}}));
+    add("last");
+    EXPECT_EQ(texts(), (Texts{"newer", "newest", "last"}));
+}
+
+TEST_F(Quota, OptOutRecordsAreNeverPushedOutAndNotCounted)
+{
+    add("1");
+    store().withdraw({"1", "app", "", "", "", ""});
+    store().join({"1", "app", "", "", "", ""});
+    for (const char *text : {"2", "3", "4", "5"}) {
+        add(text);
+    }
+    m_clock.time = 1000 * day;
+    drop();
+    EXPECT_EQ(query(m_directory.path(), "SELECT name FROM record"), (Rows{{"OptOut"}}));
+}
+
+TEST_F(Quota, DefaultsAreThePublishedOnes)
+{
+    const Limits limits;
+    EXPECT_EQ(limits.maxEvents, 10000);
+    EXPECT_EQ(limits.maxBytes, 52428800);
+    EXPECT_EQ(limits.maxAge, std::chrono::hours(720));
+    EXPECT_EQ(limits.maxEventBytes, 1048576);
+    EXPECT_EQ(limits.deliveredEvents, 1000);
+}
+
+} // namespace
