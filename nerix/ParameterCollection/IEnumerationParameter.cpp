@@ -11,4 +11,9 @@ IEnumerationParameter::IEnumerationParameter(QObject *parent)
 
 IEnumerationParameter::~IEnumerationParameter() = default;
 
+QStringList IEnumerationParameter::entries() const
+{
+    return {};
+}
+
 } // namespace ParameterCollection

@@ -5,6 +5,7 @@
 #include <NerixCoreExport.h>
 #include <ParameterCollection/IParameter.h>
 
+#include <QStringList>
 #include <QtGlobal>
 
 namespace ParameterCollection {
@@ -20,6 +21,11 @@ public:
     /// The number of the current entry, as the device description defines it.
     /// @throws CParameterException if it cannot be read.
     virtual qint64 intValue() const = 0;
+
+    /// The names of the entries that can be chosen at this moment, in the description's order. The
+    /// base knows none.
+    /// @throws CParameterException if they cannot be read.
+    virtual QStringList entries() const;
 
 protected:
     explicit IEnumerationParameter(QObject *parent = nullptr);

@@ -3,6 +3,8 @@
 
 #include <ParameterCollection/IIntegerParameter.h>
 
+#include <limits>
+
 namespace ParameterCollection {
 
 IIntegerParameter::IIntegerParameter(QObject *parent)
@@ -10,5 +12,20 @@ IIntegerParameter::IIntegerParameter(QObject *parent)
 {}
 
 IIntegerParameter::~IIntegerParameter() = default;
+
+qint64 IIntegerParameter::minimum() const
+{
+    return std::numeric_limits<qint64>::min();
+}
+
+qint64 IIntegerParameter::maximum() const
+{
+    return std::numeric_limits<qint64>::max();
+}
+
+qint64 IIntegerParameter::increment() const
+{
+    return 1;
+}
 
 } // namespace ParameterCollection

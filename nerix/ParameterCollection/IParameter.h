@@ -3,8 +3,10 @@
 #pragma once
 
 #include <NerixCoreExport.h>
+#include <ParameterCollection/AccessMode.h>
 #include <ParameterCollection/CParameterException.h>
 #include <ParameterCollection/InterfaceType.h>
+#include <ParameterCollection/Visibility.h>
 
 #include <QObject>
 #include <QSharedPointer>
@@ -54,6 +56,30 @@ public:
     /// @throws CParameterException if the text is no such value, is outside the limits or the
     /// parameter cannot be written; nothing is emitted then.
     virtual void setValueText(const QString &text) = 0;
+
+    /// @name What a window shows beside the value
+    /// The base answers for a parameter of which no more is known.
+    /// @{
+
+    /// What can be done with the parameter at this moment; a parameter that is locked can only be
+    /// read. The base derives it from the questions above.
+    virtual AccessMode accessMode() const;
+
+    /// The name for people, for example "Exposure Time". The base gives `name`.
+    virtual QString displayName() const;
+
+    /// A sentence or so of explanation. Empty for none.
+    virtual QString toolTip() const;
+
+    /// The unit of the value, for example "us". Empty for none.
+    virtual QString unit() const;
+
+    virtual Visibility visibility() const;
+
+    /// The full name of the category that the parameter is in. Empty at the top of the tree.
+    virtual QString category() const;
+
+    /// @}
 
 Q_SIGNALS:
     /// \a newValue, as text, is about to be set. Emitted in the thread that sets it, while no lock
