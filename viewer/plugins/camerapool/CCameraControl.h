@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ICameraControlService.h"
+
+#include <QHash>
+#include <QMutex>
+
+namespace CameraPool {
+
+class CPoolWorker;
+
+/// The state of the pool, as every thread may read it. Passes requests on to the worker in the
+/// pool's thread.
+class CCameraControl : public ICameraControlService
+{
+    Q_OBJECT
+
+public:
+    CCameraControl();
+    ~CCameraControl() override;
+
+    /// Where requests go. Set once, before the first request; the worker outlives the last one.
+    void setWorker(CPoolWorker *worker);
+
+    QList<Core::CameraPoolComponents::CameraInfoPtr> cameras() const override;
+    CameraState state(const Core::CameraPoolComponents::CameraInfoPtr &camera) const override;
+    void open(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
+    void close(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
+    void closeAll() override;
+
+    /// Takes over what the worker knows. A camera that is not in \a states is gone.
+    void publish(const QList<Core::CameraPoolComponents::CameraInfoPtr> &cameras,
+                 const QHash<QString, CameraState> &states);
+
+private:
+    template <class Request>
+    void post(Request request);
+
+    CPoolWorker *m_worker = nullptr;
+    mutable QMutex m_mutex;
+    QList<Core::CameraPoolComponents::CameraInfoPtr> m_cameras; // guarded by m_mutex
+    QHash<QString, CameraState> m_states;                       // guarded by m_mutex
+};
+
+} // namespace CameraPool

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "CCameraInfo.h"
+
+#include <utility>
+
+namespace CameraPool {
+
+CCameraInfo::CCameraInfo(CFoundCamera found)
+    : m_found(std::move(found))
+{}
+
+CCameraInfo::~CCameraInfo() = default;
+
+QString CCameraInfo::identity() const
+{
+    return m_found.identity();
+}
+
+QString CCameraInfo::displayName() const
+{
+    return m_found.userName.isEmpty() ? m_found.identity() : m_found.userName;
+}
+
+QString CCameraInfo::modelName() const
+{
+    return m_found.model;
+}
+
+QString CCameraInfo::vendorName() const
+{
+    return m_found.vendor;
+}
+
+} // namespace CameraPool

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "CCameraTable.h"
+
+#include "CCameraInfo.h"
+
+#include <algorithm>
+
+namespace CameraPool {
+
+CCameraTable::Changes CCameraTable::update(const QVector<CFoundCamera> &found,
+                                           const QSet<QString> &openIdentities)
+{
+    Changes changes;
+    for (Entry &entry : m_entries) {
+        entry.wasFound = false;
+    }
+    for (const CFoundCamera &camera : found) {
+        take(camera, &changes);
+    }
+    for (Entry &entry : m_entries) {
+        if (entry.isThere && !entry.wasFound) {
+            miss(&entry, openIdentities.contains(entry.found.identity()), &changes);
+        }
+    }
+    return changes;
+}
+
+void CCameraTable::remove(const QString &identity)
+{
+    for (Entry &entry : m_entries) {
+        if (entry.found.identity() == identity) {
+            entry.isThere = false;
+        }
+    }
+}
+
+void CCameraTable::setControlled(const QString &identity, bool isControlled)
+{
+    for (Entry &entry : m_entries) {
+        if (entry.found.identity() == identity) {
+            entry.found.isControlled = isControlled;
+        }
+    }
+}
+
+QList<CCameraTable::CameraInfoPtr> CCameraTable::cameras() const
+{
+    QList<CameraInfoPtr> infos;
+    for (const Entry &entry : m_entries) {
+        if (entry.isThere) {
+            infos.append(entry.info);
+        }
+    }
+    return infos;
+}
+
+const CFoundCamera *CCameraTable::find(const QString &identity) const
+{
+    for (const Entry &entry : m_entries) {
+        if (entry.isThere && entry.found.identity() == identity) {
+            return &entry.found;
+        }
+    }
+    return nullptr;
+}
+
+CCameraTable::Entry &CCameraTable::entry(const QString &identity)
+{
+    const auto known = std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &entry) {
+        return entry.found.identity() == identity;
+    });
+    if (known != m_entries.end()) {
+        return *known;
+    }
+    m_entries.append(Entry());
+    return m_entries.last();
+}
+
+void CCameraTable::take(const CFoundCamera &found, Changes *changes)
+{
+    Entry &camera = entry(found.identity());
+    if (!camera.info || camera.found.userName != found.userName) {
+        camera.info.reset(new CCameraInfo(found));
+    }
+    camera.found = found;
+    camera.misses = 0;
+    camera.wasFound = true;
+    if (!camera.isThere) {
+        camera.isThere = true;
+        changes->connected.append(camera.info);
+    }
+}
+
+void CCameraTable::miss(Entry *entry, bool isOpen, Changes *changes)
+{
+    if (++entry->misses < MissesUntilGone) {
+        return;
+    }
+    if (isOpen) {
+        changes->suspects.append(entry->info);
+        return;
+    }
+    entry->isThere = false;
+    changes->gone.append(entry->info);
+}
+
+} // namespace CameraPool

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CFoundCamera.h"
+
+#include <Core/CameraPoolComponents/ICameraInfo.h>
+
+#include <QList>
+#include <QSet>
+#include <QString>
+#include <QVector>
+
+namespace CameraPool {
+
+/// What the searches know: which cameras are there, and how often each was missed. A camera counts
+/// as gone after two misses in a row, because one answer is easily lost on a busy network. Pure
+/// logic, used in one thread.
+class CCameraTable
+{
+public:
+    using CameraInfoPtr = Core::CameraPoolComponents::CameraInfoPtr;
+
+    /// From how many searches in a row a camera must be missing to count as gone.
+    static constexpr int MissesUntilGone = 2;
+
+    /// What a search changed, in the table's order.
+    struct Changes
+    {
+        QList<CameraInfoPtr> connected;
+        QList<CameraInfoPtr> gone;
+        QList<CameraInfoPtr> suspects; ///< missed as often as that, but open: ask the device itself
+    };
+
+    /// Takes the result of a search. A camera that was renamed keeps its place and gets a new
+    /// description; it is neither connected nor gone by that.
+    Changes update(const QVector<CFoundCamera> &found, const QSet<QString> &openIdentities);
+
+    /// Forgets that the camera is there, as if it had been missed often enough.
+    void remove(const QString &identity);
+
+    /// Notes who controls the camera, between two searches that tell it too.
+    void setControlled(const QString &identity, bool isControlled);
+
+    /// The cameras that are there, in the order in which they were first seen. A camera that comes
+    /// back gets its old place.
+    QList<CameraInfoPtr> cameras() const;
+
+    /// The camera as it was found last; null if it is not there. Valid until the table changes.
+    const CFoundCamera *find(const QString &identity) const;
+
+private:
+    struct Entry
+    {
+        CFoundCamera found;
+        CameraInfoPtr info;
+        int misses = 0;
+        bool isThere = false;
+        bool wasFound = false;
+    };
+
+    Entry &entry(const QString &identity);
+    void take(const CFoundCamera &found, Changes *changes);
+    static void miss(Entry *entry, bool isOpen, Changes *changes);
+
+    QVector<Entry> m_entries;
+};
+
+} // namespace CameraPool

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CDevice.h"
+
+#include <mutex>
+
+#include <QString>
+
+namespace CameraPool {
+
+/// The right to use an open device in one thread, for the life of this object, which is short: a
+/// local variable. May be nested. No signal may be emitted while it lives.
+class CDeviceAccess
+{
+public:
+    /// Waits until no other thread uses \a device.
+    /// @throws ParameterCollection::CParameterException at once if the device is closed or lost.
+    explicit CDeviceAccess(CDevice &device);
+
+    Q_DISABLE_COPY_MOVE(CDeviceAccess)
+
+    /// Never null. Valid while this object lives.
+    ArvDevice *device() const
+    {
+        return m_device.m_device.get();
+    }
+
+    /// The GenICam description. Never null. Valid while this object lives.
+    ArvGc *genicam() const
+    {
+        return arv_device_get_genicam(device());
+    }
+
+    /// Looks at the outcome of a call: does nothing without an error. A time-out means that the
+    /// device is lost.
+    /// @throws ParameterCollection::CParameterException with "\a what: " and the error's text.
+    void check(const CGError &error, const QString &what) const;
+
+private:
+    void throwIfUnusable() const;
+
+    CDevice &m_device;
+    std::unique_lock<std::recursive_timed_mutex> m_lock;
+};
+
+} // namespace CameraPool

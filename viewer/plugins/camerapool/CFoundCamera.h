@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace CameraPool {
+
+/// What one search tells about one camera. A value.
+struct CFoundCamera
+{
+    QString vendor;
+    QString model;
+    QString serial;
+    QString userName; ///< the name that the user gave it; empty for none, or where unknown
+    QString openId;   ///< by which the transport opens it: an IP address, else Aravis' own id
+    bool isGigE = true;
+    bool isControlled = false; ///< some program controls it, this one included
+
+    /// Unique, and the same after unplugging and renaming: "vendor-model-serial".
+    QString identity() const
+    {
+        return QStringLiteral("%1-%2-%3").arg(vendor, model, serial);
+    }
+};
+
+} // namespace CameraPool

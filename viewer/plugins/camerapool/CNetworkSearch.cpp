@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "CNetworkSearch.h"
+
+#include "CGvcpProbe.h"
+
+#include <arv.h>
+
+#include <QSet>
+
+namespace CameraPool {
+namespace {
+
+CFoundCamera describe(unsigned int index)
+{
+    CFoundCamera camera;
+    camera.vendor = QString::fromUtf8(arv_get_device_vendor(index));
+    camera.model = QString::fromUtf8(arv_get_device_model(index));
+    camera.serial = QString::fromUtf8(arv_get_device_serial_nbr(index));
+    camera.isGigE = qstrcmp(arv_get_device_protocol(index), "GigEVision") == 0;
+    // The address, because the same id may be known at two interfaces, one of which is gone.
+    camera.openId =
+        QString::fromUtf8(camera.isGigE ? arv_get_device_address(index) : arv_get_device_id(index));
+    return camera;
+}
+
+} // namespace
+
+QVector<CFoundCamera> CNetworkSearch::search()
+{
+    arv_update_device_list();
+    QVector<CFoundCamera> found;
+    QSet<QString> identities;
+    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
+        CFoundCamera camera = describe(i);
+        if (camera.isGigE) {
+            CGvcpProbe(camera.openId).ask(&camera);
+        }
+        // A camera that is reached through two interfaces is still one camera.
+        if (!identities.contains(camera.identity())) {
+            identities.insert(camera.identity());
+            found.append(camera);
+        }
+    }
+    return found;
+}
+
+} // namespace CameraPool

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace CameraPool {
+
+/// The times that the pool keeps, in milliseconds. Tests shorten them.
+struct CPoolTiming
+{
+    /// From the viewer's `initializationDone` to the first search. Plug-ins begin to listen a
+    /// moment after that signal, through timers of 100 ms in threads of their own; a camera that
+    /// was reported earlier would be missed by them.
+    int firstSearchDelay = 500;
+
+    /// Between two searches, so that the network is not searched all the time and requests to open
+    /// or close are served in between.
+    int searchPause = 500;
+};
+
+} // namespace CameraPool

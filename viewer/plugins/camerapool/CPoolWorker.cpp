@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "CPoolWorker.h"
+
+#include "CCameraControl.h"
+#include "CCameraStatus.h"
+#include "CDeviceAccess.h"
+#include "CDeviceStore.h"
+#include "DeviceOpener.h"
+#include "Logging.h"
+
+#include <ParameterCollection/CParameterException.h>
+
+#include <utility>
+
+namespace CameraPool {
+
+CPoolWorker::CPoolWorker(const Outlets &outlets, std::unique_ptr<ICameraSearch> search,
+                         const CPoolTiming &timing)
+    : m_outlets(outlets)
+    , m_search(std::move(search))
+    , m_timing(timing)
+    , m_searchTimer(this) // a child, so that it moves to the pool's thread too
+{
+    m_searchTimer.setSingleShot(true);
+    connect(&m_searchTimer, &QTimer::timeout, this, &CPoolWorker::searchOnce);
+}
+
+CPoolWorker::~CPoolWorker() = default;
+
+void CPoolWorker::beginSearching()
+{
+    if (!m_isEnding) {
+        m_searchTimer.start(m_timing.firstSearchDelay);
+    }
+}
+
+void CPoolWorker::searchOnce()
+{
+    const QVector<CFoundCamera> found = m_search->search();
+    const QList<QString> open = m_open.keys();
+    const auto changes = m_table.update(found, QSet<QString>(open.begin(), open.end()));
+    publish();
+    report(changes);
+    reportEnumeration();
+    if (!m_isEnding) {
+        m_searchTimer.start(m_timing.searchPause);
+    }
+}
+
+void CPoolWorker::report(const CCameraTable::Changes &changes)
+{
+    for (const CameraInfoPtr &camera : changes.gone) {
+        qCInfo(lcCameraPool, "%s is gone", qUtf8Printable(camera->identity()));
+        Q_EMIT m_outlets.status->deviceDisconnected(camera);
+    }
+    for (const CameraInfoPtr &camera : changes.connected) {
+        qCInfo(lcCameraPool, "%s is there", qUtf8Printable(camera->identity()));
+        Q_EMIT m_outlets.status->deviceConnected(camera);
+    }
+    for (const CameraInfoPtr &camera : changes.suspects) {
+        askDevice(camera);
+    }
+}
+
+void CPoolWorker::reportEnumeration()
+{
+    QSet<QString> identities;
+    for (const CameraInfoPtr &camera : m_table.cameras()) {
+        identities.insert(camera->identity());
+    }
+    if (m_hasReported && identities == m_reported) {
+        return;
+    }
+    m_hasReported = true;
+    m_reported = identities;
+    Q_EMIT m_outlets.enumeration->enumerationChanged();
+}
+
+// A camera that is busy streaming may fail to answer searches. Whether it is lost is decided by a
+// read over the open connection; if it is, onDeviceLost follows.
+void CPoolWorker::askDevice(const CameraInfoPtr &camera)
+{
+    const auto device = m_open.value(camera->identity());
+    if (!device) {
+        return;
+    }
+    try {
+        const CDeviceAccess access(*device);
+        CGError error;
+        guint32 version = 0;
+        arv_device_read_register(access.device(), 0, &version, error.out());
+        access.check(error, QStringLiteral("protocol version"));
+    } catch (const ParameterCollection::CParameterException &exception) {
+        qCInfo(lcCameraPool, "%s", exception.what());
+    }
+}
+
+void CPoolWorker::open(const CameraInfoPtr &camera)
+{
+    if (!camera) {
+        return fail(camera, QStringLiteral("no camera is chosen: choose one, then open it"));
+    }
+    const QString identity = camera->identity();
+    if (m_open.contains(identity)) {
+        return;
+    }
+    const CFoundCamera *found = m_table.find(identity);
+    if (m_isEnding) {
+        fail(camera, QStringLiteral("%1 is not opened: the viewer is closing; start it again")
+                         .arg(camera->displayName()));
+    } else if (!found) {
+        fail(camera, QStringLiteral("%1 is not connected: check its cable and power, then open it")
+                         .arg(camera->displayName()));
+    } else {
+        connectDevice(*found, camera);
+    }
+}
+
+void CPoolWorker::connectDevice(const CFoundCamera &found, const CameraInfoPtr &camera)
+{
+    const QString identity = camera->identity();
+    const quint64 session = ++m_lastSession;
+    const auto postLoss = [this, identity, session] {
+        QMetaObject::invokeMethod(
+            this, [=] { onDeviceLost(identity, session); }, Qt::QueuedConnection);
+    };
+    try {
+        const auto device = openDevice(found, camera, postLoss);
+        m_open.insert(identity, device);
+        m_sessions.insert(identity, session);
+        m_outlets.devices->put(device);
+    } catch (const COpenException &exception) {
+        m_table.setControlled(identity, exception.reason() == COpenException::InUse);
+        publish();
+        return fail(camera, QString::fromUtf8(exception.what()));
+    }
+    publish();
+    qCInfo(lcCameraPool, "%s is open", qUtf8Printable(identity));
+    Q_EMIT m_outlets.status->deviceOpened(camera);
+}
+
+void CPoolWorker::fail(const CameraInfoPtr &camera, const QString &message)
+{
+    qCWarning(lcCameraPool, "%s", qUtf8Printable(message));
+    Q_EMIT m_outlets.control->openFailed(camera, message);
+}
+
+void CPoolWorker::close(const CameraInfoPtr &camera)
+{
+    if (camera) {
+        shut(camera->identity());
+        Q_EMIT m_outlets.control->closed(camera);
+    }
+}
+
+void CPoolWorker::closeAll()
+{
+    m_isEnding = true;
+    m_searchTimer.stop();
+    const auto devices = m_open.values();
+    for (const QSharedPointer<CDevice> &device : devices) {
+        close(device->info());
+    }
+    Q_EMIT m_outlets.control->allClosed();
+}
+
+void CPoolWorker::onDeviceLost(const QString &identity, quint64 session)
+{
+    const auto device = m_open.value(identity);
+    if (!device || m_sessions.value(identity) != session) {
+        return;
+    }
+    shut(identity);
+    Q_EMIT m_outlets.control->closed(device->info());
+    // Gone even if it has come back already: what was set in it is lost. The next search finds it.
+    m_table.remove(identity);
+    publish();
+    Q_EMIT m_outlets.status->deviceDisconnected(device->info());
+}
+
+// The signal comes while the camera is still in m_open, that is, while it can be read.
+void CPoolWorker::shut(const QString &identity)
+{
+    const auto device = m_open.value(identity);
+    if (!device) {
+        return;
+    }
+    Q_EMIT m_outlets.status->deviceClosing(device->info());
+    device->close();
+    m_open.remove(identity);
+    m_table.setControlled(identity, false);
+    publish();
+    qCInfo(lcCameraPool, "%s is closed", qUtf8Printable(identity));
+}
+
+void CPoolWorker::publish()
+{
+    QHash<QString, ICameraControlService::CameraState> states;
+    for (const CameraInfoPtr &camera : m_table.cameras()) {
+        const bool isControlled = m_table.find(camera->identity())->isControlled;
+        states.insert(camera->identity(), isControlled ? ICameraControlService::InUseElsewhere
+                                                       : ICameraControlService::Free);
+    }
+    for (const QString &identity : m_open.keys()) {
+        states.insert(identity, ICameraControlService::Open);
+    }
+    m_outlets.control->publish(m_table.cameras(), states);
+}
+
+} // namespace CameraPool

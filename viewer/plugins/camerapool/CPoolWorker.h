@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CCameraTable.h"
+#include "CPoolTiming.h"
+#include "ICameraControlService.h"
+#include "ICameraSearch.h"
+
+#include <memory>
+
+#include <QHash>
+#include <QMap>
+#include <QObject>
+#include <QSet>
+#include <QSharedPointer>
+#include <QTimer>
+
+namespace CameraPool {
+
+class CCameraControl;
+class CCameraEnumeration;
+class CCameraStatus;
+class CDevice;
+class CDeviceStore;
+
+/// The work of the camera pool: searches, opens, closes and tells. Lives in the pool's thread,
+/// where every operation is called; nothing else does, so that searches and requests take turns and
+/// need no lock.
+class CPoolWorker : public QObject
+{
+    Q_OBJECT
+
+public:
+    using CameraInfoPtr = Core::CameraPoolComponents::CameraInfoPtr;
+
+    /// The objects that the worker tells and that outlive it.
+    struct Outlets
+    {
+        CCameraStatus *status;
+        CCameraEnumeration *enumeration;
+        CCameraControl *control;
+        CDeviceStore *devices;
+    };
+
+    CPoolWorker(const Outlets &outlets, std::unique_ptr<ICameraSearch> search,
+                const CPoolTiming &timing);
+    ~CPoolWorker() override;
+
+    /// Begins to search after the delay for the first search, and goes on until `closeAll`.
+    void beginSearching();
+
+    void open(const CameraInfoPtr &camera);
+    void close(const CameraInfoPtr &camera);
+    void closeAll();
+
+private:
+    void searchOnce();
+    void report(const CCameraTable::Changes &changes);
+    void reportEnumeration();
+    void askDevice(const CameraInfoPtr &camera);
+    void connectDevice(const CFoundCamera &found, const CameraInfoPtr &camera);
+    void fail(const CameraInfoPtr &camera, const QString &message);
+    void onDeviceLost(const QString &identity, quint64 session);
+    void shut(const QString &identity);
+    void publish();
+
+    const Outlets m_outlets;
+    const std::unique_ptr<ICameraSearch> m_search;
+    const CPoolTiming m_timing;
+    QTimer m_searchTimer;
+    CCameraTable m_table;
+    QMap<QString, QSharedPointer<CDevice>> m_open; // by identity
+    QHash<QString, quint64> m_sessions;             // by identity: which opening it is
+    quint64 m_lastSession = 0;
+    QSet<QString> m_reported; // identities at the last enumerationChanged
+    bool m_hasReported = false;
+    bool m_isEnding = false;
+};
+
+} // namespace CameraPool
