@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FeatureTree.h"
+#include "plugins/camerapool/CDeviceAccess.h"
+
+namespace ParameterCollectionPool {
+
+/// The right to use one feature of a device, for the life of this object, which is a local
+/// variable: holds the device's lock. No signal may be emitted while it lives.
+class CNodeAccess
+{
+public:
+    /// @throws ParameterCollection::CParameterException if the device is closed or lost.
+    explicit CNodeAccess(const CFeature &feature);
+
+    Q_DISABLE_COPY_MOVE(CNodeAccess)
+
+    const CFeature &feature() const
+    {
+        return m_feature;
+    }
+    ArvGcFeatureNode *node() const
+    {
+        return m_node;
+    }
+
+    /// Calls \a function, which takes a place for an error, and gives its result.
+    /// @throws ParameterCollection::CParameterException with the name of the feature on an error.
+    template <class Function>
+    auto call(Function function) const
+    {
+        CameraPool::CGError error;
+        const auto result = function(error.out());
+        m_access.check(error, m_feature.fullName());
+        return result;
+    }
+
+    /// As `call`, for a limit: a limit that the description does not name is no error, and Aravis
+    /// then gives that of the type.
+    template <class Function>
+    auto callForLimit(Function function) const
+    {
+        CameraPool::CGError error;
+        const auto result = function(error.out());
+        if (!error.is(ARV_GC_ERROR, ARV_GC_ERROR_PROPERTY_NOT_DEFINED)) {
+            m_access.check(error, m_feature.fullName());
+        }
+        return result;
+    }
+
+    /// As `call`, for a function without a result.
+    template <class Function>
+    void run(Function function) const
+    {
+        CameraPool::CGError error;
+        function(error.out());
+        m_access.check(error, m_feature.fullName());
+    }
+
+    /// Refuses something that was asked of the feature: "@CameraDevice/Width: " and \a reason.
+    [[noreturn]] void refuse(const QString &reason) const;
+
+    /// This object, for reading the value.
+    /// @throws ParameterCollection::CParameterException if the device does not offer the feature.
+    const CNodeAccess &offered() const;
+
+    /// False if the device does not offer the feature now.
+    bool isOffered() const;
+    bool isLocked() const;
+
+    /// As the description says. Being locked does not change it.
+    bool mayRead() const;
+    bool mayWrite() const;
+
+private:
+    const CFeature &m_feature;
+    const CameraPool::CDeviceAccess m_access;
+    ArvGcFeatureNode *const m_node;
+};
+
+} // namespace ParameterCollectionPool
