@@ -3,6 +3,7 @@
 #include "CCamera.h"
 
 #include "Address.h"
+#include "CSeedAtBirth.h"
 #include "Registers.h"
 
 #include <arv.h>
@@ -19,11 +20,6 @@ constexpr guint32 ContinuousMode = 1;
 constexpr guint32 FrameCountAtStart = 10;
 constexpr float TemperatureAtStart = 41.5F;
 
-ArvFakeCamera *registersOf(ArvGvFakeCamera *camera)
-{
-    return arv_gv_fake_camera_get_fake_camera(camera);
-}
-
 } // namespace
 
 CCamera::CCamera(std::string address, CIdentity identity, std::string descriptionPath)
@@ -36,6 +32,7 @@ CCamera::CCamera(std::string address, CIdentity identity, std::string descriptio
 
 CCamera::~CCamera()
 {
+    m_heartbeatWatch.reset();
     g_clear_object(&m_camera);
 }
 
@@ -49,11 +46,17 @@ void CCamera::plugIn()
     if (isPluggedIn()) {
         return;
     }
+    if (!m_hold) {
+        m_hold = std::make_unique<CAddressHold>(m_address);
+    }
     m_hold.reset();
+    const CSeedAtBirth::Function seeding = [this](ArvFakeCamera *camera) { seed(camera); };
+    const CSeedAtBirth seedAtBirth(seeding);
     m_camera = arv_gv_fake_camera_new_full(m_address.c_str(), m_identity.serial.c_str(),
                                            m_descriptionPath.c_str());
-    seed();
     refuseGhost();
+    m_heartbeatWatch =
+        std::make_unique<CHeartbeatWatch>(m_address, arv_gv_fake_camera_get_fake_camera(m_camera));
     setLoss(m_loss);
 }
 
@@ -63,8 +66,13 @@ void CCamera::unplug()
         return;
     }
     m_identity.userName = storedUserName();
+    m_heartbeatWatch.reset();
     g_clear_object(&m_camera);
-    m_hold = std::make_unique<CAddressHold>(m_address);
+    try {
+        m_hold = std::make_unique<CAddressHold>(m_address);
+    } catch (const std::runtime_error &) {
+        // Somebody was quicker. This camera is gone all the same; plugging in will say so.
+    }
 }
 
 void CCamera::setLoss(double ratio)
@@ -75,9 +83,8 @@ void CCamera::setLoss(double ratio)
     }
 }
 
-void CCamera::seed()
+void CCamera::seed(ArvFakeCamera *camera)
 {
-    ArvFakeCamera *camera = registersOf(m_camera);
     seedIdentity(camera, m_identity, macAddress(m_identity.serial, m_address));
     arv_fake_camera_write_register(camera, ARV_FAKE_CAMERA_REGISTER_ACQUISITION_MODE,
                                    ContinuousMode);
@@ -89,24 +96,23 @@ void CCamera::seed()
     m_frameSource.attach(camera);
 }
 
-// A camera whose address somebody took between our letting go and its binding gets no word said to
-// it, yet still answers discovery, under an address at which nobody can open it.
+// Somebody may take the address between our letting go of it and Aravis' binding to it. The camera
+// then serves nobody, yet still answers those who look for cameras.
 void CCamera::refuseGhost()
 {
     if (ownsControlPort(m_address)) {
         return;
     }
     g_clear_object(&m_camera);
-    m_hold = std::make_unique<CAddressHold>(m_address);
     throw std::runtime_error("address " + m_address
-                             + " was let go by another program a moment ago: try again");
+                             + " was taken by another program just now: end that one or try again");
 }
 
 std::string CCamera::storedUserName() const
 {
     std::array<char, Registers::UserNameSize + 1> text{};
-    arv_fake_camera_read_memory(registersOf(m_camera), Registers::UserName, Registers::UserNameSize,
-                                text.data());
+    arv_fake_camera_read_memory(arv_gv_fake_camera_get_fake_camera(m_camera), Registers::UserName,
+                                Registers::UserNameSize, text.data());
     return text.data();
 }
 

@@ -4,6 +4,7 @@
 
 #include "CAddressHold.h"
 #include "CFrameSource.h"
+#include "CHeartbeatWatch.h"
 #include "CIdentity.h"
 #include "ICamera.h"
 
@@ -33,7 +34,7 @@ public:
     void setLoss(double ratio) override;
 
 private:
-    void seed();
+    void seed(ArvFakeCamera *camera);
     void refuseGhost();
     std::string storedUserName() const;
 
@@ -44,6 +45,7 @@ private:
     std::unique_ptr<CAddressHold> m_hold;
     CFrameSource m_frameSource;
     ArvGvFakeCamera *m_camera = nullptr; // null while unplugged
+    std::unique_ptr<CHeartbeatWatch> m_heartbeatWatch;
 };
 
 } // namespace Simulator

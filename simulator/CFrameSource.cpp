@@ -44,9 +44,12 @@ void CFrameSource::fill(ArvBuffer *buffer, std::uint32_t exposure, std::uint32_t
     settings.invert = registerValue(Registers::Invert) != 0;
     const ToneTable tone = toneTable(settings);
 
-    size_t size = 0;
+    // Aravis fills no buffer that is smaller than the payload, and tells the buffer's size only
+    // once it is filled.
+    const size_t size = arv_fake_camera_get_payload(m_camera);
+    size_t unknown = 0;
     auto *image =
-        static_cast<std::uint8_t *>(const_cast<void *>(arv_buffer_get_data(buffer, &size)));
+        static_cast<std::uint8_t *>(const_cast<void *>(arv_buffer_get_data(buffer, &unknown)));
     const std::uint32_t shown = registerValue(Registers::TestImage);
     if (shown == Grey) {
         fillGrey(image, size, tone);

@@ -78,7 +78,8 @@ gboolean onOption(const gchar *name, const gchar *value, gpointer options, GErro
 
 GOptionEntry entry(const char *name, const char *what, const char *value, char letter = 0)
 {
-    const gint flags = value ? G_OPTION_FLAG_NONE : G_OPTION_FLAG_NO_ARG;
+    // As a "file name" a value comes as it is, not converted by a locale that may refuse it.
+    const gint flags = value ? G_OPTION_FLAG_FILENAME : G_OPTION_FLAG_NO_ARG;
     return {name, letter, flags, G_OPTION_ARG_CALLBACK, reinterpret_cast<gpointer>(&onOption),
             what, value};
 }

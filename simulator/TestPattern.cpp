@@ -32,8 +32,11 @@ ToneTable toneTable(const Tone &tone)
 void fillRamp(std::uint8_t *image, std::size_t size, ImageFormat format, std::size_t shift,
               const ToneTable &tone)
 {
-    // One line that is a period longer than the image holds every line of it.
     const std::size_t lineSize = format.width * format.bytesPerPixel;
+    // A program may write any number to the registers of width and format.
+    if (lineSize == 0 || lineSize > size) {
+        return;
+    }
     std::vector<std::uint8_t> line(lineSize + tone.size() * format.bytesPerPixel);
     for (std::size_t i = 0; i < line.size(); ++i) {
         line[i] = tone[i / format.bytesPerPixel % tone.size()];

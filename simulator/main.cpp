@@ -13,6 +13,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <memory>
 #include <stdexcept>
 
 namespace {
@@ -49,20 +50,10 @@ void ignoreSignals()
     std::signal(SIGTTIN, SIG_IGN);
 }
 
-void obeyUntilTheEnd(CCamera &camera)
+std::string readyLine(const Options &options)
 {
-    GMainLoop *loop = g_main_loop_new(nullptr, FALSE);
-    g_unix_signal_add(SIGINT, onEndSignal, loop);
-    g_unix_signal_add(SIGTERM, onEndSignal, loop);
-    const CCommandInput input(STDIN_FILENO, [&](const std::string &line) {
-        const Answer answer = execute(line, camera);
-        say(stdout, answer.text);
-        if (answer.quit) {
-            g_main_loop_quit(loop);
-        }
-    });
-    g_main_loop_run(loop);
-    g_main_loop_unref(loop);
+    return "ready: " + options.identity.vendor + ' ' + options.identity.model + " at "
+           + options.address + ", serial " + options.identity.serial;
 }
 
 int serve(const Options &options)
@@ -71,10 +62,25 @@ int serve(const Options &options)
     const CDescriptionFile file(description(options.featureCount));
     CCamera camera(options.address, options.identity, file.path());
     camera.setLoss(options.loss);
+
+    const std::unique_ptr<GMainLoop, void (*)(GMainLoop *)> loop(g_main_loop_new(nullptr, FALSE),
+                                                                 g_main_loop_unref);
+    g_unix_signal_add(SIGINT, onEndSignal, loop.get());
+    g_unix_signal_add(SIGTERM, onEndSignal, loop.get());
+    const CCommandInput input(STDIN_FILENO, [&](const std::string &line) {
+        if (!g_main_loop_is_running(loop.get())) {
+            return; // lines after quit
+        }
+        const Answer answer = execute(line, camera);
+        say(stdout, answer.text);
+        if (answer.quit) {
+            g_main_loop_quit(loop.get());
+        }
+    });
+
     camera.plugIn();
-    say(stdout, "ready: " + options.identity.vendor + ' ' + options.identity.model + " at "
-                    + options.address + ", serial " + options.identity.serial);
-    obeyUntilTheEnd(camera);
+    say(stdout, readyLine(options));
+    g_main_loop_run(loop.get());
     return 0;
 }
 

@@ -99,6 +99,11 @@ bool CSimulatorProcess::isRunning() const
     return m_process->state() == QProcess::Running;
 }
 
+qint64 CSimulatorProcess::processId() const
+{
+    return m_process->processId();
+}
+
 QString CSimulatorProcess::readyLine() const
 {
     return m_readyLine;
@@ -189,7 +194,7 @@ void CSimulatorProcess::onOutput()
 
 void CSimulatorProcess::onLine(const QString &line)
 {
-    if (m_readyLine.isNull()) {
+    if (m_readyLine.isNull() && line.startsWith(QStringLiteral("ready: "))) {
         m_readyLine = line;
         Q_EMIT ready();
     } else {

@@ -30,6 +30,7 @@ public:
     bool start();
 
     bool isRunning() const;
+    qint64 processId() const;
     // The line that the camera said when it was ready; null before.
     QString readyLine() const;
     // Address and serial number out of that line; null before.
@@ -52,7 +53,7 @@ public:
 
 Q_SIGNALS:
     void ready();
-    // Each line after the first.
+    // Each line but the one that says that the camera is ready.
     void answered(const QString &line);
     void ended();
 
