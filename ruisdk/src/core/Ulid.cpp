@@ -26,6 +26,11 @@ std::uint64_t fortyBits(const UlidEntropy &entropy, std::size_t from)
     return value;
 }
 
+std::uint64_t millisecondsOf(std::int64_t unixNanoseconds)
+{
+    return unixNanoseconds < 0 ? 0 : static_cast<std::uint64_t>(unixNanoseconds / 1000000);
+}
+
 } // namespace
 
 std::string ulidText(std::uint64_t milliseconds, const UlidEntropy &entropy)
@@ -42,8 +47,16 @@ std::string makeUlid(std::int64_t unixNanoseconds)
 {
     UlidEntropy entropy{};
     fillRandom(entropy.data(), entropy.size());
-    const std::int64_t milliseconds = unixNanoseconds / 1000000;
-    return ulidText(milliseconds < 0 ? 0 : static_cast<std::uint64_t>(milliseconds), entropy);
+    return ulidText(millisecondsOf(unixNanoseconds), entropy);
+}
+
+std::string UlidSource::make(std::int64_t unixNanoseconds)
+{
+    if (m_used == m_entropy.size()) {
+        fillRandom(m_entropy.data(), sizeof m_entropy);
+        m_used = 0;
+    }
+    return ulidText(millisecondsOf(unixNanoseconds), m_entropy[m_used++]);
 }
 
 } // namespace rui

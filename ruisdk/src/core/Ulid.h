@@ -17,4 +17,16 @@ std::string ulidText(std::uint64_t milliseconds, const UlidEntropy &entropy);
 // A fresh ULID for an event of this time.
 std::string makeUlid(std::int64_t unixNanoseconds);
 
+// The same, from random bytes that are fetched for many at once. Used by one thread at a time;
+// must not be used on both sides of a fork.
+class UlidSource
+{
+public:
+    std::string make(std::int64_t unixNanoseconds);
+
+private:
+    std::array<UlidEntropy, 64> m_entropy{};
+    std::size_t m_used = 64;
+};
+
 } // namespace rui

@@ -4,47 +4,88 @@
 
 #include "core/Ulid.h"
 
+#include <algorithm>
+
 namespace rui {
 
 namespace {
 
-// One statement is one transaction: between the check of the epoch and the insert no opt-out can
-// come. The first and the last event are read through the table's own key.
+// What the next row follows from. The first and the last event are read through the table's own
+// key, and the last one stands on the page that is written next.
+constexpr const char *lookSql =
+    "SELECT epoch, floor, (SELECT seq FROM event ORDER BY seq DESC LIMIT 1),"
+    " (SELECT total FROM event ORDER BY seq DESC LIMIT 1),"
+    " (SELECT seq FROM event ORDER BY seq LIMIT 1),"
+    " (SELECT total - size FROM event ORDER BY seq LIMIT 1)"
+    " FROM state WHERE id = 1";
+
 constexpr const char *insertSql =
     "INSERT INTO event(seq, size, total, time, uid, resource, category, name, session, text)"
-    " SELECT max(state.floor, coalesce(last.seq, 0)) + 1, ?2, coalesce(last.total, 0) + ?2,"
-    " ?3, ?4, ?5, ?6, ?7, ?8, ?9"
-    " FROM state LEFT JOIN (SELECT seq, total FROM event ORDER BY seq DESC LIMIT 1) AS last"
-    " WHERE state.id = 1 AND state.epoch = ?1"
-    " RETURNING seq - (SELECT min(seq) FROM event) + 1,"
-    " total - (SELECT total - size FROM event ORDER BY seq LIMIT 1)";
+    " VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10)";
 
 } // namespace
 
 EventInsert::EventInsert(const Database &database)
-    : m_statement(database.prepare(insertSql))
+    : m_handle(database.handle())
+    , m_begin(database.prepare("BEGIN IMMEDIATE"))
+    , m_look(database.prepare(lookSql))
+    , m_insert(database.prepare(insertSql))
+    , m_commit(database.prepare("COMMIT"))
 {}
+
+EventInsert::Position EventInsert::look()
+{
+    const ResetGuard guard(m_look);
+    m_look.step();
+    Position position;
+    position.epoch = m_look.integer(0);
+    position.seq = std::max(m_look.integer(1), m_look.integer(2)) + 1;
+    position.total = m_look.integer(3);
+    const bool empty = m_look.isNull(4);
+    position.firstSeq = empty ? position.seq : m_look.integer(4);
+    position.totalBefore = m_look.integer(5);
+    return position;
+}
+
+void EventInsert::insert(const Event &event, const Position &position, std::int64_t resource,
+                         std::int64_t now)
+{
+    const std::string uid = m_ulids.make(now);
+    m_insert.bind(1, position.seq).bind(2, event.size()).bind(3, position.total + event.size());
+    m_insert.bind(4, now).bind(5, uid).bind(6, resource);
+    m_insert.bind(7, event.category).bind(8, event.name).bind(9, event.session);
+    if (event.text) {
+        m_insert.bind(10, *event.text);
+    } else {
+        m_insert.bindNull(10);
+    }
+    m_insert.run();
+}
+
+void EventInsert::rollBack() noexcept
+{
+    // Fails when SQLite has rolled back already, after a full disk for example.
+    sqlite3_exec(m_handle, "ROLLBACK", nullptr, nullptr, nullptr);
+}
 
 std::optional<Occupancy> EventInsert::run(const Event &event, const Membership &membership,
                                           std::int64_t now)
 {
-    const ResetGuard guard(m_statement);
-    const std::string uid = makeUlid(now);
-    m_statement.bind(1, membership.epoch).bind(2, event.size()).bind(3, now).bind(4, uid);
-    m_statement.bind(5, membership.resource).bind(6, event.category).bind(7, event.name);
-    m_statement.bind(8, event.session);
-    if (event.text) {
-        m_statement.bind(9, *event.text);
-    } else {
-        m_statement.bindNull(9);
+    m_begin.run();
+    try {
+        const Position position = look();
+        if (position.epoch != membership.epoch) {
+            rollBack();
+            return std::nullopt;
+        }
+        insert(event, position, membership.resource, now);
+        m_commit.run();
+        return Occupancy{position.seq - position.firstSeq + 1,
+                         position.total + event.size() - position.totalBefore};
+    } catch (...) {
+        rollBack();
+        throw;
     }
-    if (!m_statement.step()) {
-        return std::nullopt;
-    }
-    const Occupancy occupancy{m_statement.integer(0), m_statement.integer(1)};
-    // The row comes before the commit, which can still fail.
-    m_statement.step();
-    return occupancy;
 }
 
 } // namespace rui

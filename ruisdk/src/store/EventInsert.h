@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Ulid.h"
 #include "store/Consent.h"
 #include "store/Database.h"
 #include "store/Event.h"
@@ -18,20 +19,40 @@ struct Occupancy
     std::int64_t bytes = 0;
 };
 
-// The one statement that stores an event: it checks the consent, numbers the event, stores it
-// and tells what is waiting now. Used by one thread at a time, not longer than the database.
+// The one transaction that stores an event: it checks the consent, numbers the event, stores it
+// and tells what is waiting now. Between the check and the insert no opt-out can come. Used by
+// one thread at a time, not longer than the database.
 class EventInsert
 {
 public:
     explicit EventInsert(const Database &database);
 
-    // Commits, unless the caller has a transaction open. Nothing when the epoch has passed: then
-    // nothing is stored. Throws SqliteError.
+    // Commits. Nothing when the epoch has passed: then nothing is stored. Throws SqliteError.
     std::optional<Occupancy> run(const Event &event, const Membership &membership,
                                  std::int64_t now);
 
 private:
-    Statement m_statement;
+    // Where the event goes, and what stands there.
+    struct Position
+    {
+        std::int64_t epoch = 0;
+        std::int64_t seq = 0;
+        std::int64_t total = 0;
+        std::int64_t firstSeq = 0;
+        std::int64_t totalBefore = 0;
+    };
+
+    Position look();
+    void insert(const Event &event, const Position &position, std::int64_t resource,
+                std::int64_t now);
+    void rollBack() noexcept;
+
+    sqlite3 *m_handle;
+    Statement m_begin;
+    Statement m_look;
+    Statement m_insert;
+    Statement m_commit;
+    UlidSource m_ulids;
 };
 
 } // namespace rui
