@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/localization/LocalizationPlugin.h"
+
+#include "support/CSettingsSandbox.h"
+#include "support/Texts.h"
+
+#include <Core/Plugin/ServiceLookup.h>
+
+#include <pluginsystem/CServiceRegistry.h>
+
+#include <QLocale>
+#include <QSignalSpy>
+#include <QTest>
+
+using Plugin::Localization::CLocalizationPlugin;
+using Plugin::Localization::ILanguageService;
+
+class LocalizationPluginTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void testSystemLanguageIsTheDefault();
+    void testLanguageOfTheSettingsIsSetBeforeOthersMakeTheirTexts();
+    void testNewLanguageTakesEffectAtOnceAndIsKept();
+    void testEmptyLanguageFollowsTheSystemAgain();
+
+private:
+    void start();
+
+    QScopedPointer<CSettingsSandbox> m_sandbox;
+    PluginSystem::CServiceRegistry m_registry;
+    QScopedPointer<CLocalizationPlugin> m_plugin;
+    QSharedPointer<ILanguageService> m_service;
+    QStringList m_languages;
+};
+
+namespace {
+
+const QString languageKey = QStringLiteral("Localization/Language");
+
+} // namespace
+
+void LocalizationPluginTest::init()
+{
+    m_sandbox.reset(new CSettingsSandbox);
+    m_languages.clear();
+}
+
+void LocalizationPluginTest::cleanup()
+{
+    m_service.reset();
+    QVERIFY(m_plugin->uninitialize(&m_registry));
+    QVERIFY(!Core::Plugin::findService<ILanguageService>(&m_registry));
+    m_plugin.reset();
+}
+
+void LocalizationPluginTest::start()
+{
+    m_plugin.reset(
+        new CLocalizationPlugin([this](const QString &language) { m_languages.append(language); }));
+    QVERIFY(m_plugin->preInitialize(&m_registry));
+    m_service = Core::Plugin::findService<ILanguageService>(&m_registry);
+}
+
+void LocalizationPluginTest::testSystemLanguageIsTheDefault()
+{
+    start();
+    QCOMPARE(m_service->language(), QStringLiteral("en"));
+    QCOMPARE(m_languages, texts({"en"}));
+}
+
+void LocalizationPluginTest::testLanguageOfTheSettingsIsSetBeforeOthersMakeTheirTexts()
+{
+    QSettings().setValue(languageKey, QStringLiteral("zh_CN"));
+    start();
+    QCOMPARE(m_languages, texts({"zh_CN"}));
+}
+
+void LocalizationPluginTest::testNewLanguageTakesEffectAtOnceAndIsKept()
+{
+    start();
+    const QSignalSpy changed(m_service.data(), &ILanguageService::languageChanged);
+    m_service->setLanguage(QStringLiteral("ja"));
+    QCOMPARE(m_languages, texts({"en", "ja"}));
+    QCOMPARE(m_service->language(), QStringLiteral("ja"));
+    QCOMPARE(QSettings().value(languageKey), QVariant(QStringLiteral("ja")));
+    QCOMPARE(changed, QList<QVariantList>({{QStringLiteral("ja")}}));
+}
+
+void LocalizationPluginTest::testEmptyLanguageFollowsTheSystemAgain()
+{
+    QSettings().setValue(languageKey, QStringLiteral("ko"));
+    start();
+    m_service->setLanguage({});
+    QCOMPARE(m_languages, texts({"ko", "en"}));
+    QVERIFY(!QSettings().contains(languageKey));
+}
+
+int main(int argc, char **argv)
+{
+    qputenv("LC_ALL", "C");
+    QCoreApplication application(argc, argv);
+    LocalizationPluginTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "LocalizationPluginTest.moc"

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/appcore/AppCorePlugin.h"
+#include "plugins/appcore/IMenuControlService.h"
+#include "plugins/nerixviewer/NerixViewerPlugin.h"
+#include "plugins/nerixwelcome/CNerixWelcomeController.h"
+#include "plugins/nerixwelcome/NerixWelcomePlugin.h"
+#include "support/CSettingsSandbox.h"
+#include "support/CTestTab.h"
+
+#include <Core/Plugin/ServiceLookup.h>
+#include <Plugin/NerixWelcome/INerixWelcomeService.h>
+
+#include <pluginsystem/CServiceRegistry.h>
+
+#include <QTest>
+
+using Core::Plugin::findService;
+using Plugin::NerixWelcome::CNerixWelcomeController;
+using Plugin::NerixWelcome::INerixWelcomeService;
+
+class WelcomePluginTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void testServiceShowsTheTabsOfOtherPlugins();
+    void testTabThatWasNeverAddedIsNotShown();
+    void testScreenStartsWhenEveryPluginIsInitialized();
+    void testViewMenuBringsUpTheScreen();
+    void testServiceMayBeKeptLongerThanThePlugin();
+
+private:
+    PluginSystem::CServiceRegistry *registry()
+    {
+        return m_registry.data();
+    }
+
+    QScopedPointer<CSettingsSandbox> m_sandbox;
+    QScopedPointer<PluginSystem::CServiceRegistry> m_registry;
+    QScopedPointer<Plugin::AppCore::CAppCorePlugin> m_appCore;
+    QScopedPointer<Plugin::NerixViewer::CNerixViewerPlugin> m_viewer;
+    QScopedPointer<Plugin::NerixWelcome::CNerixWelcomePlugin> m_plugin;
+};
+
+void WelcomePluginTest::init()
+{
+    m_sandbox.reset(new CSettingsSandbox);
+    m_registry.reset(new PluginSystem::CServiceRegistry);
+    m_appCore.reset(new Plugin::AppCore::CAppCorePlugin);
+    m_viewer.reset(new Plugin::NerixViewer::CNerixViewerPlugin);
+    m_plugin.reset(new Plugin::NerixWelcome::CNerixWelcomePlugin);
+    QVERIFY(m_appCore->preInitialize(registry()));
+    QVERIFY(m_viewer->preInitialize(registry()));
+    QVERIFY(m_plugin->preInitialize(registry()));
+    QVERIFY(m_appCore->initialize());
+    QVERIFY(m_viewer->initialize());
+    QVERIFY(m_plugin->initialize());
+}
+
+void WelcomePluginTest::cleanup()
+{
+    m_plugin.reset();
+    m_viewer.reset();
+    m_appCore.reset();
+    m_registry.reset();
+    m_sandbox.reset();
+}
+
+void WelcomePluginTest::testServiceShowsTheTabsOfOtherPlugins()
+{
+    const auto controller = findService<CNerixWelcomeController>(registry());
+    const auto service = findService<INerixWelcomeService>(registry());
+    CTestTab tab;
+    service->addTab(&tab);
+    QCOMPARE(controller->tabs().size(), 1);
+    service->showTab(&tab, this);
+    QVERIFY(controller->isVisible());
+}
+
+void WelcomePluginTest::testTabThatWasNeverAddedIsNotShown()
+{
+    const auto service = findService<INerixWelcomeService>(registry());
+    CTestTab tab;
+    setObjectName(QStringLiteral("Requester"));
+    for (CTestTab *unknown : {&tab, static_cast<CTestTab *>(nullptr)}) {
+        QTest::ignoreMessage(QtWarningMsg, "the welcome screen cannot show a tab for Requester: it "
+                                           "was never added, or is gone");
+        service->showTab(unknown, this);
+    }
+    QVERIFY(!findService<CNerixWelcomeController>(registry())->isVisible());
+}
+
+void WelcomePluginTest::testScreenStartsWhenEveryPluginIsInitialized()
+{
+    const auto controller = findService<CNerixWelcomeController>(registry());
+    QVERIFY(!controller->isVisible());
+    Q_EMIT m_registry->initializationDone();
+    QVERIFY(controller->isVisible());
+}
+
+void WelcomePluginTest::testViewMenuBringsUpTheScreen()
+{
+    using Plugin::AppCore::IMenuControlService;
+    const auto menus = findService<IMenuControlService>(registry());
+    QCOMPARE(menus->trigger(Core::CId("NerixWelcome.Action.Show")),
+             IMenuControlService::TriggerResult::Triggered);
+    QVERIFY(findService<CNerixWelcomeController>(registry())->isVisible());
+}
+
+void WelcomePluginTest::testServiceMayBeKeptLongerThanThePlugin()
+{
+    const auto service = findService<INerixWelcomeService>(registry());
+    QVERIFY(m_plugin->uninitialize(registry()));
+    QVERIFY(!findService<INerixWelcomeService>(registry()));
+    m_plugin.reset();
+    CTestTab tab;
+    service->addTab(&tab);
+    service->showTab(&tab, this);
+}
+
+QTEST_MAIN(WelcomePluginTest)
+
+#include "WelcomePluginTest.moc"

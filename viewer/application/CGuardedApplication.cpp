@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "application/CGuardedApplication.h"
+
+#include <exception>
+
+namespace Application {
+
+CGuardedApplication::CGuardedApplication(int &argc, char **argv)
+    : QApplication(argc, argv)
+{}
+
+CGuardedApplication::~CGuardedApplication() = default;
+
+bool CGuardedApplication::notify(QObject *receiver, QEvent *event)
+{
+    // The receiver may be gone once its handler has thrown.
+    const char *className = receiver ? receiver->metaObject()->className() : "nobody";
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception &exception) {
+        m_exceptionLog.report(className, exception.what());
+    } catch (...) {
+        m_exceptionLog.report(className, "of an unknown type");
+    }
+    return false;
+}
+
+} // namespace Application

@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "application/CViewer.h"
+
+#include "application/BuiltInPlugins.h"
+#include "application/DeviceClosing.h"
+#include "application/Folders.h"
+#include "plugins/nerixviewer/IApplicationService.h"
+#include "scripting/CScriptRunner.h"
+
+#include <Core/Plugin/ServiceLookup.h>
+
+#include <chrono>
+#include <cstdio>
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+#include <QTimer>
+
+namespace Application {
+
+namespace {
+
+Q_LOGGING_CATEGORY(log, "nerix.application", QtInfoMsg)
+
+// A plug-in that objects at the end of a script, where nobody is there to try again, is asked again
+// after this time.
+constexpr std::chrono::milliseconds askAgainAfter(500);
+
+constexpr int scriptFailed = 1;
+
+// The first signal asks the plug-ins, this one does not.
+constexpr int insistingSignals = 2;
+
+} // namespace
+
+CViewer::CViewer(const CommandLine &commandLine, QObject *parent)
+    : QObject(parent)
+    , m_commandLine(commandLine)
+{
+    connect(&m_plugins.registry(), &Core::Plugin::IPluginInitializer::initializationDone, this,
+            &CViewer::onPluginsInitialized);
+    if (!m_commandLine.scriptFile.isEmpty()) {
+        m_script = std::make_unique<Scripting::CScriptRunner>(m_plugins);
+    }
+}
+
+CViewer::~CViewer()
+{
+    shutDown();
+}
+
+void CViewer::start()
+{
+    addBuiltInPlugins(m_plugins, m_commandLine);
+    addPluginFolders();
+    m_plugins.start();
+}
+
+void CViewer::shutDown()
+{
+    m_isShuttingDown = true;
+    closeDevices(m_plugins.registry());
+    m_plugins.shutDown();
+}
+
+void CViewer::requestQuit()
+{
+    if (m_isShuttingDown) {
+        return;
+    }
+    if (m_script && m_script->isRunning()) {
+        m_script->quit();
+    } else {
+        closeApplication(0);
+    }
+}
+
+void CViewer::quitBySignal()
+{
+    ++m_signalCount;
+    if (m_script) {
+        m_script->interrupt();
+    }
+    QMetaObject::invokeMethod(this, &CViewer::requestQuit, Qt::QueuedConnection);
+}
+
+PluginSystem::CPluginManager &CViewer::plugins()
+{
+    return m_plugins;
+}
+
+void CViewer::addPluginFolders()
+{
+    QStringList folders = m_commandLine.pluginFolders;
+    if (folders.isEmpty()) {
+        folders.append(pluginFolder());
+    }
+    for (const QString &folder : qAsConst(folders)) {
+        const int before = m_plugins.plugins().size() + m_plugins.errors().size();
+        m_plugins.addFolder(folder);
+        if (before == m_plugins.plugins().size() + m_plugins.errors().size()) {
+            qCInfo(log).noquote() << "no plug-in in folder" << folder;
+        }
+    }
+}
+
+void CViewer::onPluginsInitialized()
+{
+    const auto application =
+        Core::Plugin::findService<Plugin::NerixViewer::IApplicationService>(&m_plugins.registry());
+    if (application) {
+        connect(application.data(), &Plugin::NerixViewer::IApplicationService::quitRequested, this,
+                &CViewer::requestQuit);
+    }
+    if (m_script) {
+        QMetaObject::invokeMethod(this, &CViewer::runScript, Qt::QueuedConnection);
+    }
+}
+
+void CViewer::runScript()
+{
+    const QString failure = m_script->run(m_commandLine.scriptFile);
+    if (!failure.isEmpty()) {
+        std::fputs((failure + QLatin1Char('\n')).toUtf8().constData(), stderr);
+    }
+    closeApplication(failure.isEmpty() ? 0 : scriptFailed);
+}
+
+void CViewer::closeApplication(int status)
+{
+    if (m_signalCount >= insistingSignals || m_plugins.canClose()) {
+        QCoreApplication::exit(status);
+        return;
+    }
+    if (m_signalCount > 0) {
+        qCInfo(log) << "the signal was heeded but a plug-in objects; send it again to insist";
+    }
+    if (m_script) {
+        QTimer::singleShot(askAgainAfter, this, [this, status] { closeApplication(status); });
+    }
+}
+
+} // namespace Application

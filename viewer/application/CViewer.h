@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "application/CommandLine.h"
+
+#include <pluginsystem/CPluginManager.h>
+
+#include <atomic>
+#include <memory>
+
+#include <QObject>
+
+namespace Scripting {
+class CScriptRunner;
+}
+
+namespace Application {
+
+/// The viewer from its first plug-in to its last. GUI thread, where not said otherwise.
+///
+/// `start`, then the application's event loop, then `shutDown`. With a script on the command line
+/// the script begins once every plug-in is initialised, and its end closes the viewer.
+class CViewer : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CViewer(const CommandLine &commandLine, QObject *parent = nullptr);
+
+    /// Shuts down if that was not done yet.
+    ~CViewer() override;
+
+    void start();
+
+    /// Closes the devices while the plug-ins still listen, then ends the plug-ins. Runs an event
+    /// loop meanwhile.
+    void shutDown();
+
+    /// Ends the script if one runs, then the event loop, unless a plug-in objects.
+    void requestQuit();
+
+    /// Callable in any thread: as `requestQuit`, but a script that runs has failed. The second call
+    /// closes the viewer whatever the plug-ins say.
+    void quitBySignal();
+
+    PluginSystem::CPluginManager &plugins();
+
+private:
+    void addPluginFolders();
+    void onPluginsInitialized();
+    void runScript();
+    void closeApplication(int status);
+
+    CommandLine m_commandLine;
+    PluginSystem::CPluginManager m_plugins;
+    std::unique_ptr<Scripting::CScriptRunner> m_script;
+    std::atomic<int> m_signalCount{0};
+    bool m_isShuttingDown = false;
+};
+
+} // namespace Application

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Application {
+
+/// Where the plug-ins that belong to the viewer are. Needs the application object, like the other
+/// one: both folders are found from the place of the program, so that a build tree and an installed
+/// tree work alike.
+QString pluginFolder();
+
+/// Where the documents of the help are.
+QString documentFolder();
+
+} // namespace Application

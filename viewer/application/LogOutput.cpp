@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "application/LogOutput.h"
+
+#include <cstdio>
+
+#include <QString>
+#include <QtGlobal>
+
+namespace Application {
+
+namespace {
+
+// A single call, so that lines of several threads do not mix.
+void writeLine(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const QByteArray line = qFormatLogMessage(type, context, message).toUtf8() + '\n';
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+    std::fflush(stderr);
+}
+
+} // namespace
+
+void installLogOutput()
+{
+    qSetMessagePattern(QStringLiteral("%{if-debug}%{category}: %{endif}%{if-warning}warning: "
+                                      "%{endif}%{if-critical}error: %{endif}%{message}"));
+    qInstallMessageHandler(writeLine);
+}
+
+} // namespace Application

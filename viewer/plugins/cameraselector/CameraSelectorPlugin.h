@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <Core/Plugin/IPlugin.h>
+
+#include <QSharedPointer>
+
+namespace CameraSelector {
+
+class CDeviceSelectionService;
+
+/// The built-in plug-in "CameraSelector": tells which device is selected.
+class CCameraSelectorPlugin : public Core::Plugin::IPlugin
+{
+    Q_OBJECT
+
+public:
+    explicit CCameraSelectorPlugin(QObject *parent = nullptr);
+    ~CCameraSelectorPlugin() override;
+
+    bool preInitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
+    bool initialize() override;
+    bool uninitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
+
+private:
+    QSharedPointer<CDeviceSelectionService> m_service;
+};
+
+} // namespace CameraSelector

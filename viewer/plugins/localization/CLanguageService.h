@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "plugins/localization/ILanguageService.h"
+
+#include <functional>
+
+namespace Plugin {
+namespace Localization {
+
+/// Keeps the choice in the settings under "Localization/Language". GUI thread.
+class CLanguageService : public ILanguageService
+{
+    Q_OBJECT
+
+public:
+    /// Switches every plug-in to a language.
+    using Switch = std::function<void(const QString &language)>;
+
+    explicit CLanguageService(Switch switchPlugins, QObject *parent = nullptr);
+    ~CLanguageService() override;
+
+    QString language() const override;
+    void setLanguage(const QString &language) override;
+
+    /// Switches every plug-in to `language()`.
+    void apply();
+
+private:
+    Switch m_switchPlugins;
+};
+
+} // namespace Localization
+} // namespace Plugin

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace Plugin {
+namespace Localization {
+
+/// The language of the viewer and of its plug-ins. GUI thread.
+///
+/// A language is written as in a locale's name: "ja", "zh_CN", "en_US".
+class ILanguageService : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The language in use: the user's choice if there is one, else the system's.
+    virtual QString language() const = 0;
+
+    /// Switches the viewer and every plug-in to \a language at once and remembers it. An empty
+    /// text forgets the choice and follows the system.
+    virtual void setLanguage(const QString &language) = 0;
+
+Q_SIGNALS:
+    /// Every plug-in has been switched to \a language.
+    void languageChanged(const QString &language);
+
+protected:
+    using QObject::QObject;
+};
+
+} // namespace Localization
+} // namespace Plugin

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <Core/Plugin/IPlugin.h>
+
+#include <QSharedPointer>
+
+class QAction;
+
+namespace Plugin {
+namespace NerixWelcome {
+
+class CNerixWelcomeController;
+class CNerixWelcomeService;
+
+/// The built-in plug-in "NerixWelcome": the welcome screen with the tabs of other plug-ins, and the
+/// entry of the View menu that brings it up.
+class CNerixWelcomePlugin : public Core::Plugin::IPlugin
+{
+    Q_OBJECT
+
+public:
+    explicit CNerixWelcomePlugin(QObject *parent = nullptr);
+    ~CNerixWelcomePlugin() override;
+
+    bool preInitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
+    bool initialize() override;
+    bool uninitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
+
+private:
+    void addMenuEntry();
+
+    QPointer<Core::Plugin::IPluginInitializer> m_initializer;
+    QSharedPointer<CNerixWelcomeController> m_controller;
+    QSharedPointer<CNerixWelcomeService> m_service;
+    QAction *m_showAction = nullptr;
+};
+
+} // namespace NerixWelcome
+} // namespace Plugin

@@ -1,0 +1,217 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "scripting/CScriptCameras.h"
+
+#include "plugins/cameraselector/IDeviceSelectionService.h"
+#include "scripting/CCameraJournal.h"
+#include "scripting/CScriptWait.h"
+
+#include <CameraPool/ICameraStatusService.h>
+
+#include <algorithm>
+
+namespace Scripting {
+
+using CameraPool::ICameraControlService;
+
+namespace {
+
+CameraInfoPtr firstMatch(const QList<CameraInfoPtr> &cameras, const QString &pattern)
+{
+    const auto found = std::find_if(cameras.begin(), cameras.end(), [&pattern](const auto &camera) {
+        return matches(camera, pattern);
+    });
+    return found == cameras.end() ? CameraInfoPtr() : *found;
+}
+
+CameraInfoPtr named(const QList<CameraInfoPtr> &cameras, const QString &name)
+{
+    for (const CameraInfoPtr &camera : cameras) {
+        if (camera->identity() == name) {
+            return camera;
+        }
+    }
+    for (const CameraInfoPtr &camera : cameras) {
+        if (camera->displayName() == name) {
+            return camera;
+        }
+    }
+    return {};
+}
+
+bool isOpen(const ICameraControlService &control, const CameraInfoPtr &camera)
+{
+    const auto state = control.state(camera);
+    return state == ICameraControlService::Open || state == ICameraControlService::Grabbing;
+}
+
+} // namespace
+
+CScriptCameras::CScriptCameras(const Core::Plugin::IPluginInitializer &services, CScriptWait &wait,
+                               QObject *parent)
+    : CScriptObject(services, parent)
+    , m_wait(wait)
+    , m_journal(new CCameraJournal(this))
+{
+    if (const auto status =
+            Core::Plugin::findService<CameraPool::ICameraStatusService>(&services)) {
+        m_journal->listenTo(*status);
+    }
+}
+
+CScriptCameras::~CScriptCameras() = default;
+
+QVariantList CScriptCameras::list()
+{
+    QVariantList descriptions;
+    if (const auto pool = control()) {
+        const auto cameras = pool->cameras();
+        for (const CameraInfoPtr &camera : cameras) {
+            descriptions.append(describeCamera(camera, *pool));
+        }
+    }
+    return descriptions;
+}
+
+QVariant CScriptCameras::waitFor(const QJSValue &what, int timeoutMs)
+{
+    return what.isNumber() ? waitForCount(what.toInt(), timeoutMs)
+                           : waitForMatch(what.toString(), timeoutMs);
+}
+
+void CScriptCameras::waitForGone(const QString &pattern, int timeoutMs)
+{
+    if (const auto pool = control()) {
+        waitUntil([&] { return !firstMatch(pool->cameras(), pattern); }, timeoutMs,
+                  QStringLiteral("camera \"%1\" is still there").arg(pattern));
+    }
+}
+
+QVariant CScriptCameras::open(const QJSValue &camera, int timeoutMs)
+{
+    const auto pool = control();
+    const CameraInfoPtr found = pool ? find(camera) : nullptr;
+    if (!found) {
+        return {};
+    }
+    QString failure;
+    const QObject context;
+    connect(pool.data(), &ICameraControlService::openFailed, &context,
+            [&](const CameraInfoPtr &failed, const QString &message) {
+                if (failed->identity() == found->identity()) {
+                    failure = message;
+                }
+            });
+    pool->open(found);
+    waitUntil([&] { return !failure.isEmpty() || isOpen(*pool, found); }, timeoutMs,
+              QStringLiteral("camera \"%1\" is not open").arg(found->identity()));
+    if (!failure.isEmpty()) {
+        fail(failure);
+        return {};
+    }
+    return describeCamera(found, *pool);
+}
+
+void CScriptCameras::close(const QJSValue &camera, int timeoutMs)
+{
+    const auto pool = control();
+    const CameraInfoPtr found = pool ? find(camera) : nullptr;
+    if (!found) {
+        return;
+    }
+    bool isClosed = false;
+    const QObject context;
+    connect(pool.data(), &ICameraControlService::closed, &context,
+            [&](const CameraInfoPtr &closed) {
+                isClosed = isClosed || closed->identity() == found->identity();
+            });
+    pool->close(found);
+    waitUntil([&] { return isClosed; }, timeoutMs,
+              QStringLiteral("camera \"%1\" is not closed").arg(found->identity()));
+}
+
+void CScriptCameras::select(const QJSValue &camera)
+{
+    const auto selection = service<CameraSelector::IDeviceSelectionService>("CameraSelector");
+    if (!selection) {
+        return;
+    }
+    if (camera.isNull()) {
+        selection->select({});
+    } else if (const CameraInfoPtr found = find(camera)) {
+        selection->select(found);
+    }
+}
+
+QVariant CScriptCameras::selected()
+{
+    using Core::CameraPoolComponents::ICameraInfo;
+    const auto selection = service<CameraSelector::IDeviceSelectionService>("CameraSelector");
+    if (!selection) {
+        return {};
+    }
+    const auto camera = qSharedPointerDynamicCast<ICameraInfo>(selection->selected());
+    return camera ? describeCamera(camera) : QVariant::fromValue(nullptr);
+}
+
+QVariantList CScriptCameras::takeEvents()
+{
+    return m_journal->take();
+}
+
+QSharedPointer<ICameraControlService> CScriptCameras::control() const
+{
+    return service<ICameraControlService>("CameraPool");
+}
+
+CameraInfoPtr CScriptCameras::find(const QJSValue &camera) const
+{
+    const auto pool = control();
+    if (!pool) {
+        return {};
+    }
+    const QString name = cameraName(camera);
+    const CameraInfoPtr found = named(pool->cameras(), name);
+    if (!found) {
+        fail(QStringLiteral("there is no camera \"%1\" (%2)").arg(name, namesOf(pool->cameras())));
+    }
+    return found;
+}
+
+QVariant CScriptCameras::waitForCount(int count, int timeoutMs)
+{
+    if (const auto pool = control()) {
+        waitUntil([&] { return pool->cameras().size() >= count; }, timeoutMs,
+                  QStringLiteral("there are not %1 cameras").arg(count));
+        return list();
+    }
+    return {};
+}
+
+QVariant CScriptCameras::waitForMatch(const QString &pattern, int timeoutMs)
+{
+    const auto pool = control();
+    if (!pool) {
+        return {};
+    }
+    CameraInfoPtr camera;
+    waitUntil([&] { return (camera = firstMatch(pool->cameras(), pattern)) != nullptr; }, timeoutMs,
+              QStringLiteral("there is no camera \"%1\"").arg(pattern));
+    return camera ? describeCamera(camera, *pool) : QVariant();
+}
+
+// A wait that was stopped needs no exception: the script is being ended.
+bool CScriptCameras::waitUntil(const std::function<bool()> &condition, int timeoutMs,
+                               const QString &what)
+{
+    const auto result = m_wait.until(condition, std::chrono::milliseconds(timeoutMs));
+    if (result == CScriptWait::Result::TimedOut) {
+        const auto pool = control();
+        fail(QStringLiteral("%1 after %2 ms (%3)")
+                 .arg(what, QString::number(timeoutMs), namesOf(pool->cameras())));
+    }
+    return result == CScriptWait::Result::Met;
+}
+
+} // namespace Scripting

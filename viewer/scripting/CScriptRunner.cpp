@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "scripting/CScriptRunner.h"
+
+#include "scripting/CScriptCameras.h"
+#include "scripting/CScriptConsent.h"
+#include "scripting/CScriptHelp.h"
+#include "scripting/CScriptHost.h"
+#include "scripting/CScriptLanguage.h"
+#include "scripting/CScriptMenu.h"
+#include "scripting/CScriptPlugins.h"
+#include "scripting/CScriptSettings.h"
+#include "scripting/CScriptWelcome.h"
+#include "scripting/ScriptError.h"
+
+#include <pluginsystem/CPluginManager.h>
+
+#include <cstdio>
+#include <utility>
+
+#include <QFile>
+
+// The resource is in a static library, so nothing else asks the linker for it.
+static void initResource()
+{
+    Q_INIT_RESOURCE(scripting);
+}
+
+namespace Scripting {
+
+namespace {
+
+void printToStandardOutput(const QString &line)
+{
+    std::fputs((line + QLatin1Char('\n')).toUtf8().constData(), stdout);
+    std::fflush(stdout);
+}
+
+QString contentOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+} // namespace
+
+CScriptRunner::CScriptRunner(PluginSystem::CPluginManager &plugins, QObject *parent)
+    : QObject(parent)
+    , m_plugins(plugins)
+    , m_printer(printToStandardOutput)
+{}
+
+CScriptRunner::~CScriptRunner() = default;
+
+bool CScriptRunner::isRunning() const
+{
+    return m_isRunning;
+}
+
+void CScriptRunner::setPrinter(Printer printer)
+{
+    m_printer = std::move(printer);
+}
+
+QString CScriptRunner::run(const QString &file)
+{
+    m_isRunning = true;
+    addObjects();
+    addPrelude();
+    // A script may throw what is no Error, which then looks like its result: only a script that
+    // comes to its last line has not thrown.
+    const QString program = contentOf(file) + QStringLiteral("\n;__nerix.endReached();");
+    const QJSValue result = m_engine.evaluate(program, file);
+    m_isRunning = false;
+    return failureOf(file, result);
+}
+
+void CScriptRunner::quit()
+{
+    end(Ending::Quit);
+}
+
+void CScriptRunner::interrupt()
+{
+    end(Ending::Interrupted);
+}
+
+void CScriptRunner::addObjects()
+{
+    const Core::Plugin::IPluginInitializer &services = m_plugins.registry();
+    auto *host = new CScriptHost(m_wait, m_printer, this);
+    connect(host, &CScriptHost::quitRequested, this, &CScriptRunner::quit);
+    connect(host, &CScriptHost::lastLineReached, this, [this] { m_hasReachedEnd = true; });
+    addObject("__nerix", host);
+    addObject("cameras", new CScriptCameras(services, m_wait, this));
+    addObject("consent", new CScriptConsent(services, this));
+    addObject("help", new CScriptHelp(services, this));
+    addObject("language", new CScriptLanguage(services, this));
+    addObject("menu", new CScriptMenu(services, this));
+    addObject("plugins", new CScriptPlugins(m_plugins, this));
+    addObject("settings", new CScriptSettings(this));
+    addObject("welcome", new CScriptWelcome(services, this));
+}
+
+void CScriptRunner::addObject(const char *name, QObject *object)
+{
+    m_engine.globalObject().setProperty(QString::fromLatin1(name), m_engine.newQObject(object));
+}
+
+void CScriptRunner::addPrelude()
+{
+    initResource();
+    const QString prelude = QStringLiteral(":/scripting/prelude.js");
+    const QJSValue result = m_engine.evaluate(contentOf(prelude), prelude);
+    Q_ASSERT_X(!result.isError(), "prelude.js", qPrintable(result.toString()));
+}
+
+// The first ending counts: a script that was told to quit does not fail by a later signal.
+void CScriptRunner::end(Ending ending)
+{
+    Ending none = Ending::None;
+    m_ending.compare_exchange_strong(none, ending);
+    m_wait.stop();
+    m_engine.setInterrupted(true);
+}
+
+QString CScriptRunner::failureOf(const QString &file, const QJSValue &result) const
+{
+    if (m_ending == Ending::Quit) {
+        return {};
+    }
+    if (m_ending == Ending::Interrupted) {
+        return QStringLiteral("%1: ended by a signal").arg(file);
+    }
+    return m_hasReachedEnd ? QString() : describeError(file, result);
+}
+
+} // namespace Scripting
