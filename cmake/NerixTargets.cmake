@@ -17,13 +17,20 @@ function(nerix_configure_target target)
     endif()
 endfunction()
 
-# The same for a target that uses Qt: texts are never converted from or to bytes by accident.
-function(nerix_configure_qt_target target)
+# The same for a target that uses Qt.
+function(nerix_configure_qt_base target)
     nerix_configure_target(${target})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     target_compile_definitions(${target} PRIVATE
-        QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
-        QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050C00)
+        QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050C00)
+endfunction()
+
+# The same for a part of the product: texts are never converted from or to bytes by accident. Tests
+# may, since they are full of literals.
+function(nerix_configure_qt_target target)
+    nerix_configure_qt_base(${target})
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
 endfunction()
 
 # Whether a program may have a network of its own here. Where it may not, tests that use the network
@@ -37,7 +44,7 @@ execute_process(COMMAND unshare --user --map-root-user --net ip link set lo up
 function(nerix_add_test name)
     cmake_parse_arguments(arg "ISOLATED_NETWORK" "" "SOURCES;LIBRARIES;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
-    nerix_configure_qt_target(${name})
+    nerix_configure_qt_base(${name})
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} Qt5::Test)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests/bin")
     if(arg_ISOLATED_NETWORK)

@@ -1,0 +1,316 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+// Opening and closing a session with the analytics library, and the withdrawal.
+
+#include "TestMain.h"
+#include "TrackingFixture.h"
+
+#include <internal/AnalyticsConfiguration.h>
+
+using Plugin::UsageTracking::Internal::productId;
+using Plugin::UsageTracking::Internal::serverHost;
+
+namespace {
+
+const QString create = QStringLiteral("ruiCreateInstance(0)");
+const QString sessionStarted =
+    QStringLiteral("ruiTrackEventText(#1 | GeneralEvent | SessionStarted | "
+                   R"({"EventCategory":"GeneralEvent","EventName":"SessionStarted"} | ))");
+const QString sessionEnded =
+    QStringLiteral("ruiTrackEventText(#1 | GeneralEvent | SessionEnded | "
+                   R"({"EventCategory":"GeneralEvent","EventName":"SessionEnded",)"
+                   R"("FinalCameraCount":0,"TotalUsedCameraCount":0} | ))");
+
+QString config(int instance)
+{
+    return QStringLiteral("ruiCreateConfig(#%1 | %2 | 2026110001 | nerixViewer |  | 3 |  | 0 | 0)")
+        .arg(QString::number(instance), expectedDirectory());
+}
+
+QString productData(int instance)
+{
+    return QStringLiteral("ruiSetProductData(#%1 | Standard | US English | 7.1.0 | 11271)")
+        .arg(instance);
+}
+
+QString call(const char *function, int instance)
+{
+    return QStringLiteral("%1(#%2)").arg(QLatin1String(function)).arg(instance);
+}
+
+QString stopCall(int instance)
+{
+    return QStringLiteral("ruiStopSDK(#%1 | 0)").arg(instance);
+}
+
+} // namespace
+
+class SessionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        QDir(expectedDirectory()).removeRecursively();
+    }
+
+    void servicesAreFoundUnderTheReadLockOnly()
+    {
+        const TrackingFixture f;
+        QVERIFY(f.servicesFound);
+        QCOMPARE(f.host.unlockedWalks, 0);
+    }
+
+    void everyRequiredServiceIsMissed_data()
+    {
+        QTest::addColumn<QString>("missing");
+        QTest::addColumn<bool>("found");
+        QTest::newRow("nothing missing") << QString() << true;
+        QTest::newRow("device selector is required") << "selector" << false;
+        QTest::newRow("camera status is required") << "status" << false;
+        QTest::newRow("enumeration is required") << "enumeration" << false;
+        QTest::newRow("parameter service is required") << "parameters" << false;
+        QTest::newRow("feature trees are not required") << "trees" << true;
+    }
+
+    void everyRequiredServiceIsMissed()
+    {
+        QFETCH(QString, missing);
+        FakeHost host;
+        const QMap<QString, QSharedPointer<QObject>> services{
+            {QStringLiteral("selector"), host.deviceSelector},
+            {QStringLiteral("status"), host.cameraStatus},
+            {QStringLiteral("enumeration"), host.enumeration},
+            {QStringLiteral("parameters"), host.parameterService},
+            {QStringLiteral("trees"), host.featureTree},
+        };
+        host.removeService(services.value(missing));
+        Plugin::UsageTracking::Internal::CUsageTrackingProvider provider;
+        QTEST(provider.acquireServices(&host), "found");
+    }
+
+    void startMakesTheCallsInOrderWithAllArguments()
+    {
+        TrackingFixture f;
+        f.start();
+        QCOMPARE(f.analytics.calls(), QStringList({create, config(1), productData(1),
+                                                   call("ruiStartSDK", 1), sessionStarted}));
+    }
+
+    void configurationDirectoryIsCreatedWithItsParents()
+    {
+        QVERIFY(!QFileInfo::exists(expectedDirectory()));
+        TrackingFixture f;
+        f.start();
+        QVERIFY(QFileInfo(expectedDirectory()).isDir());
+    }
+
+    void productIdAndServerHostCanBePointedElsewhere()
+    {
+        const char *const builtInProduct = productId;
+        const char *const builtInHost = serverHost;
+        productId = "9876543210";
+        serverHost = "https://telemetry.example";
+        TrackingFixture f;
+        f.start();
+        productId = builtInProduct;
+        serverHost = builtInHost;
+        QCOMPARE(f.analytics.calls().at(1),
+                 QStringLiteral("ruiCreateConfig(#1 | %1 | 9876543210 | nerixViewer | "
+                                "https://telemetry.example | 3 |  | 0 | 0)")
+                     .arg(expectedDirectory()));
+    }
+
+    void failingStepEndsTheStart_data()
+    {
+        QTest::addColumn<QString>("failing");
+        QTest::addColumn<QStringList>("calls");
+        QTest::newRow("configuration fails: destroyed, no event")
+            << "ruiCreateConfig" << QStringList{create, config(1), call("ruiDestroyInstance", 1)};
+        QTest::newRow("product data fails: destroyed, no event")
+            << "ruiSetProductData"
+            << QStringList{create, config(1), productData(1), call("ruiDestroyInstance", 1)};
+        QTest::newRow("start fails: destroyed, no event")
+            << "ruiStartSDK"
+            << QStringList{create, config(1), productData(1), call("ruiStartSDK", 1),
+                           call("ruiDestroyInstance", 1)};
+    }
+
+    void failingStepEndsTheStart()
+    {
+        QFETCH(QString, failing);
+        TrackingFixture f;
+        f.analytics.setResult(failing, 5);
+        f.start();
+        QTEST(f.analytics.calls(), "calls");
+        QCOMPARE(
+            f.host.cameraStatus->receiverCount(&CameraPool::ICameraStatusService::deviceConnected),
+            0);
+        f.analytics.takeCalls();
+        f.stop();
+        f.optOut();
+        QCOMPARE(f.analytics.calls(), QStringList());
+    }
+
+    void withoutAnInstanceOneSessionStartedGoesToANullHandleAndNothingIsSubscribed()
+    {
+        TrackingFixture f;
+        f.analytics.setCreatesInstances(false);
+        f.start();
+        QCOMPARE(
+            f.analytics.takeCalls(),
+            QStringList(
+                {create, QStringLiteral("ruiTrackEventText(NULL | GeneralEvent | SessionStarted | "
+                                        R"({"EventCategory":"GeneralEvent",)"
+                                        R"("EventName":"SessionStarted"} | ))")}));
+        QCOMPARE(f.callsFor([&] { Q_EMIT f.host.enumeration->enumerationChanged(); }),
+                 QStringList());
+    }
+
+    void stopWithoutASessionMakesNoCall()
+    {
+        TrackingFixture f;
+        f.stop();
+        QCOMPARE(f.analytics.calls(), QStringList());
+    }
+
+    void stopSendsTheEndThenStopsAndDestroys()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.stop();
+        QCOMPARE(f.analytics.takeCalls(),
+                 QStringList({sessionEnded, stopCall(1), call("ruiDestroyInstance", 1)}));
+        f.stop();
+        QCOMPARE(f.analytics.calls(), QStringList());
+    }
+
+    void failingCodesOfStopAndDestroyAreIgnored()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        for (const char *function : {"ruiStopSDK", "ruiDestroyInstance", "ruiTrackEventText"}) {
+            f.analytics.setResult(QLatin1String(function), 10);
+        }
+        f.stop();
+        QCOMPARE(f.analytics.calls(),
+                 QStringList({sessionEnded, stopCall(1), call("ruiDestroyInstance", 1)}));
+    }
+
+    void optOutWithoutASessionMakesNoCall()
+    {
+        TrackingFixture f;
+        f.optOut();
+        QCOMPARE(f.analytics.calls(), QStringList());
+    }
+
+    void optOutEndsTheSessionThenRecordsBeforeItStarts()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.optOut();
+        QCOMPARE(f.analytics.calls(),
+                 QStringList({sessionEnded, stopCall(1), call("ruiDestroyInstance", 1), create,
+                              config(2), productData(2), call("ruiOptOut", 2),
+                              call("ruiStartSDK", 2), stopCall(2), call("ruiDestroyInstance", 2)}));
+    }
+
+    void failedOptOutIsLoggedAndTheLibraryStillStartedAndStopped()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.analytics.setResult(QStringLiteral("ruiOptOut"), 7);
+        QTest::ignoreMessage(QtWarningMsg, "ruiOptOut failed with code 7");
+        f.optOut();
+        QCOMPARE(f.analytics.calls().mid(6),
+                 QStringList({call("ruiOptOut", 2), call("ruiStartSDK", 2), stopCall(2),
+                              call("ruiDestroyInstance", 2)}));
+    }
+
+    void failedStartAfterTheOptOutIsLogged()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.analytics.setResult(QStringLiteral("ruiStartSDK"), 7);
+        QTest::ignoreMessage(QtWarningMsg, "ruiOptOut succeeding ruiStartSDK failed with code 7");
+        f.optOut();
+        QCOMPARE(f.analytics.calls().mid(6),
+                 QStringList({call("ruiOptOut", 2), call("ruiStartSDK", 2), stopCall(2),
+                              call("ruiDestroyInstance", 2)}));
+    }
+
+    void warningsCarryNegativeCodesInDecimal()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.analytics.setResult(QStringLiteral("ruiOptOut"), -2147483647);
+        QTest::ignoreMessage(QtWarningMsg, "ruiOptOut failed with code -2147483647");
+        f.optOut();
+    }
+
+    void failedConfigurationOfTheOptOutKeepsTheHandle()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.analytics.setResult(QStringLiteral("ruiCreateConfig"), 5);
+        f.optOut();
+        QCOMPARE(f.analytics.takeCalls(),
+                 QStringList({sessionEnded, stopCall(1), call("ruiDestroyInstance", 1), create,
+                              config(2)}));
+        // Kept: it counts as an open session, so a stop sends its end through it.
+        f.stop();
+        QCOMPARE(f.analytics.takeCalls().value(0),
+                 QStringLiteral("ruiTrackEventText(#2 | GeneralEvent | SessionEnded | "
+                                R"({"EventCategory":"GeneralEvent","EventName":"SessionEnded",)"
+                                R"("FinalCameraCount":0,"TotalUsedCameraCount":0} | ))"));
+    }
+
+    void keptHandleIsReplacedByTheNextStart()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.analytics.setResult(QStringLiteral("ruiCreateConfig"), 5);
+        f.optOut();
+        f.analytics.setResult(QStringLiteral("ruiCreateConfig"), 0);
+        f.analytics.takeCalls();
+        f.start();
+        QCOMPARE(f.analytics.calls().mid(0, 4),
+                 QStringList({create, config(3), productData(3), call("ruiStartSDK", 3)}));
+    }
+
+    void failedProductDataOfTheOptOutDestroysWithoutRecording()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.analytics.setResult(QStringLiteral("ruiSetProductData"), 2);
+        f.optOut();
+        QCOMPARE(f.analytics.calls().mid(3),
+                 QStringList({create, config(2), productData(2), call("ruiDestroyInstance", 2)}));
+    }
+
+    void optOutWithoutASecondInstanceEndsTheSessionOnly()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.analytics.setCreatesInstances(false);
+        f.optOut();
+        QCOMPARE(f.analytics.calls(),
+                 QStringList({sessionEnded, stopCall(1), call("ruiDestroyInstance", 1), create}));
+    }
+
+    void everyCallIsMadeInTheTrackingThread()
+    {
+        TrackingFixture f;
+        f.start();
+        f.connectCamera(f.host.makeCamera("A"));
+        f.optOut();
+        for (const RecordedCall &call : f.analytics.recorded()) {
+            QCOMPARE(call.thread, &f.trackingThread);
+        }
+    }
+};
+
+NERIX_TEST_MAIN(SessionTest)
+#include "SessionTest.moc"

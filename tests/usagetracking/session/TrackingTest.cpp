@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+// What tracking listens to, and the events of a session.
+
+#include "TestMain.h"
+#include "TrackingFixture.h"
+
+#include <QSemaphore>
+
+using CameraPool::ICameraEnumerationService;
+using CameraPool::ICameraStatusService;
+using CameraPool::IDeviceStatusService;
+
+namespace {
+
+QString ended(int finalCount, int usedCount)
+{
+    return QStringLiteral("{\"EventCategory\":\"GeneralEvent\",\"EventName\":\"SessionEnded\","
+                          "\"FinalCameraCount\":%1,\"TotalUsedCameraCount\":%2}")
+        .arg(finalCount)
+        .arg(usedCount);
+}
+
+QStringList initialCameraCount(int count)
+{
+    return {QStringLiteral("ruiTrackEventText(#1 | GeneralEvent | InitialCameraCount | "
+                           "{\"EventCategory\":\"GeneralEvent\","
+                           "\"EventName\":\"InitialCameraCount\",\"InitialCameraCount\":%1} | )")
+                .arg(count)};
+}
+
+} // namespace
+
+class TrackingTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QList<int> receiverCounts(const TrackingFixture &f)
+    {
+        const auto &cameras = *f.host.cameraStatus;
+        return {
+            cameras.receiverCount(&ICameraStatusService::deviceConnected),
+            cameras.receiverCount(&ICameraStatusService::deviceDisconnected),
+            cameras.receiverCount(&IDeviceStatusService::deviceOpened),
+            cameras.receiverCount(&IDeviceStatusService::deviceClosing),
+            cameras.receiverCount(&ICameraStatusService::cameraGrabStarted),
+            cameras.receiverCount(&ICameraStatusService::cameraGrabStopped),
+            cameras.receiverCount(&ICameraStatusService::cameraImageGrabbed),
+            cameras.receiverCount(&ICameraStatusService::cameraStatisticUpdated),
+        };
+    }
+
+private Q_SLOTS:
+    void startSubscribesOnceToEverySignalAndStopUnsubscribes()
+    {
+        TrackingFixture f;
+        f.start();
+        QCOMPARE(receiverCounts(f), QList<int>({1, 1, 1, 1, 1, 1, 1, 1}));
+        f.stop();
+        QCOMPARE(receiverCounts(f), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
+    }
+
+    void connectionsAreNotUnique()
+    {
+        TrackingFixture f;
+        f.start();
+        f.start();
+        QCOMPARE(receiverCounts(f), QList<int>({2, 2, 2, 2, 2, 2, 2, 2}));
+    }
+
+    void nothingIsHeardBeforeTheStartAndAfterTheStop()
+    {
+        TrackingFixture f;
+        const auto camera = f.host.makeCamera("A");
+        const auto everySignal = [&] {
+            Q_EMIT f.host.cameraStatus->deviceConnected(camera);
+            Q_EMIT f.host.enumeration->enumerationChanged();
+            Q_EMIT f.host.cameraStatus->deviceOpened(camera);
+            Q_EMIT f.host.cameraStatus->cameraGrabStopped(camera);
+            Q_EMIT f.host.cameraStatus->deviceClosing(camera);
+            Q_EMIT f.host.cameraStatus->deviceDisconnected(camera);
+        };
+        QCOMPARE(f.callsFor(everySignal), QStringList());
+        f.start();
+        f.stop();
+        QCOMPARE(f.callsFor(everySignal), QStringList());
+    }
+
+    void everyFeatureTreeIsHeard()
+    {
+        const auto second = QSharedPointer<FakeFeatureTreeService>::create();
+        TrackingFixture f;
+        f.host.addService(second);
+        f.inTrackingThread([&] { f.provider->acquireServices(&f.host); });
+        f.startQuietly();
+        const auto gain = QSharedPointer<FakeInteger>::create(QStringLiteral("@CameraDevice/Gain"));
+        const QStringList chosen{
+            QStringLiteral("ruiTrackEventText(#1 | FeatureChosen | Gain | "
+                           R"({"EventCategory":"FeatureChosen","EventName":"Gain"} | ))")};
+        QCOMPARE(f.callsFor([&] { Q_EMIT f.host.featureTree->currentChanged(gain); }), chosen);
+        QCOMPARE(f.callsFor([&] { Q_EMIT second->currentChanged(gain); }), chosen);
+    }
+
+    void deviceClosingBlocksTheEmitterUntilTheDeviceWasRead()
+    {
+        TrackingFixture f;
+        const auto camera = f.host.makeCamera("A");
+        f.startQuietly();
+        // The tracking thread is busy: a slot that is only queued has not run when the signal
+        // returns.
+        QSemaphore release;
+        QMetaObject::invokeMethod(
+            f.provider, [&] { release.acquire(); }, Qt::QueuedConnection);
+        QSemaphore emitting;
+        QStringList seenOnReturn;
+        QList<QString> streamsReadOnReturn;
+        f.host.startInCameraThread([&] {
+            emitting.release();
+            Q_EMIT f.host.cameraStatus->deviceClosing(camera);
+            seenOnReturn = f.analytics.calls();
+            streamsReadOnReturn = f.host.parametersOf(camera)->streamsRead;
+        });
+        emitting.acquire();
+        release.release();
+        f.host.inCameraThread([] {});
+        QCOMPARE(streamsReadOnReturn, QList<QString>{QStringLiteral("@CameraDevice")});
+        QCOMPARE(seenOnReturn.size(), 1);
+        QVERIFY(seenOnReturn.at(0).contains(QLatin1String("\"EventName\":\"Closed\"")));
+    }
+
+    void otherSignalsDoNotBlockTheEmitter()
+    {
+        TrackingFixture f;
+        const auto camera = f.host.makeCamera("A");
+        f.startQuietly();
+        QSemaphore release;
+        QMetaObject::invokeMethod(
+            f.provider, [&] { release.acquire(); }, Qt::QueuedConnection);
+        f.host.inCameraThread([&] {
+            Q_EMIT f.host.cameraStatus->deviceConnected(camera);
+            Q_EMIT f.host.cameraStatus->deviceOpened(camera);
+            Q_EMIT f.host.cameraStatus->cameraGrabStarted(camera);
+            Q_EMIT f.host.cameraStatus->cameraGrabStopped(camera);
+            Q_EMIT f.host.cameraStatus->deviceDisconnected(camera);
+        });
+        QCOMPARE(f.analytics.calls(), QStringList());
+        release.release();
+        f.settle();
+        QVERIFY(!f.analytics.calls().isEmpty());
+    }
+
+    void initialCameraCountIsSentOncePerSession()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.connectCamera(f.host.makeCamera("A"));
+        const auto enumerate = [&] { Q_EMIT f.host.enumeration->enumerationChanged(); };
+        QCOMPARE(f.callsFor(enumerate), initialCameraCount(1));
+        QCOMPARE(f.callsFor(enumerate), QStringList());
+        QCOMPARE(f.callsFor(enumerate), QStringList());
+    }
+
+    void initialCameraCountIsSentAgainInTheNextSession()
+    {
+        TrackingFixture f;
+        f.start();
+        const auto enumerate = [&] { Q_EMIT f.host.enumeration->enumerationChanged(); };
+        QCOMPARE(f.callsFor(enumerate), initialCameraCount(0));
+        f.stop();
+        f.start();
+        QCOMPARE(f.callsFor(enumerate),
+                 QStringList{QStringLiteral(
+                     "ruiTrackEventText(#2 | GeneralEvent | InitialCameraCount | "
+                     R"({"EventCategory":"GeneralEvent","EventName":"InitialCameraCount",)"
+                     R"("InitialCameraCount":0} | ))")});
+    }
+
+    void secondSessionCountsEveryCameraEverUsed()
+    {
+        TrackingFixture f;
+        const auto a = f.host.makeCamera("A");
+        const auto b = f.host.makeCamera("B");
+        f.start();
+        f.connectCamera(a);
+        f.connectCamera(b);
+        f.analytics.takeCalls();
+        f.stop();
+        QVERIFY(f.analytics.takeCalls().at(0).contains(ended(2, 2)));
+
+        f.start();
+        f.emitFromHost([&] { Q_EMIT f.host.cameraStatus->deviceDisconnected(b); });
+        f.connectCamera(b);
+        f.analytics.takeCalls();
+        f.stop();
+        QVERIFY(f.analytics.calls().at(0).contains(ended(2, 2)));
+    }
+
+    void finalCameraCountFollowsEveryConnectAndDisconnect()
+    {
+        TrackingFixture f;
+        const auto a = f.host.makeCamera("A");
+        f.start();
+        f.emitFromHost([&] {
+            Q_EMIT f.host.cameraStatus->deviceDisconnected(a);
+            Q_EMIT f.host.cameraStatus->deviceDisconnected(a);
+        });
+        f.analytics.takeCalls();
+        f.stop();
+        QVERIFY2(f.analytics.calls().at(0).contains(ended(-2, 0)), "the count is not clamped");
+    }
+
+    void stopDestroysTheParameterObservers()
+    {
+        TrackingFixture f;
+        const auto camera = f.host.makeCamera("A");
+        const auto gain = f.host.parametersOf(camera)->add<FakeInteger>("@CameraDevice/Gain");
+        f.start();
+        f.openCamera(camera);
+        QCOMPARE(f.callsFor([&] { gain->setValueText(QStringLiteral("1")); }).size(), 1);
+        f.stop();
+        QCOMPARE(f.callsFor([&] { gain->setValueText(QStringLiteral("2")); }), QStringList());
+    }
+
+    void missingServicesOnlyCostTheirSubscriptions()
+    {
+        TrackingFixture f;
+        f.host.removeService(f.host.deviceSelector);
+        f.host.removeService(f.host.enumeration);
+        f.host.removeService(f.host.parameterService);
+        f.inTrackingThread([&] { QVERIFY(!f.provider->acquireServices(&f.host)); });
+        f.startQuietly();
+        const auto camera = f.host.makeCamera("A");
+        QCOMPARE(f.callsFor([&] { Q_EMIT f.host.cameraStatus->deviceConnected(camera); }).size(),
+                 2);
+        QCOMPARE(f.callsFor([&] {
+            Q_EMIT f.host.cameraStatus->deviceOpened(camera);
+            Q_EMIT f.host.cameraStatus->cameraGrabStarted(camera);
+            Q_EMIT f.host.cameraStatus->cameraGrabStopped(camera);
+            Q_EMIT f.host.cameraStatus->deviceClosing(camera);
+        }),
+                 QStringList());
+    }
+};
+
+NERIX_TEST_MAIN(TrackingTest)
+#include "TrackingTest.moc"

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QApplication>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+/// An application with names and folders of its own, so that tests neither touch what belongs to a
+/// user nor meet each other.
+#define NERIX_TEST_MAIN(TestClass)                                                                 \
+    int main(int argc, char *argv[])                                                               \
+    {                                                                                              \
+        QTemporaryDir home;                                                                        \
+        qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());                                       \
+        qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());                                     \
+        QApplication application(argc, argv);                                                      \
+        QCoreApplication::setOrganizationName(QStringLiteral("Ostrand"));                          \
+        QCoreApplication::setApplicationName(QStringLiteral(#TestClass));                          \
+        QSettings::setDefaultFormat(QSettings::IniFormat);                                         \
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.path());               \
+        TestClass test;                                                                            \
+        return QTest::qExec(&test, argc, argv);                                                    \
+    }

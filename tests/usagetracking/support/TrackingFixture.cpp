@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "TrackingFixture.h"
+
+#include <QMetaObject>
+#include <QStandardPaths>
+
+using Plugin::UsageTracking::Internal::CUsageTrackingProvider;
+
+TrackingFixture::TrackingFixture()
+    : provider(new CUsageTrackingProvider)
+{
+    analytics.reset();
+    servicesFound = provider->acquireServices(&host);
+    provider->moveToThread(&trackingThread);
+    QObject::connect(&trackingThread, &QThread::finished, provider, &QObject::deleteLater);
+    trackingThread.start();
+}
+
+TrackingFixture::~TrackingFixture()
+{
+    trackingThread.quit();
+    trackingThread.wait();
+}
+
+void TrackingFixture::start()
+{
+    inTrackingThread([this] { provider->startTracking(); });
+}
+
+void TrackingFixture::stop()
+{
+    inTrackingThread([this] { provider->stopTracking(); });
+}
+
+void TrackingFixture::optOut()
+{
+    inTrackingThread([this] { provider->stopTrackingAndOptOut(); });
+}
+
+void TrackingFixture::emitFromHost(const std::function<void()> &emission)
+{
+    host.inCameraThread(emission);
+    settle();
+}
+
+QStringList TrackingFixture::callsFor(const std::function<void()> &emission)
+{
+    analytics.takeCalls();
+    emitFromHost(emission);
+    return analytics.takeCalls();
+}
+
+void TrackingFixture::startQuietly()
+{
+    start();
+    analytics.takeCalls();
+}
+
+void TrackingFixture::settle()
+{
+    inTrackingThread([] {});
+}
+
+void TrackingFixture::inTrackingThread(const std::function<void()> &work)
+{
+    QMetaObject::invokeMethod(provider, work, Qt::BlockingQueuedConnection);
+}
+
+void TrackingFixture::connectCamera(const QSharedPointer<FakeCamera> &camera)
+{
+    emitFromHost([&] { Q_EMIT host.cameraStatus->deviceConnected(camera); });
+}
+
+void TrackingFixture::openCamera(const QSharedPointer<FakeCamera> &camera)
+{
+    emitFromHost([&] { Q_EMIT host.cameraStatus->deviceOpened(camera); });
+}
+
+QString expectedDirectory()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+}

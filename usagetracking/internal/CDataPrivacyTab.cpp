@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "CDataPrivacyTab.h"
+
+#include "CDataPrivacyTabController.h"
+
+#include <QQmlContext>
+
+namespace Plugin {
+namespace UsageTracking {
+namespace Internal {
+
+CDataPrivacyTab::CDataPrivacyTab(QObject *parent)
+    : INerixWelcomeTab(parent)
+    , controller(new CDataPrivacyTabController(this))
+{
+    setId(Core::CId("UsageTracking.NerixWelcome.DataPrivacy"));
+    title = tr("Data Privacy");
+    qmlSource = QUrl(QStringLiteral("qrc:///usagetracking/qml/DataPrivacy.qml"));
+    onDataPrivacyOptInSelectedChanged();
+    connect(controller, &CDataPrivacyTabController::dataPrivacyOptInSelectedChanged, this,
+            &CDataPrivacyTab::onDataPrivacyOptInSelectedChanged);
+}
+
+bool CDataPrivacyTab::setupQmlContext(QQmlContext *context)
+{
+    context->setContextProperty(QStringLiteral("_dataPrivacyController"), controller);
+    return true;
+}
+
+CDataPrivacyTabController *CDataPrivacyTab::dataPrivacyController() const
+{
+    return controller;
+}
+
+void CDataPrivacyTab::onDataPrivacyOptInSelectedChanged()
+{
+    const bool answerIsOwed = !controller->dataPrivacyOptInSelected();
+    if (answerIsOwed != applyIsNeeded) {
+        applyIsNeeded = answerIsOwed;
+        Q_EMIT applyIsNeededChanged();
+    }
+}
+
+} // namespace Internal
+} // namespace UsageTracking
+} // namespace Plugin
