@@ -38,7 +38,8 @@ int CPluginInitializer::dropServices()
 {
     int dropped = 0;
     while (!m_added.isEmpty()) {
-        if (const QSharedPointer<QObject> service = m_added.takeLast()) {
+        const QWeakPointer<QObject> last = m_added.takeLast();
+        if (const QSharedPointer<QObject> service = last.toStrongRef()) {
             m_registry.removeService(service);
             ++dropped;
         }

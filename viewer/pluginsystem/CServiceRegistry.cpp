@@ -36,10 +36,12 @@ void CServiceRegistry::addService(const QSharedPointer<QObject> &service)
 
 void CServiceRegistry::removeService(const QSharedPointer<QObject> &service)
 {
-    // Outlives the lock, since the reference may be to the list's own element, the last one.
-    const QSharedPointer<QObject> kept = service;
+    QSharedPointer<QObject> removed; // outlives the lock, since it may be the last one
     const QWriteLocker lock(&m_lock);
-    m_services.removeOne(kept);
+    const int index = m_services.indexOf(service);
+    if (index >= 0) {
+        removed = m_services.takeAt(index);
+    }
 }
 
 void CServiceRegistry::clear()

@@ -69,7 +69,7 @@ std::unique_ptr<Core::Plugin::IPlugin> loadPluginLibrary(const QString &path, QS
                      .arg(QString::fromLatin1(object->metaObject()->className()));
         return nullptr;
     }
-    object.release();
+    static_cast<void>(object.release());
     return std::unique_ptr<Core::Plugin::IPlugin>(plugin);
 }
 

@@ -14,7 +14,7 @@ QVersionNumber readVersion(const QJsonObject &object, const QString &key, const 
 {
     const QString text = object.value(key).toString();
     int suffix = 0;
-    const QVersionNumber version = QVersionNumber::fromString(text, &suffix);
+    QVersionNumber version = QVersionNumber::fromString(text, &suffix);
     if (version.isNull() || suffix != text.size()) {
         faults += QStringLiteral("%1 has the \"%2\" \"%3\" instead of numbers with dots")
                       .arg(owner, key, text);
@@ -24,7 +24,7 @@ QVersionNumber readVersion(const QJsonObject &object, const QString &key, const 
 
 QString readName(const QJsonObject &object, const QString &owner, QStringList &faults)
 {
-    const QString name = object.value(QStringLiteral("Name")).toString();
+    QString name = object.value(QStringLiteral("Name")).toString();
     if (name.isEmpty()) {
         faults += QStringLiteral("%1 has no \"Name\"").arg(owner);
     }
@@ -55,7 +55,7 @@ QVersionNumber readCompatVersion(const QJsonObject &object, const QVersionNumber
     if (!object.contains(key)) {
         return version;
     }
-    const QVersionNumber compatVersion = readVersion(object, key, QStringLiteral("it"), faults);
+    QVersionNumber compatVersion = readVersion(object, key, QStringLiteral("it"), faults);
     if (!version.isNull() && compatVersion.normalized() > version.normalized()) {
         faults += QStringLiteral("its \"CompatVersion\" %1 is above its \"Version\" %2")
                       .arg(compatVersion.toString(), version.toString());
