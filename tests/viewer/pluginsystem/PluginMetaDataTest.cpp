@@ -100,7 +100,7 @@ void PluginMetaDataTest::testReadsEveryKey()
     QCOMPARE(metaData.vendor, QStringLiteral("Ostrand"));
     QCOMPARE(metaData.description, QStringLiteral("Does it."));
     QCOMPARE(metaData.required, true);
-    QCOMPARE(metaData.identifier, QStringLiteral("com.ostrand.nerix.viewer.IPlugin"));
+    QCOMPARE(metaData.identifier, QStringLiteral("example.ostrand.NerixViewer.IPlugin/1"));
     QCOMPARE(metaData.dependencies.size(), 2);
     QCOMPARE(metaData.dependencies.at(0).name, QStringLiteral("Beta"));
     QCOMPARE(metaData.dependencies.at(0).version, QVersionNumber(1, 0));

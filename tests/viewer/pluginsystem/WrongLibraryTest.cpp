@@ -15,7 +15,7 @@
 using namespace PluginSystem;
 
 /// Libraries that are deliberately wrong. All are real files.
-class PluginLibraryTest : public QObject
+class WrongLibraryTest : public QObject
 {
     Q_OBJECT
 
@@ -46,12 +46,12 @@ QString resolvePaths(QString text)
 
 } // namespace
 
-void PluginLibraryTest::init()
+void WrongLibraryTest::init()
 {
     FixtureControl::reset();
 }
 
-void PluginLibraryTest::testWrongLibrary_data()
+void WrongLibraryTest::testWrongLibrary_data()
 {
     QTest::addColumn<QString>("folderName");
     QTest::addColumn<QString>("plugin");
@@ -63,7 +63,7 @@ void PluginLibraryTest::testWrongLibrary_data()
         << "Foreign" << PluginState::Found
         << texts({"\"{fixtures}/identifier/libForeign.so\" is a plug-in for another program (its "
                   "identifier is \"com.example.editor.IExtension\", the viewer's is "
-                  "\"com.ostrand.nerix.viewer.IPlugin\"): remove it from the folder"});
+                  "\"example.ostrand.NerixViewer.IPlugin/1\"): remove it from the folder"});
     QTest::newRow("a library without plug-in entry")
         << "noentry"
         << "{fixtures}/noentry/libNoEntry.so" << PluginState::Found
@@ -127,7 +127,7 @@ void PluginLibraryTest::testWrongLibrary_data()
         << "NeedsJustThis" << PluginState::Initialized << QStringList();
 }
 
-void PluginLibraryTest::testWrongLibrary()
+void WrongLibraryTest::testWrongLibrary()
 {
     QFETCH(QString, folderName);
     QFETCH(QString, plugin);
@@ -143,7 +143,7 @@ void PluginLibraryTest::testWrongLibrary()
     QTEST(spec->state(), "state");
 }
 
-void PluginLibraryTest::testTextFile()
+void WrongLibraryTest::testTextFile()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("libText.so"));
@@ -164,7 +164,7 @@ void PluginLibraryTest::testTextFile()
     QCOMPARE(manager.plugins().at(0)->state(), PluginState::Found);
 }
 
-void PluginLibraryTest::testMissingFolder()
+void WrongLibraryTest::testMissingFolder()
 {
     CPluginManager manager;
     QTest::ignoreMessage(QtWarningMsg, "Plug-in folder \"/nowhere/at/all\" does not exist: create "
@@ -177,7 +177,7 @@ void PluginLibraryTest::testMissingFolder()
                     "it"}));
 }
 
-void PluginLibraryTest::testNameThatIsTaken()
+void WrongLibraryTest::testNameThatIsTaken()
 {
     CPluginManager manager;
     manager.addFolder(folder("chain"));
@@ -192,7 +192,7 @@ void PluginLibraryTest::testNameThatIsTaken()
     QCOMPARE(manager.plugins().last()->state(), PluginState::Read);
 }
 
-void PluginLibraryTest::testNameThatABuiltInPluginHas()
+void WrongLibraryTest::testNameThatABuiltInPluginHas()
 {
     CPluginManager manager;
     PluginMetaData metaData;
@@ -206,7 +206,7 @@ void PluginLibraryTest::testNameThatABuiltInPluginHas()
                  "viewer itself: remove one of them"))));
 }
 
-void PluginLibraryTest::testOthersGoOn()
+void WrongLibraryTest::testOthersGoOn()
 {
     CPluginManager manager;
     for (const char *name : {"identifier", "noentry", "metadata", "unresolved", "wrongobject",
@@ -223,7 +223,7 @@ void PluginLibraryTest::testOthersGoOn()
     QCOMPARE(manager.errors().size(), 12);
 }
 
-void PluginLibraryTest::testMetaDataOfAGoodOne()
+void WrongLibraryTest::testMetaDataOfAGoodOne()
 {
     CPluginManager manager;
     manager.addFolder(folder("chain"));
@@ -236,9 +236,9 @@ void PluginLibraryTest::testMetaDataOfAGoodOne()
     QCOMPARE(top->metaData().compatVersion, QVersionNumber(1, 0, 0));
     QCOMPARE(top->metaData().vendor, QStringLiteral("Ostrand"));
     QCOMPARE(top->metaData().description, QStringLiteral("Needs both of the others."));
-    QCOMPARE(top->metaData().identifier, QStringLiteral("com.ostrand.nerix.viewer.IPlugin"));
+    QCOMPARE(top->metaData().identifier, QStringLiteral("example.ostrand.NerixViewer.IPlugin/1"));
     QCOMPARE(top->metaData().dependencies.size(), 2);
 }
 
-QTEST_GUILESS_MAIN(PluginLibraryTest)
-#include "PluginLibraryTest.moc"
+QTEST_GUILESS_MAIN(WrongLibraryTest)
+#include "WrongLibraryTest.moc"
