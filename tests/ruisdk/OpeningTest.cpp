@@ -18,11 +18,9 @@ using namespace rui;
 using namespace rui::test;
 using namespace std::chrono_literals;
 
-Limits impatient()
+std::shared_ptr<BusyLimit> waiting(std::chrono::milliseconds limit)
 {
-    Limits limits;
-    limits.callBusyLimit = 20ms;
-    return limits;
+    return std::make_shared<BusyLimit>(limit);
 }
 
 const Product product{"1", "app", "", "", "", ""};
@@ -57,7 +55,8 @@ TEST_F(Opening, UsesAWriteAheadLogWithoutCheckpointsInTheCaller)
 
 TEST_F(Opening, MayFlushEveryCommit)
 {
-    const Database database = openStore(m_paths, {true, false}, std::make_shared<BusyLimit>(20ms));
+    const Database database =
+        openStore(m_paths, {true, false, true}, std::make_shared<BusyLimit>(20ms));
     EXPECT_EQ(database.integer("PRAGMA synchronous"), 2);
 }
 
@@ -65,7 +64,7 @@ TEST_F(Opening, IsBusyWhileAnotherProcessOpens)
 {
     FileLock other(m_paths.openingLock());
     other.tryLock();
-    EXPECT_EQ(resultOf([&] { Store(m_paths, {}, impatient(), systemClock()); }), RUI_BUSY);
+    EXPECT_EQ(resultOf([&] { Store(m_paths, {}, {}, systemClock(), waiting(20ms)); }), RUI_BUSY);
 }
 
 TEST_F(Opening, LockExcludesInOneProcessUntilItIsReleased)
@@ -80,7 +79,7 @@ TEST_F(Opening, LockExcludesInOneProcessUntilItIsReleased)
 
 TEST_F(Opening, LockedDatabaseIsBusyForAnEventAndDeletesNothing)
 {
-    Store store(m_paths, {}, impatient(), systemClock());
+    Store store(m_paths, {}, {}, systemClock(), waiting(20ms));
     store.join(product);
     store.add(event);
     Database other(m_paths.database(), Database::Access::ReadWrite,
@@ -95,16 +94,15 @@ TEST_F(Opening, LockedDatabaseIsBusyForAnEventAndDeletesNothing)
 
 TEST_F(Opening, WaitingForALockEndsWhenTheOwnerSaysSo)
 {
-    Limits patient;
-    patient.callBusyLimit = 1h;
-    Store store(m_paths, {}, patient, systemClock());
+    const auto limit = waiting(1h);
+    Store store(m_paths, {}, {}, systemClock(), limit);
     store.join(product);
     Database other(m_paths.database(), Database::Access::ReadWrite,
                    std::make_shared<BusyLimit>(20ms));
     const Transaction holding(other);
     ruiResult result = RUI_OK;
     std::thread caller([&] { result = resultOf([&] { store.add(event); }); });
-    store.stopWaiting(true);
+    limit->giveUp = true;
     caller.join();
     EXPECT_EQ(result, RUI_BUSY);
 }

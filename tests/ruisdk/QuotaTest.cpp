@@ -38,7 +38,8 @@ protected:
     Store &store()
     {
         if (!m_store) {
-            m_store.emplace(StorePaths(m_directory.path()), OpeningOptions{}, m_limits, m_clock);
+            m_store.emplace(StorePaths(m_directory.path()), OpeningOptions{}, m_limits, m_clock,
+                            std::make_shared<BusyLimit>(std::chrono::seconds(5)));
             m_store->join({"1", "app", "", "", "", ""});
         }
         return *m_store;

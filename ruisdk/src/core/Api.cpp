@@ -69,9 +69,12 @@ int32_t ruiCreateConfig(ruiInstance instance, const char *configDirectory, const
         config.productId = descriptionArgument(productId);
         config.application = descriptionArgument(applicationName);
         const std::string host = descriptionArgument(serverHost);
-        config.serverHost = flagArgument(localOnly) ? std::string() : host;
+        const bool stayLocal = flagArgument(localOnly);
         config.syncEveryCommit = flagArgument(syncEveryCommit);
         requireSupported(protocol, encryptionKey);
+        if (!host.empty() && !stayLocal) {
+            config.server = parseServerAddress(host);
+        }
         target.configure(config);
     });
 }

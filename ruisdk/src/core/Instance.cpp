@@ -2,13 +2,40 @@
 // SPDX-License-Identifier: MIT
 #include "core/Instance.h"
 
+#include "core/ExitHandler.h"
 #include "core/Failure.h"
+#include "delivery/CurlTransport.h"
 
 namespace rui {
+
+namespace {
+
+// Lets no call wait for a lock while a session is being ended.
+class NoWaiting
+{
+public:
+    explicit NoWaiting(BusyLimit &limit)
+        : m_limit(limit)
+    {
+        m_limit.giveUp = true;
+    }
+    ~NoWaiting()
+    {
+        m_limit.giveUp = false;
+    }
+    NoWaiting(const NoWaiting &) = delete;
+    NoWaiting &operator=(const NoWaiting &) = delete;
+
+private:
+    BusyLimit &m_limit;
+};
+
+} // namespace
 
 Instance::Instance(Limits limits, const Clock &clock)
     : m_limits(limits)
     , m_clock(clock)
+    , m_busyLimit(std::make_shared<BusyLimit>(limits.callBusyLimit))
 {}
 
 Instance::~Instance() = default;
@@ -24,8 +51,10 @@ void Instance::configure(const Config &config)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     require(m_state == State::Created);
-    m_store.emplace(StorePaths(config.directory), OpeningOptions{config.syncEveryCommit, false},
-                    m_limits, m_clock);
+    OpeningOptions opening;
+    opening.syncEveryCommit = config.syncEveryCommit;
+    m_store.emplace(StorePaths(config.directory), opening, m_limits, m_clock, m_busyLimit);
+    m_config = config;
     m_product.productId = config.productId;
     m_product.application = config.application;
     m_state = State::Configured;
@@ -50,15 +79,53 @@ void Instance::start()
     if (!m_optedOut) {
         m_store->join(m_product);
     }
+    startWorker();
     m_state = State::Running;
 }
 
-void Instance::stop(bool)
+void Instance::startWorker()
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    require(m_state == State::Running);
-    m_store->leave();
+    WorkerOptions options;
+    options.paths = StorePaths(m_config.directory);
+    options.opening.syncEveryCommit = m_config.syncEveryCommit;
+    options.opening.create = false;
+    options.limits = m_limits;
+    options.clock = &m_clock;
+    if (m_config.server) {
+        options.transport = std::make_shared<CurlTransport>(*m_config.server, options.delivery);
+    }
+    endSessionsAtExit();
+    m_worker = std::make_unique<Worker>(std::move(options));
+}
+
+std::unique_ptr<Worker> Instance::endSession()
+{
     m_state = State::Stopped;
+    if (m_store) {
+        m_store->leave();
+    }
+    return std::move(m_worker);
+}
+
+std::chrono::milliseconds Instance::stopLimit() noexcept
+{
+    try {
+        return m_store->hasOptOut() ? m_limits.optOutStopLimit : m_limits.stopLimit;
+    } catch (const std::exception &) {
+        return m_limits.stopLimit;
+    }
+}
+
+void Instance::stop(bool deliver)
+{
+    const NoWaiting noWaiting(*m_busyLimit);
+    std::unique_lock<std::mutex> lock(m_mutex);
+    require(m_state == State::Running);
+    const auto limit = stopLimit();
+    const auto worker = endSession();
+    // Other calls need not wait for the worker; they find the session ended.
+    lock.unlock();
+    worker->stop(deliver, limit);
 }
 
 void Instance::optOut()
@@ -67,6 +134,9 @@ void Instance::optOut()
     require(m_state != State::Created);
     m_store->withdraw(m_product);
     m_optedOut = true;
+    if (m_worker) {
+        m_worker->notify(true);
+    }
 }
 
 void Instance::track(const Event &event)
@@ -77,13 +147,20 @@ void Instance::track(const Event &event)
         throw Failure(RUI_OPTED_OUT, "this instance has opted out");
     }
     m_store->add(event);
+    m_worker->notify(m_store->hasLargeJournal());
 }
 
 void Instance::shutDown() noexcept
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const NoWaiting noWaiting(*m_busyLimit);
+    std::unique_lock<std::mutex> lock(m_mutex);
+    const auto worker = endSession();
+    lock.unlock();
+    if (worker) {
+        worker->stop(false, m_limits.stopLimit);
+    }
+    lock.lock();
     m_store.reset();
-    m_state = State::Stopped;
 }
 
 } // namespace rui

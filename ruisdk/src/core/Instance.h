@@ -4,6 +4,8 @@
 
 #include "core/Clock.h"
 #include "core/Limits.h"
+#include "delivery/ServerAddress.h"
+#include "delivery/Worker.h"
 #include "store/Store.h"
 
 #include <memory>
@@ -18,17 +20,20 @@ struct Config
     std::string directory;
     std::string productId;
     std::string application;
-    std::string serverHost;
+    // Nothing: events stay on this machine.
+    std::optional<ServerAddress> server;
     bool syncEveryCommit = false;
 };
 
-// What stands behind a handle: the order of calls, and one connection to the database. Any
-// thread. Every function throws Failure, and changes nothing then.
+// What stands behind a handle: the order of calls, one connection to the database and the worker
+// of the session. Any thread. Every function throws Failure, and changes nothing then.
 class Instance
 {
 public:
     explicit Instance(Limits limits = {}, const Clock &clock = systemClock());
     ~Instance();
+    Instance(const Instance &) = delete;
+    Instance &operator=(const Instance &) = delete;
 
     void configure(const Config &config);
     void setProduct(const std::string &edition, const std::string &language,
@@ -38,21 +43,27 @@ public:
     void optOut();
     void track(const Event &event);
 
-    // Ends the session if one is open.
+    // Ends the session if one is open, without delivering anything.
     void shutDown() noexcept;
 
 private:
     enum class State { Created, Configured, Ready, Running, Stopped };
 
     void require(bool allowed) const;
+    void startWorker();
+    std::unique_ptr<Worker> endSession();
+    std::chrono::milliseconds stopLimit() noexcept;
 
     const Limits m_limits;
     const Clock &m_clock;
+    const std::shared_ptr<BusyLimit> m_busyLimit;
     std::mutex m_mutex;
     State m_state = State::Created;
     bool m_optedOut = false;
+    Config m_config;
     Product m_product;
     std::optional<Store> m_store;
+    std::unique_ptr<Worker> m_worker;
 };
 
 } // namespace rui

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -25,6 +26,22 @@ public:
 
     // A 64-bit integer as a string of decimal digits, for readers whose numbers are floating.
     JsonWriter &integerText(std::int64_t value);
+
+    // Takes back everything that was written since the mark.
+    struct Mark
+    {
+        std::size_t size;
+        bool needsComma;
+    };
+    Mark mark() const
+    {
+        return {m_text.size(), m_needsComma};
+    }
+    void revert(const Mark &mark)
+    {
+        m_text.resize(mark.size);
+        m_needsComma = mark.needsComma;
+    }
 
     const std::string &text() const
     {

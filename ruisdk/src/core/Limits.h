@@ -21,8 +21,15 @@ struct Limits
     // Delivered events that stay readable on the machine.
     std::int64_t deliveredEvents = 1000;
     std::int64_t deliveredBytes = std::int64_t{10} * 1024 * 1024;
+    // Pages of the write-ahead log from which on the worker is woken at once, and from which on a
+    // caller moves them itself: only a burst that outruns the worker gets there.
+    int largeJournalPages = 1000;
+    int maxJournalPages = 16000;
     // How long a call waits for another writer; a delivered batch takes some milliseconds.
     std::chrono::milliseconds callBusyLimit{5000};
+    // How long the end of a session may take, without and with an opt-out that is to be sent.
+    std::chrono::milliseconds stopLimit{1900};
+    std::chrono::milliseconds optOutStopLimit{4900};
 };
 
 // A product's description: one line of it, not a document.

@@ -45,7 +45,12 @@ Database::Database(const std::string &path, Access access, std::shared_ptr<BusyL
     if (code != SQLITE_OK) {
         throw SqliteError(code, path);
     }
-    sqlite3_busy_handler(connection, waitForLock, m_busyLimit.get());
+    waitForLocks();
+}
+
+void Database::waitForLocks() const noexcept
+{
+    sqlite3_busy_handler(m_connection.get(), waitForLock, m_busyLimit.get());
 }
 
 void Database::execute(const std::string &sql)
@@ -68,6 +73,16 @@ bool Database::hasMoved() const
     int moved = 0;
     sqlite3_file_control(m_connection.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
     return moved != 0;
+}
+
+void Database::watchJournal()
+{
+    const auto keep = [](void *pages, sqlite3 *, const char *, int now) {
+        *static_cast<int *>(pages) = now;
+        return SQLITE_OK;
+    };
+    m_journalPages = std::make_unique<int>(0);
+    sqlite3_wal_hook(m_connection.get(), keep, m_journalPages.get());
 }
 
 Transaction::Transaction(Database &database)

@@ -34,6 +34,9 @@ public:
     // Opens a file that exists already.
     Database(const std::string &path, Access access, std::shared_ptr<BusyLimit> busyLimit);
 
+    // Makes locks be waited for, as they are at first.
+    void waitForLocks() const noexcept;
+
     // Runs statements that give no rows and take no parameters.
     void execute(const std::string &sql);
 
@@ -48,6 +51,15 @@ public:
     // True when the file was removed from its path or another one stands there now.
     bool hasMoved() const;
 
+    // Counts the pages in the write-ahead log at every commit from now on.
+    void watchJournal();
+
+    // The pages that the log had after this connection's last commit.
+    int journalPages() const noexcept
+    {
+        return m_journalPages ? *m_journalPages : 0;
+    }
+
     sqlite3 *handle() const noexcept
     {
         return m_connection.get();
@@ -61,8 +73,9 @@ private:
             sqlite3_close_v2(connection);
         }
     };
-    // Stands before the connection, which uses it until it is closed.
+    // Stand before the connection, which uses them until it is closed.
     std::shared_ptr<BusyLimit> m_busyLimit;
+    std::unique_ptr<int> m_journalPages;
     std::unique_ptr<sqlite3, Closer> m_connection;
 };
 

@@ -16,7 +16,9 @@ namespace rui {
 class Store
 {
 public:
-    Store(StorePaths paths, OpeningOptions options, Limits limits, const Clock &clock);
+    // busyLimit: ends the waiting of a call for a lock from another thread.
+    Store(StorePaths paths, OpeningOptions options, Limits limits, const Clock &clock,
+          std::shared_ptr<BusyLimit> busyLimit);
 
     // Begins a session; events are stored under the consent that holds now.
     void join(const Product &product);
@@ -30,8 +32,11 @@ public:
     // See ruiOptOut.
     void withdraw(const Product &product);
 
-    // Ends the waiting of a call in another thread for a lock; later calls do not wait.
-    void stopWaiting(bool stop) noexcept;
+    // An opt-out waits for delivery.
+    bool hasOptOut();
+
+    // The write-ahead log has grown so that the worker should look after it now.
+    bool hasLargeJournal() const;
 
 private:
     struct Connection
@@ -50,7 +55,10 @@ private:
     void recovering(Action action);
     Occupancy insert(Connection &current, const Event &event) const;
     void reopen(bool verify);
+    void store(const Event &event);
     void keepToQuota(const Occupancy &occupancy) noexcept;
+    void boundJournal() noexcept;
+    void noteUnstored() noexcept;
 
     StorePaths m_paths;
     OpeningOptions m_options;
@@ -60,6 +68,8 @@ private:
     std::optional<Connection> m_connection;
     std::optional<Product> m_product;
     Membership m_membership;
+    // Events that could not be stored, and are not counted in the database yet.
+    std::int64_t m_unstored = 0;
 };
 
 } // namespace rui

@@ -9,6 +9,8 @@
 #include "store/SetAside.h"
 #include "store/SqliteError.h"
 
+#include <filesystem>
+
 namespace rui {
 
 namespace {
@@ -21,6 +23,7 @@ void configure(Database &database, const OpeningOptions &options)
     database.execute(options.syncEveryCommit ? "PRAGMA synchronous = FULL"
                                              : "PRAGMA synchronous = NORMAL");
     database.execute("PRAGMA wal_autocheckpoint = 0");
+    database.watchJournal();
 }
 
 void verifyContent(const Database &database)
@@ -53,7 +56,11 @@ Database openChecked(const StorePaths &paths, const OpeningOptions &options,
 Database openStore(const StorePaths &paths, const OpeningOptions &options,
                    const std::shared_ptr<BusyLimit> &busyLimit)
 {
-    makePrivateDirectory(paths.directory());
+    if (options.create) {
+        makePrivateDirectory(paths.directory());
+    } else if (!std::filesystem::exists(paths.database())) {
+        throw Failure(RUI_STORAGE, paths.database() + ": was removed during the session");
+    }
     FileLock opening(paths.openingLock());
     opening.lock(busyLimit->limit);
     try {

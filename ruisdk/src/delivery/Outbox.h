@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/Limits.h"
+#include "delivery/OtlpPayload.h"
+#include "store/Losses.h"
+
+#include <map>
+
+namespace rui {
+
+// The records of one request.
+struct Batch
+{
+    // Opt-outs travel alone, before anything else.
+    bool isOptOut = false;
+    std::vector<std::int64_t> seqs;
+    std::string payload;
+};
+
+// When the next request may be sent.
+struct Schedule
+{
+    std::int64_t notBefore = 0; // nanoseconds since 1970
+    std::int64_t failures = 0;  // failed tries in a row
+};
+
+// What waits for delivery, and what becomes of it. Used by one thread. Throws SqliteError.
+class Outbox
+{
+public:
+    Outbox(Database &database, Limits limits);
+
+    // Fewer seqs than asked for when the payload would become too long, at least one when
+    // anything waits. Losses that were not told yet join a batch of events.
+    Batch next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t now);
+
+    bool hasRecords() const;
+    bool hasOptOut() const;
+    std::int64_t pending() const;
+
+    Schedule schedule() const;
+    void setSchedule(const Schedule &schedule);
+
+    // The batch arrived, but for so many of its records. Clears the schedule.
+    void settle(const Batch &batch, std::int64_t rejected, std::int64_t now);
+
+    // The batch will never arrive: its events are counted as lost. Clears the schedule.
+    void drop(const Batch &batch, LossReason reason);
+
+private:
+    Batch read(const std::string &sql, std::size_t maxRecords, std::size_t maxBytes);
+    const Resource &resource(std::int64_t id);
+    void noteLosses(std::int64_t now);
+    void keepDelivered(const Batch &batch, std::int64_t now);
+    void trimDelivered();
+    std::int64_t remove(const Batch &batch);
+
+    Database &m_database;
+    const Limits m_limits;
+    std::map<std::int64_t, Resource> m_resources;
+};
+
+} // namespace rui

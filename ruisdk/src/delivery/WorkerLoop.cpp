@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "delivery/WorkerLoop.h"
+
+#include "core/Failure.h"
+#include "store/Quota.h"
+
+#include <algorithm>
+
+namespace rui {
+
+namespace {
+
+// Events become too old in days.
+constexpr std::int64_t expiryEvery = 3600 * nanosecondsPerSecond;
+
+// Waiting for another writer may take as long as a caller's; cancel() ends it.
+std::shared_ptr<BusyLimit> workerBusyLimit(const Limits &limits)
+{
+    return std::make_shared<BusyLimit>(limits.callBusyLimit);
+}
+
+void checkpoint(Database &database)
+{
+    // Passive: it takes what it gets without holding up anybody.
+    sqlite3_wal_checkpoint_v2(database.handle(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr,
+                              nullptr);
+}
+
+} // namespace
+
+// What exists while the database is open.
+struct WorkerLoop::Work
+{
+    Work(const WorkerOptions &options, const std::shared_ptr<BusyLimit> &busyLimit)
+        : database(openStore(options.paths, options.opening, busyLimit))
+    {
+        if (options.transport) {
+            sender.emplace(database, options.paths.senderLock(), *options.transport, *options.clock,
+                           options.limits, options.delivery, randomJitter);
+        }
+    }
+
+    Database database;
+    std::optional<Sender> sender;
+};
+
+WorkerLoop::WorkerLoop(WorkerOptions options)
+    : m_options(std::move(options))
+    , m_busyLimit(workerBusyLimit(m_options.limits))
+{}
+
+void WorkerLoop::run() noexcept
+{
+    bool again = true;
+    while (again) {
+        try {
+            runRounds();
+            again = false;
+        } catch (const std::exception &) {
+            // A database that cannot be used now may be usable later, or be another one.
+            m_sleepTime = m_options.lookEvery;
+            again = sleep();
+        }
+    }
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_isDone = true;
+    m_done.notify_all();
+}
+
+void WorkerLoop::runRounds()
+{
+    Work work(m_options, m_busyLimit);
+    do {
+        m_sleepTime = m_options.lookEvery;
+        if (work.database.hasMoved()) {
+            throw Failure(RUI_STORAGE, "the database was replaced");
+        }
+        round(work);
+    } while (sleep());
+    finish(work);
+}
+
+void WorkerLoop::round(Work &work)
+{
+    checkpoint(work.database);
+    const std::int64_t now = m_options.clock->now();
+    if (now >= m_nextExpiry) {
+        dropExpired(work.database, m_options.limits, now);
+        m_nextExpiry = now + expiryEvery;
+    }
+    const Step step = deliver(work);
+    if (step.kind != Step::Kind::Idle) {
+        m_sleepTime = std::min(m_sleepTime, untilDue(step.due));
+    }
+}
+
+Step WorkerLoop::deliver(Work &work)
+{
+    Step step;
+    while (work.sender && !m_cancelled) {
+        step = work.sender->step();
+        if (step.kind != Step::Kind::Progress) {
+            break;
+        }
+    }
+    return step;
+}
+
+void WorkerLoop::finish(Work &work)
+{
+    if (!m_deliverAtStop) {
+        return;
+    }
+    for (Step step = deliver(work); step.kind != Step::Kind::Idle; step = deliver(work)) {
+        if (!sleepDuringStop(untilDue(step.due))) {
+            break;
+        }
+    }
+}
+
+std::chrono::milliseconds WorkerLoop::untilDue(std::int64_t due) const
+{
+    const std::int64_t wait = std::max<std::int64_t>(0, due - m_options.clock->now());
+    return std::chrono::milliseconds(wait / nanosecondsPerMillisecond + 1);
+}
+
+bool WorkerLoop::sleep()
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    if (m_wake.wait_for(lock, m_sleepTime, [this] { return m_stop || m_notified; })) {
+        // More events usually follow the first one.
+        m_wake.wait_for(lock, m_options.collectTime, [this] { return m_stop || m_urgent; });
+    }
+    m_notified = false;
+    m_urgent = false;
+    return !m_stop;
+}
+
+bool WorkerLoop::sleepDuringStop(std::chrono::milliseconds time)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return time < m_stopLimit
+           && !m_wake.wait_for(lock, time, [this] { return m_cancelled.load(); });
+}
+
+void WorkerLoop::notify(bool urgent)
+{
+    const bool wasUrgent = urgent && m_urgent.exchange(true);
+    const bool wasNotified = m_notified.exchange(true);
+    if (!wasNotified || (urgent && !wasUrgent)) {
+        // Between the worker's look and its sleep a wake-up would be lost without the lock.
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_wake.notify_one();
+    }
+}
+
+void WorkerLoop::requestStop(bool deliver, std::chrono::milliseconds limit)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_stop = true;
+    m_deliverAtStop = deliver;
+    m_stopLimit = limit;
+    m_wake.notify_all();
+}
+
+void WorkerLoop::cancel()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_cancelled = true;
+    m_busyLimit->giveUp = true;
+    if (m_options.transport) {
+        m_options.transport->cancel();
+    }
+    m_wake.notify_all();
+}
+
+bool WorkerLoop::waitUntilDone(std::chrono::milliseconds limit)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return m_done.wait_for(lock, limit, [this] { return m_isDone; });
+}
+
+} // namespace rui

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "delivery/Sender.h"
+#include "delivery/WorkerOptions.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+
+namespace rui {
+
+// What runs in a worker's thread. Every function but run() may be called by any thread.
+class WorkerLoop
+{
+public:
+    explicit WorkerLoop(WorkerOptions options);
+
+    // Returns after requestStop() or cancel(). Throws nothing: what fails is tried again later.
+    void run() noexcept;
+
+    // urgent: the journal has grown large; the worker does not wait for more to come.
+    void notify(bool urgent);
+    void requestStop(bool deliver, std::chrono::milliseconds limit);
+    // Ends a request and every waiting for a lock.
+    void cancel();
+    // False when the time was over first.
+    bool waitUntilDone(std::chrono::milliseconds limit);
+
+private:
+    struct Work;
+
+    void runRounds();
+    void round(Work &work);
+    Step deliver(Work &work);
+    void finish(Work &work);
+    std::chrono::milliseconds untilDue(std::int64_t due) const;
+    // False when the worker is to end.
+    bool sleep();
+    // False when the time is longer than a stop may take, or was cut short.
+    bool sleepDuringStop(std::chrono::milliseconds time);
+
+    const WorkerOptions m_options;
+    std::shared_ptr<BusyLimit> m_busyLimit;
+    std::mutex m_mutex;
+    std::condition_variable m_wake;
+    std::condition_variable m_done;
+    std::atomic<bool> m_notified{false};
+    std::atomic<bool> m_urgent{false};
+    std::atomic<bool> m_cancelled{false};
+    bool m_stop = false;
+    bool m_deliverAtStop = false;
+    std::chrono::milliseconds m_stopLimit{0};
+    bool m_isDone = false;
+    std::chrono::milliseconds m_sleepTime{0};
+    std::int64_t m_nextExpiry = 0;
+};
+
+} // namespace rui
