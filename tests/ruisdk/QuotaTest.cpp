@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/Quota.h"
 
+#include "SetClock.h"
 #include "store/Store.h"
 #include "StoredRecords.h"
 #include "TemporaryDirectory.h"
@@ -12,17 +13,6 @@ namespace {
 
 using namespace rui;
 using namespace rui::test;
-
-class SetClock : public Clock
-{
-public:
-    std::int64_t now() const override
-    {
-        return time;
-    }
-
-    std::int64_t time = 0;
-};
 
 constexpr std::int64_t day = 24 * 3600 * nanosecondsPerSecond;
 
