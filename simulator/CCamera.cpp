@@ -20,6 +20,15 @@ constexpr guint32 ContinuousMode = 1;
 constexpr guint32 FrameCountAtStart = 10;
 constexpr float TemperatureAtStart = 41.5F;
 
+// The user may have given the camera a name.
+std::string storedUserName(ArvFakeCamera *registers)
+{
+    std::array<char, Registers::UserNameSize + 1> text{};
+    arv_fake_camera_read_memory(registers, Registers::UserName, Registers::UserNameSize,
+                                text.data());
+    return text.data();
+}
+
 } // namespace
 
 CCamera::CCamera(std::string address, CIdentity identity, std::string descriptionPath)
@@ -55,8 +64,7 @@ void CCamera::plugIn()
     m_camera = arv_gv_fake_camera_new_full(m_address.c_str(), m_identity.serial.c_str(),
                                            m_descriptionPath.c_str());
     refuseGhost();
-    m_heartbeatWatch =
-        std::make_unique<CHeartbeatWatch>(m_address, arv_gv_fake_camera_get_fake_camera(m_camera));
+    m_heartbeatWatch = std::make_unique<CHeartbeatWatch>(m_address);
     setLoss(m_loss);
 }
 
@@ -65,9 +73,12 @@ void CCamera::unplug()
     if (!isPluggedIn()) {
         return;
     }
-    m_identity.userName = storedUserName();
     m_heartbeatWatch.reset();
+    // The registers are the camera thread's as long as it runs.
+    auto *registers = ARV_FAKE_CAMERA(g_object_ref(arv_gv_fake_camera_get_fake_camera(m_camera)));
     g_clear_object(&m_camera);
+    m_identity.userName = storedUserName(registers);
+    g_object_unref(registers);
     try {
         m_hold = std::make_unique<CAddressHold>(m_address);
     } catch (const std::runtime_error &) {
@@ -106,14 +117,6 @@ void CCamera::refuseGhost()
     g_clear_object(&m_camera);
     throw std::runtime_error("address " + m_address
                              + " was taken by another program just now: end that one or try again");
-}
-
-std::string CCamera::storedUserName() const
-{
-    std::array<char, Registers::UserNameSize + 1> text{};
-    arv_fake_camera_read_memory(arv_gv_fake_camera_get_fake_camera(m_camera), Registers::UserName,
-                                Registers::UserNameSize, text.data());
-    return text.data();
 }
 
 } // namespace Simulator

@@ -36,7 +36,6 @@ public:
 private:
     void seed(ArvFakeCamera *camera);
     void refuseGhost();
-    std::string storedUserName() const;
 
     std::string m_address;
     CIdentity m_identity;

@@ -18,8 +18,11 @@ namespace {
 
 constexpr guint Interval = 250; // milliseconds: half the shortest heartbeat
 
-// A discovery request of the control protocol; everybody may send one.
-constexpr std::array<unsigned char, 8> Greeting{0x42, 0x01, 0x00, 0x02, 0x00, 0x00, 0x00, 0x01};
+// Write the number 0 to the register of the acquisition command.
+constexpr std::array<unsigned char, 16> StopRequest{
+    0x42, 0x01, 0x00, 0x82, 0x00, 0x08, 0x00, 0x01, // header: write a register
+    0x00, 0x00, 0x01, 0x24, 0x00, 0x00, 0x00, 0x00};
+static_assert(ARV_FAKE_CAMERA_REGISTER_ACQUISITION == 0x124);
 
 int connectedSocket(const std::string &address)
 {
@@ -34,9 +37,8 @@ int connectedSocket(const std::string &address)
 
 } // namespace
 
-CHeartbeatWatch::CHeartbeatWatch(const std::string &address, ArvFakeCamera *camera)
-    : m_camera(camera)
-    , m_socket(connectedSocket(address))
+CHeartbeatWatch::CHeartbeatWatch(const std::string &address)
+    : m_socket(connectedSocket(address))
     , m_timer(g_timeout_add(Interval, onTime, this))
 {}
 
@@ -48,26 +50,17 @@ CHeartbeatWatch::~CHeartbeatWatch()
 
 gboolean CHeartbeatWatch::onTime(gpointer self)
 {
-    static_cast<CHeartbeatWatch *>(self)->look();
+    static_cast<CHeartbeatWatch *>(self)->ask();
     return G_SOURCE_CONTINUE;
 }
 
-void CHeartbeatWatch::look()
+void CHeartbeatWatch::ask()
 {
-    if (arv_fake_camera_get_control_channel_privilege(m_camera) != 0) {
-        speak();
-    } else if (arv_fake_camera_get_acquisition_status(m_camera) != 0) {
-        arv_fake_camera_write_register(m_camera, ARV_FAKE_CAMERA_REGISTER_ACQUISITION, 0);
-    }
-}
-
-// The answer does not matter, but must not fill the socket.
-void CHeartbeatWatch::speak()
-{
-    std::array<char, 512> answer{};
+    // The answers do not matter, but must not fill the socket.
+    std::array<char, 64> answer{};
     while (recv(m_socket, answer.data(), answer.size(), 0) > 0) {
     }
-    send(m_socket, Greeting.data(), Greeting.size(), 0);
+    send(m_socket, StopRequest.data(), StopRequest.size(), 0);
 }
 
 } // namespace Simulator

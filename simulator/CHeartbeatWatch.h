@@ -6,30 +6,28 @@
 
 #include <string>
 
-typedef struct _ArvFakeCamera ArvFakeCamera;
-
 namespace Simulator {
 
 // Ends an acquisition whose program let go of the camera or fell silent for longer than the
 // heartbeat allows, as cameras do. Aravis' fake camera (0.8.26) notices a silent program only when
 // somebody else speaks to it, and would go on sending images as soon as the next one takes control.
 //
-// Works by a timer in the main context of GLib, in the thread of that context.
+// Four times a second it asks the camera, over the control protocol as any other program would, to
+// stop acquiring. The camera looks at the heartbeat, ignores the request as long as a program is in
+// control, and obeys it otherwise. Works by a timer in the main context of GLib, in its thread.
 class CHeartbeatWatch
 {
 public:
-    // The camera serves at the address and outlives the watch.
-    CHeartbeatWatch(const std::string &address, ArvFakeCamera *camera);
+    // The address is the camera's.
+    explicit CHeartbeatWatch(const std::string &address);
     ~CHeartbeatWatch();
     CHeartbeatWatch(const CHeartbeatWatch &) = delete;
     CHeartbeatWatch &operator=(const CHeartbeatWatch &) = delete;
 
 private:
     static gboolean onTime(gpointer self);
-    void look();
-    void speak();
+    void ask();
 
-    ArvFakeCamera *m_camera;
     int m_socket;
     guint m_timer;
 };
