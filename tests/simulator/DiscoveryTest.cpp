@@ -8,8 +8,10 @@
 #include <atomic>
 #include <thread>
 
+#include <QNetworkDatagram>
 #include <QSet>
 #include <QTest>
+#include <QUdpSocket>
 
 namespace {
 
@@ -28,6 +30,26 @@ QStringList foundCameras()
     }
     result.sort();
     return result;
+}
+
+// Asks again and again without waiting, as often as it can. What was answered: MAC address, vendor
+// and model.
+QSet<QByteArray> answersUntil(const std::atomic<bool> &isOver)
+{
+    QUdpSocket socket;
+    socket.bind(QHostAddress(QHostAddress::LocalHost));
+    QSet<QByteArray> found;
+    while (!isOver) {
+        socket.writeDatagram(QByteArray::fromHex("4201000200000001"),
+                             QHostAddress(QHostAddress::LocalHost), 3956);
+        while (socket.hasPendingDatagrams()) {
+            const QByteArray presentation = socket.receiveDatagram().data().mid(8);
+            found.insert(presentation.mid(0x08, 8).toHex() + ' '
+                         + presentation.mid(0x48, 32).constData() + ' '
+                         + presentation.mid(0x68, 32).constData());
+        }
+    }
+    return found;
 }
 
 } // namespace
@@ -120,16 +142,7 @@ void DiscoveryTest::testCameraIsItselfFromItsFirstAnswerOn()
 {
     std::atomic<bool> isOver{false};
     QSet<QByteArray> found;
-    std::thread asking([&] {
-        CControlPort port("127.0.0.1");
-        while (!isOver) {
-            const QByteArray presentation = port.discover(1);
-            if (!presentation.isEmpty()) {
-                found.insert(presentation.mid(0x08, 8).toHex() + presentation.mid(0x48, 7)
-                             + presentation.mid(0x68, 8));
-            }
-        }
-    });
+    std::thread asking([&] { found = answersUntil(isOver); });
     CSimulatorProcess camera;
     bool isFine = camera.start();
     for (int i = 0; i < 50 && isFine; ++i) {
@@ -138,7 +151,7 @@ void DiscoveryTest::testCameraIsItselfFromItsFirstAnswerOn()
     isOver = true;
     asking.join();
     QVERIFY(isFine);
-    QCOMPARE(found, QSet<QByteArray>{"00000261fa462ec7OstrandXQZ-2000"});
+    QCOMPARE(found, QSet<QByteArray>{"00000261fa462ec7 Ostrand XQZ-2000"});
 }
 
 QTEST_GUILESS_MAIN(DiscoveryTest)
