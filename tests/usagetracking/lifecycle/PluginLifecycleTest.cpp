@@ -339,56 +339,6 @@ private Q_SLOTS:
         QCOMPARE(f.plugin->uninitialize(&f.host), true);
     }
 
-    void welcomeServiceGetsTheTab()
-    {
-        PluginFixture f;
-        f.initialize();
-        QCOMPARE(f.host.welcome->tabs.size(), 1);
-        QCOMPARE(f.host.welcome->tabs.at(0).data(), Probe::tab(*f.plugin));
-    }
-
-    void helpMenuEntryIsRegisteredInOrder()
-    {
-        PluginFixture f;
-        f.initialize();
-        QCOMPARE(f.host.menu->calls,
-                 QStringList(
-                     {"findActionContainer(NerixViewer.Menu.Help)",
-                      "registerAction(Data Privacy | UsageTracking.DataPrivacy | "
-                      "AppCore.Global.Context)",
-                      "addCommand(UsageTracking.DataPrivacy | NerixViewer.Group.Help.Support)"}));
-        QCOMPARE(f.host.menu->registeredAction->parent(), f.plugin.get());
-    }
-
-    void helpMenuEntryShowsTheTabForThePlugin()
-    {
-        PluginFixture f;
-        f.initialize();
-        f.host.menu->registeredAction->trigger();
-        QCOMPARE(f.host.welcome->shownTabs.size(), 1);
-        QCOMPARE(f.host.welcome->shownTabs.at(0).data(), Probe::tab(*f.plugin));
-        QCOMPARE(f.host.welcome->requesters.at(0).data(), f.plugin.get());
-    }
-
-    void withoutAWelcomeServiceTheEntryDoesNothing()
-    {
-        PluginFixture f;
-        f.host.removeService(f.host.welcome);
-        QCOMPARE(f.initialize(), true);
-        f.host.menu->registeredAction->trigger();
-        QCOMPARE(f.host.welcome->tabs.size(), 0);
-        QCOMPARE(f.host.welcome->shownTabs.size(), 0);
-    }
-
-    void withoutAMenuServiceThereIsNoEntryAndNoWord()
-    {
-        PluginFixture f;
-        f.host.removeService(f.host.menu);
-        QCOMPARE(f.initialize(), true);
-        QCOMPARE(f.host.menu->calls, QStringList());
-        QVERIFY(!f.plugin->findChild<QAction *>());
-    }
-
     void pluginDefaultsAgreeToCloseAndIgnoreTheAnnouncement()
     {
         PluginFixture f;
