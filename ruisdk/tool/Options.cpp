@@ -29,6 +29,7 @@ const std::map<std::string, FlagAction> &flags()
     static const std::map<std::string, FlagAction> table = {
         {"--help", [](Options &options) { options.command = Command::Help; }},
         {"--version", [](Options &options) { options.command = Command::Version; }},
+        {"--stats", [](Options &options) { options.command = Command::Statistics; }},
         {"--follow", [](Options &options) { options.follow = true; }},
         {"--json", [](Options &options) { options.format = Format::Json; }},
         {"--csv", [](Options &options) { options.format = Format::Csv; }},
@@ -40,6 +41,7 @@ const std::map<std::string, FlagAction> &flags()
 const std::map<std::string, ValueAction> &valueOptions()
 {
     static const std::map<std::string, ValueAction> table = {
+        {"--to", [](Options &options, const std::string &v) { options.server = v; }},
         {"--category", [](Options &options, const std::string &v) { options.filter.category = v; }},
         {"--name", [](Options &options, const std::string &v) { options.filter.name = v; }},
         {"--since", [](Options &options,
@@ -61,6 +63,29 @@ void takeDirectory(Options &options, const std::string &argument)
     options.directory = argument;
 }
 
+// A command stands in front of everything; "./send" is a directory.
+bool takeCommand(Options &options, const std::string &argument, std::size_t at)
+{
+    if (at != 0 || (argument != "send" && argument != "purge")) {
+        return false;
+    }
+    options.command = argument == "send" ? Command::Send : Command::Purge;
+    return true;
+}
+
+void requireComplete(const Options &options)
+{
+    if (options.command == Command::Help || options.command == Command::Version) {
+        return;
+    }
+    if (options.directory.empty()) {
+        throw UsageError("name the configuration directory; see --help");
+    }
+    if ((options.command == Command::Send) != !options.server.empty()) {
+        throw UsageError("'send' and '--to' with the address of the server belong together");
+    }
+}
+
 // Handles the argument at the index, and returns how many it took.
 std::size_t takeArgument(Options &options, const std::vector<std::string> &arguments,
                          std::size_t at)
@@ -80,7 +105,9 @@ std::size_t takeArgument(Options &options, const std::vector<std::string> &argum
     if (argument.rfind('-', 0) == 0) {
         throw UsageError("unknown option '" + argument + "'; see --help");
     }
-    takeDirectory(options, argument);
+    if (!takeCommand(options, argument, at)) {
+        takeDirectory(options, argument);
+    }
     return 1;
 }
 
@@ -92,15 +119,16 @@ Options parseOptions(const std::vector<std::string> &arguments)
     for (std::size_t at = 0; at < arguments.size();) {
         at += takeArgument(options, arguments, at);
     }
-    if (options.command == Command::List && options.directory.empty()) {
-        throw UsageError("name the configuration directory; see --help");
-    }
+    requireComplete(options);
     return options;
 }
 
 const char *helpText()
 {
     return "usage: rui-events [OPTIONS] DIRECTORY\n"
+           "       rui-events --stats [--json] DIRECTORY\n"
+           "       rui-events send --to URL DIRECTORY\n"
+           "       rui-events purge DIRECTORY\n"
            "\n"
            "Prints the usage events that are stored in a configuration directory, oldest first.\n"
            "\n"
@@ -112,6 +140,9 @@ const char *helpText()
            "  --name TEXT      only events of this name\n"
            "  --since TIME     only events from this UTC time on, as 2026-11-20T18:30:00\n"
            "  --until TIME     only events before this UTC time\n"
+           "  --stats          counts: pending, delivered, lost by reason, and by event\n"
+           "  send --to URL    deliver what waits now, as in https://collector.example.com\n"
+           "  purge            delete every event; an opt-out that waits for delivery stays\n"
            "  --help           this text\n"
            "  --version        the version\n";
 }

@@ -11,7 +11,7 @@
 namespace rui::tool {
 
 enum class Format { Table, Json, Csv, Raw };
-enum class Command { List, Help, Version };
+enum class Command { List, Statistics, Send, Purge, Help, Version };
 
 struct Options
 {
@@ -19,6 +19,8 @@ struct Options
     Format format = Format::Table;
     bool follow = false;
     RecordFilter filter;
+    // Where "send" delivers to.
+    std::string server;
     std::string directory;
 };
 

@@ -3,14 +3,12 @@
 #pragma once
 
 #include "Printer.h"
-
-#include <array>
-#include <vector>
+#include "TextTable.h"
 
 namespace rui::tool {
 
-// Aligned columns. Rows are kept until flush(), so that a column is as wide as its widest text;
-// columns only grow when more rows follow. Control characters are shown as escapes.
+// Aligned columns. Rows are kept until flush(), so that a column is as wide as its widest text.
+// Control characters are shown as escapes.
 class TablePrinter : public Printer
 {
 public:
@@ -22,14 +20,8 @@ public:
     void flush() override;
 
 private:
-    using Row = std::array<std::string, 5>;
-
-    void add(Row row);
-    void write(const Row &row);
-
     std::ostream &m_out;
-    std::vector<Row> m_rows;
-    std::array<std::size_t, 4> m_widths{};
+    TextTable m_table;
     bool m_headed = false;
 };
 

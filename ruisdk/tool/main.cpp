@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
+#include "Commands.h"
 #include "core/Failure.h"
 #include "Listing.h"
 
@@ -24,6 +25,16 @@ void stopOnSignals()
     std::signal(SIGTERM, requestStop);
 }
 
+void printRecords(const Options &options)
+{
+    if (options.follow) {
+        stopOnSignals();
+        follow(options, std::cout, stopRequested);
+    } else {
+        list(options, std::cout);
+    }
+}
+
 void run(const Options &options)
 {
     switch (options.command) {
@@ -33,14 +44,17 @@ void run(const Options &options)
     case Command::Version:
         std::cout << "rui-events " RUI_VERSION "\n";
         return;
+    case Command::Statistics:
+        showStatistics(options, std::cout);
+        return;
+    case Command::Send:
+        sendNow(options, std::cout);
+        return;
+    case Command::Purge:
+        purgeAll(options, std::cout);
+        return;
     case Command::List:
-        break;
-    }
-    if (options.follow) {
-        stopOnSignals();
-        follow(options, std::cout, stopRequested);
-    } else {
-        list(options, std::cout);
+        printRecords(options);
     }
 }
 

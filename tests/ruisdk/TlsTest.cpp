@@ -35,11 +35,13 @@ protected:
 
     Response post(const std::string &caFile)
     {
-        CurlTransport transport(parseServerAddress("https://127.0.0.1:" + m_port), {}, caFile);
+        CurlTransport transport(parseServerAddress("https://127.0.0.1:" + m_port), m_limits,
+                                caFile);
         return transport.post(gzip("{}"));
     }
 
     TemporaryDirectory m_directory;
+    DeliveryLimits m_limits;
     std::unique_ptr<Child> m_server;
     std::string m_port;
 };
@@ -71,6 +73,8 @@ TEST_F(Tls, CertificateOfAnUnknownAuthorityIsNoConnection)
 
 TEST_F(Tls, ServerThatSpeaksPlainHttpIsNoConnection)
 {
+    // Both sides wait for the other one to begin.
+    m_limits.connectTimeout = std::chrono::milliseconds(300);
     const TestServer plain;
     m_port = plain.url().substr(plain.url().rfind(':') + 1);
     EXPECT_EQ(post("").status, 0);

@@ -41,9 +41,10 @@ public:
     // The same, whatever was scheduled.
     Step stepNow();
 
-    Outbox &outbox()
+    // How many records wait.
+    std::int64_t pending() const
     {
-        return m_outbox;
+        return m_outbox.pending();
     }
 
 private:

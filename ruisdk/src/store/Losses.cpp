@@ -25,6 +25,8 @@ const char *lossReasonName(LossReason reason)
         return "requestSize";
     case LossReason::PartlyRejected:
         return "partlyRejected";
+    case LossReason::Purged:
+        return "purged";
     }
     return "unknown";
 }

@@ -8,15 +8,16 @@ namespace rui {
 
 // Why an event never reaches the collector.
 enum class LossReason {
-    MaxEvents,     // pushed out: too many undelivered events
-    MaxBytes,      // pushed out: too many bytes of them
-    MaxAge,        // too old
-    EventSize,     // refused: one event above the limit
-    Storage,       // refused: the database could not be written
-    Damaged,       // a database was set aside, with what was in it
-    Rejected,      // the collector refused the request
-    RequestSize,   // the collector refused a single event as too large
-    PartlyRejected // the collector took a request, but not all of its events
+    MaxEvents,      // pushed out: too many undelivered events
+    MaxBytes,       // pushed out: too many bytes of them
+    MaxAge,         // too old
+    EventSize,      // refused: one event above the limit
+    Storage,        // refused: the database could not be written
+    Damaged,        // a database was set aside, with what was in it
+    Rejected,       // the collector refused the request
+    RequestSize,    // the collector refused a single event as too large
+    PartlyRejected, // the collector took a request, but not all of its events
+    Purged          // the user deleted them
 };
 
 // The name that stands in the database and in a loss record.

@@ -59,7 +59,7 @@ Database openStore(const StorePaths &paths, const OpeningOptions &options,
     if (options.create) {
         makePrivateDirectory(paths.directory());
     } else if (!std::filesystem::exists(paths.database())) {
-        throw Failure(RUI_STORAGE, paths.database() + ": was removed during the session");
+        throw Failure(RUI_STORAGE, paths.directory() + ": no usage events are stored here");
     }
     FileLock opening(paths.openingLock());
     opening.lock(busyLimit->limit);

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/Statistics.h"
+
+namespace rui {
+
+namespace {
+
+std::vector<Statistics::LossCount> readLosses(const Database &database)
+{
+    std::vector<Statistics::LossCount> losses;
+    Statement query = database.prepare("SELECT reason, lost + told FROM loss ORDER BY reason");
+    while (query.step()) {
+        losses.push_back({std::string(query.text(0)), query.integer(1)});
+    }
+    return losses;
+}
+
+std::vector<Statistics::EventCount> readEvents(const Database &database)
+{
+    std::vector<Statistics::EventCount> events;
+    Statement query =
+        database.prepare("SELECT category, name, count(*) FILTER (WHERE state = 'pending'),"
+                         " count(*) FILTER (WHERE state = 'delivered') FROM record"
+                         " GROUP BY category, name ORDER BY category, name");
+    while (query.step()) {
+        events.push_back({std::string(query.text(0)), std::string(query.text(1)), query.integer(2),
+                          query.integer(3)});
+    }
+    return events;
+}
+
+} // namespace
+
+Statistics readStatistics(const Database &database)
+{
+    Statistics statistics;
+    statistics.pending = database.integer("SELECT count(*) FROM record WHERE state = 'pending'");
+    statistics.delivered = database.integer("SELECT delivered FROM state");
+    statistics.losses = readLosses(database);
+    for (const Statistics::LossCount &loss : statistics.losses) {
+        statistics.lost += loss.count;
+    }
+    statistics.events = readEvents(database);
+    return statistics;
+}
+
+} // namespace rui

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/Database.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace rui {
+
+// What a directory holds and what became of its events.
+struct Statistics
+{
+    struct EventCount
+    {
+        std::string category;
+        std::string name;
+        std::int64_t pending = 0;
+        std::int64_t delivered = 0;
+    };
+    struct LossCount
+    {
+        std::string reason;
+        std::int64_t count = 0;
+    };
+
+    std::int64_t pending = 0;
+    // Since the beginning; only the last of them are still stored.
+    std::int64_t delivered = 0;
+    std::int64_t lost = 0;
+    std::vector<LossCount> losses;  // by reason
+    std::vector<EventCount> events; // of what is stored, by category and name
+};
+
+// Throws SqliteError.
+Statistics readStatistics(const Database &database);
+
+} // namespace rui

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "Commands.h"
+#include "core/JsonWriter.h"
+#include "store/Statistics.h"
+#include "TextTable.h"
+
+namespace rui::tool {
+
+namespace {
+
+std::string jsonOf(const Statistics &statistics)
+{
+    JsonWriter json;
+    json.beginObject().key("pending").integer(statistics.pending);
+    json.key("delivered").integer(statistics.delivered).key("lost").beginObject();
+    for (const Statistics::LossCount &loss : statistics.losses) {
+        json.key(loss.reason).integer(loss.count);
+    }
+    json.endObject().key("events").beginArray();
+    for (const Statistics::EventCount &event : statistics.events) {
+        json.beginObject().key("category").string(event.category).key("name").string(event.name);
+        json.key("pending").integer(event.pending);
+        json.key("delivered").integer(event.delivered).endObject();
+    }
+    return json.endArray().endObject().text();
+}
+
+void printTables(const Statistics &statistics, std::ostream &out)
+{
+    TextTable totals;
+    totals.add({"pending", std::to_string(statistics.pending)});
+    totals.add({"delivered", std::to_string(statistics.delivered)});
+    totals.add({"lost", std::to_string(statistics.lost)});
+    for (const Statistics::LossCount &loss : statistics.losses) {
+        totals.add({"  " + loss.reason, std::to_string(loss.count)});
+    }
+    totals.write(out);
+    out << '\n';
+    TextTable events;
+    events.add({"CATEGORY", "NAME", "PENDING", "DELIVERED"});
+    for (const Statistics::EventCount &event : statistics.events) {
+        events.add({printable(event.category), printable(event.name), std::to_string(event.pending),
+                    std::to_string(event.delivered)});
+    }
+    events.write(out);
+}
+
+} // namespace
+
+void showStatistics(const Options &options, std::ostream &out)
+{
+    const RecordReader reader{StorePaths(options.directory)};
+    const Statistics statistics = readStatistics(reader.database());
+    if (options.format == Format::Json) {
+        out << jsonOf(statistics) << '\n';
+    } else {
+        printTables(statistics, out);
+    }
+}
+
+} // namespace rui::tool

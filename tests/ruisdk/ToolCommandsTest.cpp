@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+//
+// rui-events: --stats, send and purge.
+#include "Child.h"
+#include "Session.h"
+#include "StoredRecords.h"
+#include "TemporaryDirectory.h"
+#include "TestServer.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace rui::test;
+using Manner = Answer::Manner;
+
+class ToolCommands : public testing::Test
+{
+protected:
+    Outcome run(std::vector<std::string> arguments)
+    {
+        arguments.insert(arguments.begin(), RUI_EVENTS_PROGRAM);
+        arguments.push_back(m_path);
+        return runProgram(arguments);
+    }
+
+    void track(int count, const std::string &name = "Opened")
+    {
+        Session session;
+        session.open(m_path);
+        for (int i = 0; i < count; ++i) {
+            session.track("secret text", name, "Camera");
+        }
+    }
+
+    TemporaryDirectory m_directory;
+    const std::string m_path = m_directory.path();
+    TestServer m_server;
+};
+
+TEST_F(ToolCommands, StatisticsCountByStateReasonAndEvent)
+{
+    track(2, "Closed");
+    EXPECT_EQ(run({"send", "--to", m_server.url()}).status, 0);
+    track(3, "Opened");
+    track(1, "Closed");
+    Session session;
+    session.open(m_path);
+    session.track(std::string(2000000, 'x'));
+    EXPECT_EQ(run({"--stats"}).output, "pending      4\n"
+                                       "delivered    2\n"
+                                       "lost         1\n"
+                                       "  eventSize  1\n"
+                                       "\n"
+                                       "CATEGORY  NAME    PENDING  DELIVERED\n"
+                                       "Camera    Closed  1        2\n"
+                                       "Camera    Opened  3        0\n");
+    EXPECT_EQ(run({"--stats", "--json"}).output,
+              R"({"pending":4,"delivered":2,"lost":{"eventSize":1},"events":[)"
+              R"({"category":"Camera","name":"Closed","pending":1,"delivered":2},)"
+              R"({"category":"Camera","name":"Opened","pending":3,"delivered":0}]})"
+              "\n");
+}
+
+TEST_F(ToolCommands, SendDeliversEverythingWithProgress)
+{
+    track(150);
+    const Outcome outcome = run({"send", "--to", m_server.url()});
+    EXPECT_EQ(outcome.output, "sent 100, 50 left\nsent 150, 0 left\nnothing is left\n");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(m_server.requests().size(), 2U);
+    EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM delivered"), "150");
+}
+
+TEST_F(ToolCommands, SendDoesNotWaitForTheScheduledTime)
+{
+    track(1);
+    change(m_path, "UPDATE state SET not_before = 1e9 * (86000 + strftime('%s', 'now'))");
+    EXPECT_EQ(run({"send", "--to", m_server.url()}).status, 0);
+    EXPECT_EQ(m_server.requests().size(), 1U);
+}
+
+TEST_F(ToolCommands, SendThatFailsSaysWhyAndWhatIsLeft)
+{
+    track(2);
+    m_server.add({503, {}, {}, Manner::Reply});
+    const Outcome outcome = run({"send", "--to", m_server.url()});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors,
+              "rui-events: " + m_server.url() + ": the server answered 503; 2 records are left\n");
+}
+
+TEST_F(ToolCommands, SendSaysWhatTheServerRefused)
+{
+    track(2);
+    m_server.add({400, {}, {}, Manner::Reply});
+    EXPECT_EQ(run({"send", "--to", m_server.url()}).output,
+              "sent 2, 0 left (the server answered 400)\nnothing is left\n");
+    EXPECT_EQ(queryValue(m_path, "SELECT lost FROM loss WHERE reason = 'rejected'"), "2");
+}
+
+TEST_F(ToolCommands, SendRefusesPlainHttpToAnotherMachine)
+{
+    track(1);
+    const Outcome outcome = run({"send", "--to", "http://collector.example.com"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "rui-events: http://collector.example.com: use https; http is for"
+                              " the loopback alone\n");
+}
+
+TEST_F(ToolCommands, SendNeedsAServer)
+{
+    const Outcome outcome = run({"send"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors, "rui-events: 'send' and '--to' with the address of the server belong"
+                              " together\n");
+}
+
+TEST_F(ToolCommands, PurgeDeletesEventsAndTheirBytes)
+{
+    track(2);
+    run({"send", "--to", m_server.url()});
+    track(3);
+    EXPECT_EQ(run({"purge"}).output, "deleted 3 pending and 2 delivered events\n");
+    EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM record"), "0");
+    EXPECT_EQ(readFile(databasePath(m_path)).find("secret"), std::string::npos);
+    EXPECT_EQ(query(m_path, "SELECT reason, lost FROM loss"), (std::vector<Row>{{"purged", "3"}}));
+}
+
+TEST_F(ToolCommands, PurgeKeepsAnOptOutAndTheNumbers)
+{
+    track(2);
+    Session optOut;
+    optOut.config(m_path);
+    optOut.optOut();
+    optOut.destroy();
+    track(1);
+    run({"purge"});
+    track(1);
+    EXPECT_EQ(query(m_path, "SELECT seq, name FROM record ORDER BY seq"),
+              (std::vector<Row>{{"3", "OptOut"}, {"5", "Opened"}}));
+}
+
+TEST_F(ToolCommands, PurgeAndSendDoNotCreateADirectory)
+{
+    const std::string missing = m_directory.path("missing");
+    for (const auto &arguments : std::vector<std::vector<std::string>>{
+             {RUI_EVENTS_PROGRAM, "purge", missing},
+             {RUI_EVENTS_PROGRAM, "send", "--to", m_server.url(), missing}}) {
+        const Outcome outcome = runProgram(arguments);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.errors, "rui-events: " + missing + ": no usage events are stored here\n");
+        EXPECT_FALSE(std::filesystem::exists(missing));
+    }
+}
+
+} // namespace
