@@ -25,7 +25,7 @@
 //     ((file|smb|[\w]|[\\\/])([^\w][\:\\\/])?)+([^\:\\\/]*[\\\/])*([^\\\/]+[\\\/]?)$
 //
 // ("file" and "smb" are four and three units anyway, so they add nothing.) That engine tries each
-// position anew and needs half a minute for 10,000 slashes. The same from the end, in one pass:
+// position anew and needs some 15 s for 10,000 slashes. The same from the end, in one pass:
 //
 // 1. `last` ends at lastEnd: the end of the text or, if a slash stands there, in front of it. The
 //    character before lastEnd must not be a slash, else no position has the form. `last` may begin
@@ -37,7 +37,10 @@
 // 3. In there, a unit has what must follow it if any one position of that range is left behind it.
 // 4. In front of directoriesBegin the form can only begin with units that lead there. A unit at p
 //    does if either one, or `directory* last`, begins behind it: at p + 1, or at p + 3 if the unit
-//    has its two followers. Three flags know that; once all are false, no further unit can.
+//    has its two followers. Three flags know that of p + 1, p + 2 and p + 3; once all are false, no
+//    further unit can. The pass starts at directoriesBegin - 2, in front of the colon. There p + 1
+//    is the colon, which begins no unit; p + 2 is in the range; and p + 3 is too whenever it
+//    matters, since then the second follower, at p + 2, is a slash, and lastEnd - 1 is none.
 
 namespace Plugin::UsageTracking::Internal {
 
@@ -84,13 +87,13 @@ int findDirectoriesBegin(QStringView text, int lastEnd)
     return begin;
 }
 
-int findUnitLeadingTo(QStringView text, int directoriesBegin, int lastEnd)
+int findUnitLeadingTo(QStringView text, int directoriesBegin)
 {
     int leftmost = nowhere;
-    bool next = true;
-    bool second = directoriesBegin + 1 < lastEnd;
-    bool third = directoriesBegin + 2 < lastEnd;
-    for (int p = directoriesBegin - 1; p >= 0 && (next || second || third); --p) {
+    bool next = false;
+    bool second = true;
+    bool third = true;
+    for (int p = directoriesBegin - 2; p >= 0 && (next || second || third); --p) {
         const bool followed = next || (third && areFollowers(text[p + 1], text[p + 2]));
         const bool leads = followed && beginsUnit(text[p]);
         leftmost = leads ? p : leftmost;
@@ -113,7 +116,7 @@ int findPath(QStringView text)
         return nowhere;
     }
     const int directoriesBegin = findDirectoriesBegin(text, lastEnd);
-    const int leading = findUnitLeadingTo(text, directoriesBegin, lastEnd);
+    const int leading = findUnitLeadingTo(text, directoriesBegin);
     return leading != nowhere ? leading : findFirstUnit(text, directoriesBegin, lastEnd - 1);
 }
 
