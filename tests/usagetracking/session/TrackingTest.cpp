@@ -108,24 +108,22 @@ private Q_SLOTS:
         TrackingFixture f;
         const auto camera = f.host.makeCamera("A");
         f.startQuietly();
-        // The tracking thread is busy: a slot that is only queued has not run when the signal
-        // returns.
+        // The tracking thread is busy, so the slot cannot have run before it is released.
         QSemaphore release;
         QMetaObject::invokeMethod(
             f.provider, [&] { release.acquire(); }, Qt::QueuedConnection);
-        QSemaphore emitting;
+        QSemaphore returned;
         QStringList seenOnReturn;
-        QList<QString> streamsReadOnReturn;
         f.host.startInCameraThread([&] {
-            emitting.release();
             Q_EMIT f.host.cameraStatus->deviceClosing(camera);
             seenOnReturn = f.analytics.calls();
-            streamsReadOnReturn = f.host.parametersOf(camera)->streamsRead;
+            returned.release();
         });
-        emitting.acquire();
+        QVERIFY2(!returned.tryAcquire(1, 200), "the emitter did not wait");
         release.release();
-        f.host.inCameraThread([] {});
-        QCOMPARE(streamsReadOnReturn, QList<QString>{QStringLiteral("@CameraDevice")});
+        returned.acquire();
+        QCOMPARE(f.host.parametersOf(camera)->streamsRead,
+                 QList<QString>{QStringLiteral("@CameraDevice")});
         QCOMPARE(seenOnReturn.size(), 1);
         QVERIFY(seenOnReturn.at(0).contains(QLatin1String("\"EventName\":\"Closed\"")));
     }
