@@ -94,15 +94,15 @@ void CCameraTable::take(const CFoundCamera &found, Changes *changes)
 
 void CCameraTable::miss(Entry *entry, bool isOpen, Changes *changes)
 {
-    if (++entry->misses < MissesUntilGone) {
-        return;
-    }
+    ++entry->misses;
     if (isOpen) {
-        changes->suspects.append(entry->info);
-        return;
+        if (entry->misses == MissesUntilLost) {
+            changes->lost.append(entry->info);
+        }
+    } else if (entry->misses >= MissesUntilGone) {
+        entry->isThere = false;
+        changes->gone.append(entry->info);
     }
-    entry->isThere = false;
-    changes->gone.append(entry->info);
 }
 
 } // namespace CameraPool

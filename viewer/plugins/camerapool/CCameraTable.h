@@ -14,7 +14,7 @@
 namespace CameraPool {
 
 /// What the searches know: which cameras are there, and how often each was missed. A camera counts
-/// as gone after two misses in a row, because one answer is easily lost on a busy network. Pure
+/// as gone after some misses in a row, because one answer is easily lost on a busy network. Pure
 /// logic, used in one thread.
 class CCameraTable
 {
@@ -24,12 +24,16 @@ public:
     /// From how many searches in a row a camera must be missing to count as gone.
     static constexpr int MissesUntilGone = 2;
 
+    /// The same for a camera that is open. It is more, because a camera that streams may be slow to
+    /// answer, and because the open connection usually notices a loss by itself.
+    static constexpr int MissesUntilLost = 3;
+
     /// What a search changed, in the table's order.
     struct Changes
     {
         QList<CameraInfoPtr> connected;
         QList<CameraInfoPtr> gone;
-        QList<CameraInfoPtr> suspects; ///< missed as often as that, but open: ask the device itself
+        QList<CameraInfoPtr> lost; ///< open, and missed as often as that; still in the table
     };
 
     /// Takes the result of a search. A camera that was renamed keeps its place and gets a new

@@ -4,9 +4,21 @@
 
 #include "Logging.h"
 
+#include <ParameterCollection/CParameterException.h>
+
 #include <utility>
 
 namespace CameraPool {
+namespace {
+
+// How long Aravis tries a single access before it gives up. It may take twice as long, when the
+// heartbeat is trying at the same time.
+constexpr std::chrono::milliseconds Patience(2500);
+
+// How often a waiting thread looks whether the device was lost meanwhile.
+constexpr std::chrono::milliseconds LookInterval(50);
+
+} // namespace
 
 CDevice::CDevice(Core::CameraPoolComponents::CameraInfoPtr info, GObjectPtr<ArvDevice> device,
                  std::function<void()> onLost)
@@ -25,18 +37,44 @@ CDevice::~CDevice()
 
 void CDevice::markLost()
 {
-    if (!m_isLost.exchange(true)) {
+    // Aravis also reports the loss of a connection that is being given back.
+    if (m_isOpen && !m_isLost.exchange(true)) {
         qCWarning(lcCameraPool, "%s has stopped answering", qUtf8Printable(m_info->identity()));
         m_onLost();
     }
 }
 
+void CDevice::throwIfUnusable() const
+{
+    const QString name = m_info->displayName();
+    if (m_isLost) {
+        throw ParameterCollection::CParameterException(
+            QStringLiteral("%1 is gone: check its cable and power, then open it again").arg(name));
+    }
+    if (!m_isOpen) {
+        throw ParameterCollection::CParameterException(
+            QStringLiteral("%1 is closed: open it again").arg(name));
+    }
+}
+
+void CDevice::waitFor(const std::function<bool(std::chrono::milliseconds)> &isDone)
+{
+    const auto deadline = std::chrono::steady_clock::now() + Patience;
+    do {
+        throwIfUnusable();
+        if (std::chrono::steady_clock::now() > deadline) {
+            markLost();
+        }
+    } while (!isDone(LookInterval));
+}
+
 void CDevice::close()
 {
+    m_isOpen = false;
+    m_thread.stop();
     GObjectPtr<ArvDevice> device;
     {
         const std::lock_guard<std::recursive_timed_mutex> lock(m_lock);
-        m_isOpen = false;
         device = std::move(m_device);
     }
     // Given back without the lock: of a dead device this takes seconds, which nobody shall wait

@@ -3,11 +3,13 @@
 #pragma once
 
 #include "CStreamCounters.h"
+#include "CTaskThread.h"
 #include "GLibPointers.h"
 
 #include <Core/CameraPoolComponents/ICameraInfo.h>
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <mutex>
 
@@ -20,9 +22,16 @@ class CDeviceAccess;
 /// A camera that is open, or was: it outlives the closing, so that who still holds it (a parameter,
 /// for example) gets a clear refusal. Opening the camera again makes a new object.
 ///
-/// Aravis and GenICam may not be entered by two threads for the same device; whoever wants to,
-/// makes a `CDeviceAccess`, which holds this device's lock. All operations may be called in any
-/// thread.
+/// Aravis and GenICam may not be entered by two threads for the same device, and an access to a
+/// device that died blocks for up to five seconds. So there are two ways in, which may be mixed:
+///
+/// - `call` does the work in the device's own thread and does not wait for it longer than the
+/// device
+///   is believed to live. It is meant for everything that asks the device itself.
+/// - a local `CDeviceAccess` takes the device's lock in the calling thread. It is meant for what is
+///   only looked up in the device's description.
+///
+/// All operations may be called in any thread.
 class CDevice
 {
 public:
@@ -54,6 +63,14 @@ public:
     /// Notes the loss. Later accesses fail at once.
     void markLost();
 
+    /// Does \a work, which takes a `const CDeviceAccess &`, in the device's thread, and gives its
+    /// result. Where the caller gives up waiting, \a work goes on: it must own all that it uses.
+    /// @throws ParameterCollection::CParameterException at once if the device is closed or lost,
+    /// as soon as it is lost meanwhile, and after two and a half seconds; then it is lost. Also
+    /// whatever \a work throws.
+    template <class Work>
+    auto call(Work work);
+
     /// Ends all access and gives the connection back. Waits for an access that is under way, and,
     /// if the device does not answer, for some seconds.
     void close();
@@ -66,6 +83,11 @@ public:
 private:
     friend class CDeviceAccess;
 
+    void throwIfUnusable() const;
+
+    // Waits until \a isDone, which waits for as long as it is told, gives true.
+    void waitFor(const std::function<bool(std::chrono::milliseconds)> &isDone);
+
     static void onControlLost(ArvDevice *device, gpointer self);
 
     const Core::CameraPoolComponents::CameraInfoPtr m_info;
@@ -76,6 +98,7 @@ private:
     GObjectPtr<ArvDevice> m_device; // guarded by m_lock; null once closed
     mutable std::mutex m_countersMutex;
     CStreamCounters m_counters; // guarded by m_countersMutex
+    CTaskThread m_thread;       // last, so that it ends first
 };
 
 } // namespace CameraPool

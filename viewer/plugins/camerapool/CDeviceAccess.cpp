@@ -9,12 +9,6 @@
 namespace CameraPool {
 namespace {
 
-using ParameterCollection::CParameterException;
-
-// How often a waiting thread looks whether the device was lost meanwhile. The thread that it waits
-// for may be stuck in a time-out of some seconds.
-constexpr std::chrono::milliseconds LookInterval(50);
-
 bool meansLost(const CGError &error)
 {
     return error.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT)
@@ -27,14 +21,9 @@ CDeviceAccess::CDeviceAccess(CDevice &device)
     : m_device(device)
     , m_lock(device.m_lock, std::defer_lock)
 {
-    do {
-        throwIfUnusable();
-    } while (!m_lock.try_lock_for(LookInterval));
-    throwIfUnusable();
-    if (!m_device.m_device) {
-        throw CParameterException(
-            QStringLiteral("%1 is closed: open it again").arg(device.info()->displayName()));
-    }
+    device.waitFor(
+        [this](std::chrono::milliseconds interval) { return m_lock.try_lock_for(interval); });
+    device.throwIfUnusable();
 }
 
 void CDeviceAccess::check(const CGError &error, const QString &what) const
@@ -44,18 +33,10 @@ void CDeviceAccess::check(const CGError &error, const QString &what) const
     }
     if (meansLost(error)) {
         m_device.markLost();
-        throwIfUnusable();
+        m_device.throwIfUnusable();
     }
-    throw CParameterException(QStringLiteral("%1: %2").arg(what, error.message()));
-}
-
-void CDeviceAccess::throwIfUnusable() const
-{
-    if (m_device.isLost()) {
-        throw CParameterException(
-            QStringLiteral("%1 is gone: check its cable and power, then open it again")
-                .arg(m_device.info()->displayName()));
-    }
+    throw ParameterCollection::CParameterException(
+        QStringLiteral("%1: %2").arg(what, error.message()));
 }
 
 } // namespace CameraPool

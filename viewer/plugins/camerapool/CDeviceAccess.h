@@ -4,7 +4,11 @@
 
 #include "CDevice.h"
 
+#include <chrono>
+#include <future>
+#include <memory>
 #include <mutex>
+#include <utility>
 
 #include <QString>
 
@@ -16,7 +20,7 @@ class CDeviceAccess
 {
 public:
     /// Waits until no other thread uses \a device.
-    /// @throws ParameterCollection::CParameterException at once if the device is closed or lost.
+    /// @throws ParameterCollection::CParameterException as `CDevice::call`.
     explicit CDeviceAccess(CDevice &device);
 
     Q_DISABLE_COPY_MOVE(CDeviceAccess)
@@ -39,10 +43,28 @@ public:
     void check(const CGError &error, const QString &what) const;
 
 private:
-    void throwIfUnusable() const;
-
     CDevice &m_device;
     std::unique_lock<std::recursive_timed_mutex> m_lock;
 };
+
+template <class Work>
+auto CDevice::call(Work work)
+{
+    using Result = decltype(work(std::declval<const CDeviceAccess &>()));
+    throwIfUnusable();
+    const auto task = std::make_shared<std::packaged_task<Result()>>(
+        [this, work] { return work(CDeviceAccess(*this)); });
+    std::future<Result> result = task->get_future();
+    m_thread.post([task] { (*task)(); });
+    waitFor([&](std::chrono::milliseconds interval) {
+        return result.wait_for(interval) == std::future_status::ready;
+    });
+    try {
+        return result.get();
+    } catch (const std::future_error &) {
+        throwIfUnusable(); // closed before the work had begun
+        throw;
+    }
+}
 
 } // namespace CameraPool

@@ -4,12 +4,9 @@
 
 #include "CCameraControl.h"
 #include "CCameraStatus.h"
-#include "CDeviceAccess.h"
 #include "CDeviceStore.h"
 #include "DeviceOpener.h"
 #include "Logging.h"
-
-#include <ParameterCollection/CParameterException.h>
 
 #include <utility>
 
@@ -21,6 +18,10 @@ CPoolWorker::CPoolWorker(const Outlets &outlets, std::unique_ptr<ICameraSearch> 
     , m_search(std::move(search))
     , m_timing(timing)
     , m_searchTimer(this) // a child, so that it moves to the pool's thread too
+    , m_releaser([this](const QString &identity) {
+        QMetaObject::invokeMethod(
+            this, [=] { onDeviceReleased(identity); }, Qt::QueuedConnection);
+    })
 {
     m_searchTimer.setSingleShot(true);
     connect(&m_searchTimer, &QTimer::timeout, this, &CPoolWorker::searchOnce);
@@ -58,8 +59,8 @@ void CPoolWorker::report(const CCameraTable::Changes &changes)
         qCInfo(lcCameraPool, "%s is there", qUtf8Printable(camera->identity()));
         Q_EMIT m_outlets.status->deviceConnected(camera);
     }
-    for (const CameraInfoPtr &camera : changes.suspects) {
-        askDevice(camera);
+    for (const CameraInfoPtr &camera : changes.lost) {
+        m_open.value(camera->identity())->markLost(); // onDeviceLost follows
     }
 }
 
@@ -77,25 +78,6 @@ void CPoolWorker::reportEnumeration()
     Q_EMIT m_outlets.enumeration->enumerationChanged();
 }
 
-// A camera that is busy streaming may fail to answer searches. Whether it is lost is decided by a
-// read over the open connection; if it is, onDeviceLost follows.
-void CPoolWorker::askDevice(const CameraInfoPtr &camera)
-{
-    const auto device = m_open.value(camera->identity());
-    if (!device) {
-        return;
-    }
-    try {
-        const CDeviceAccess access(*device);
-        CGError error;
-        guint32 version = 0;
-        arv_device_read_register(access.device(), 0, &version, error.out());
-        access.check(error, QStringLiteral("protocol version"));
-    } catch (const ParameterCollection::CParameterException &exception) {
-        qCInfo(lcCameraPool, "%s", exception.what());
-    }
-}
-
 void CPoolWorker::open(const CameraInfoPtr &camera)
 {
     if (!camera) {
@@ -106,7 +88,9 @@ void CPoolWorker::open(const CameraInfoPtr &camera)
         return;
     }
     const CFoundCamera *found = m_table.find(identity);
-    if (m_isEnding) {
+    if (!m_isEnding && m_releaser.isReleasing(identity)) {
+        m_waiting.insert(identity, camera);
+    } else if (m_isEnding) {
         fail(camera, QStringLiteral("%1 is not opened: the viewer is closing; start it again")
                          .arg(camera->displayName()));
     } else if (!found) {
@@ -149,6 +133,7 @@ void CPoolWorker::fail(const CameraInfoPtr &camera, const QString &message)
 void CPoolWorker::close(const CameraInfoPtr &camera)
 {
     if (camera) {
+        m_waiting.remove(camera->identity());
         shut(camera->identity());
         Q_EMIT m_outlets.control->closed(camera);
     }
@@ -179,6 +164,14 @@ void CPoolWorker::onDeviceLost(const QString &identity, quint64 session)
     Q_EMIT m_outlets.status->deviceDisconnected(device->info());
 }
 
+void CPoolWorker::onDeviceReleased(const QString &identity)
+{
+    const CameraInfoPtr camera = m_waiting.take(identity);
+    if (camera) {
+        open(camera);
+    }
+}
+
 // The signal comes while the camera is still in m_open, that is, while it can be read.
 void CPoolWorker::shut(const QString &identity)
 {
@@ -187,7 +180,7 @@ void CPoolWorker::shut(const QString &identity)
         return;
     }
     Q_EMIT m_outlets.status->deviceClosing(device->info());
-    device->close();
+    m_releaser.release(device);
     m_open.remove(identity);
     m_table.setControlled(identity, false);
     publish();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CCameraTable.h"
+#include "CDeviceReleaser.h"
 #include "CPoolTiming.h"
 #include "ICameraControlService.h"
 #include "ICameraSearch.h"
@@ -58,10 +59,10 @@ private:
     void searchOnce();
     void report(const CCameraTable::Changes &changes);
     void reportEnumeration();
-    void askDevice(const CameraInfoPtr &camera);
     void connectDevice(const CFoundCamera &found, const CameraInfoPtr &camera);
     void fail(const CameraInfoPtr &camera, const QString &message);
     void onDeviceLost(const QString &identity, quint64 session);
+    void onDeviceReleased(const QString &identity);
     void shut(const QString &identity);
     void publish();
 
@@ -71,8 +72,10 @@ private:
     QTimer m_searchTimer;
     CCameraTable m_table;
     QMap<QString, QSharedPointer<CDevice>> m_open; // by identity
-    QHash<QString, quint64> m_sessions;             // by identity: which opening it is
+    QHash<QString, quint64> m_sessions;            // by identity: which opening it is
     quint64 m_lastSession = 0;
+    QHash<QString, CameraInfoPtr> m_waiting; // to be opened when their last device is released
+    CDeviceReleaser m_releaser;
     QSet<QString> m_reported; // identities at the last enumerationChanged
     bool m_hasReported = false;
     bool m_isEnding = false;

@@ -15,26 +15,25 @@ using namespace ParameterCollection;
 
 namespace {
 
-// Asks, and takes \a ifNot for an answer if the device cannot be asked.
+// Gives what \a question gives, and \a ifNot if the device cannot be asked.
 template <class Answer, class Question>
-Answer ask(const CFeature &feature, Answer ifNot, Question question)
+Answer ask(Answer ifNot, Question question)
 {
     try {
-        return question(CNodeAccess(feature));
+        return question();
     } catch (const CParameterException &) {
         return ifNot;
     }
 }
 
-bool hasReadableValue(const CNodeAccess &access)
+// Looks something up in the description, here and now.
+template <class Look>
+QString lookUp(const CFeature &feature, Look look)
 {
-    const InterfaceType type = access.feature().type;
-    return type != InterfaceCategory && type != InterfaceCommand && access.mayRead();
-}
-
-bool hasWritableValue(const CNodeAccess &access)
-{
-    return access.feature().type != InterfaceCategory && access.mayWrite();
+    return ask(QString(), [&] {
+        const CameraPool::CDeviceAccess access(*feature.device);
+        return QString::fromUtf8(look(CNodeAccess(feature, access)));
+    });
 }
 
 const char *unitOf(const CNodeAccess &access)
@@ -65,12 +64,12 @@ Visibility fromAravis(ArvGcVisibility visibility)
 
 AccessMode modeOf(const CNodeAccess &access)
 {
+    const CFeature &feature = access.feature();
     if (!access.isOffered()) {
         return AccessNotAvailable;
     }
-    const bool canRead = hasReadableValue(access);
-    const bool canWrite = hasWritableValue(access) && !access.isLocked();
-    if (canRead) {
+    const bool canWrite = feature.hasWritableValue && !access.isLocked();
+    if (feature.hasReadableValue) {
         return canWrite ? AccessReadWrite : AccessReadOnly;
     }
     return canWrite ? AccessWriteOnly : AccessNotAvailable;
@@ -84,75 +83,85 @@ CFeatureQuestions::CFeatureQuestions(CFeature feature)
 
 bool CFeatureQuestions::isUnavailable() const
 {
-    return ask(m_feature, true, [](const CNodeAccess &access) { return !access.isOffered(); });
+    if (m_feature.isAlwaysOffered) {
+        return !m_feature.device->isOpen();
+    }
+    return ask(true, [this] {
+        return callFeature(m_feature,
+                           [](const CNodeAccess &access) { return !access.isOffered(); });
+    });
 }
 
 bool CFeatureQuestions::isReadable() const
 {
-    return ask(m_feature, false, [](const CNodeAccess &access) {
-        return hasReadableValue(access) && access.isOffered();
-    });
+    return m_feature.hasReadableValue && !isUnavailable();
 }
 
 bool CFeatureQuestions::isUserSettable() const
 {
-    return ask(m_feature, false, hasWritableValue);
+    return m_feature.hasWritableValue && m_feature.device->isOpen();
 }
 
 AccessMode CFeatureQuestions::accessMode() const
 {
-    return ask(m_feature, AccessNotAvailable, modeOf);
+    return ask(AccessNotAvailable, [this] { return callFeature(m_feature, modeOf); });
 }
 
 QString CFeatureQuestions::displayName() const
 {
-    const QString text = ask(m_feature, QString(), [](const CNodeAccess &access) {
-        return QString::fromUtf8(arv_gc_feature_node_get_display_name(access.node()));
+    const QString text = lookUp(m_feature, [](const CNodeAccess &access) {
+        return arv_gc_feature_node_get_display_name(access.node());
     });
     return text.isEmpty() ? m_feature.name() : text;
 }
 
 QString CFeatureQuestions::toolTip() const
 {
-    return ask(m_feature, QString(), [](const CNodeAccess &access) {
-        return QString::fromUtf8(arv_gc_feature_node_get_tooltip(access.node()));
+    return lookUp(m_feature, [](const CNodeAccess &access) {
+        return arv_gc_feature_node_get_tooltip(access.node());
     });
 }
 
 QString CFeatureQuestions::unit() const
 {
-    return ask(m_feature, QString(),
-               [](const CNodeAccess &access) { return QString::fromUtf8(unitOf(access)); });
+    return lookUp(m_feature, unitOf);
 }
 
 Visibility CFeatureQuestions::visibility() const
 {
-    return ask(m_feature, VisibilityBeginner, [](const CNodeAccess &access) {
-        return fromAravis(arv_gc_feature_node_get_visibility(access.node()));
+    return ask(VisibilityBeginner, [this] {
+        const CameraPool::CDeviceAccess access(*m_feature.device);
+        return fromAravis(
+            arv_gc_feature_node_get_visibility(CNodeAccess(m_feature, access).node()));
     });
 }
 
 QString CFeatureQuestions::readText() const
 {
-    return codecFor(m_feature.type).read(CNodeAccess(m_feature).offered());
+    return callFeature(m_feature, [](const CNodeAccess &access) {
+        return codecFor(access.feature().type).read(access.offered());
+    });
 }
 
 QString CFeatureQuestions::checkText(const QString &text) const
 {
-    const CNodeAccess access(m_feature);
-    access.offered();
-    if (!hasWritableValue(access)) {
-        access.refuse(QStringLiteral("it can only be read"));
-    }
-    if (access.isLocked()) {
-        access.refuse(QStringLiteral("it is locked now: stop the grab, then set it"));
-    }
-    return codecFor(m_feature.type).check(access, text);
+    return callFeature(m_feature, [text](const CNodeAccess &access) {
+        access.offered();
+        if (!access.feature().hasWritableValue) {
+            access.refuse(QStringLiteral("it can only be read"));
+        }
+        if (access.isLocked()) {
+            access.refuse(QStringLiteral("it is locked now: stop the grab, then set it"));
+        }
+        return codecFor(access.feature().type).check(access, text);
+    });
 }
 
 void CFeatureQuestions::writeText(const QString &value) const
 {
-    codecFor(m_feature.type).write(CNodeAccess(m_feature), value);
+    callFeature(m_feature, [value](const CNodeAccess &access) {
+        codecFor(access.feature().type).write(access, value);
+    });
 }
 
 } // namespace ParameterCollectionPool

@@ -11,8 +11,8 @@
 
 namespace ParameterCollectionPool {
 
-/// What can be asked of every feature, whatever its kind. Each call takes the device's lock for its
-/// own time. Callable in any thread.
+/// What can be asked of every feature, whatever its kind. The device is asked only for what
+/// changes; what the description says for good costs next to nothing. Callable in any thread.
 class CFeatureQuestions
 {
 public:

@@ -6,9 +6,9 @@
 
 namespace ParameterCollectionPool {
 
-CNodeAccess::CNodeAccess(const CFeature &feature)
+CNodeAccess::CNodeAccess(const CFeature &feature, const CameraPool::CDeviceAccess &access)
     : m_feature(feature)
-    , m_access(*feature.device)
+    , m_access(access)
     , m_node(ARV_GC_FEATURE_NODE(arv_gc_get_node(m_access.genicam(), feature.node.constData())))
 {}
 
@@ -28,6 +28,9 @@ const CNodeAccess &CNodeAccess::offered() const
 
 bool CNodeAccess::isOffered() const
 {
+    if (m_feature.isAlwaysOffered) {
+        return true;
+    }
     return call(
                [this](GError **error) { return arv_gc_feature_node_is_implemented(m_node, error); })
            && call(
@@ -36,19 +39,8 @@ bool CNodeAccess::isOffered() const
 
 bool CNodeAccess::isLocked() const
 {
-    return call([this](GError **error) { return arv_gc_feature_node_is_locked(m_node, error); });
-}
-
-bool CNodeAccess::mayRead() const
-{
-    const ArvGcAccessMode mode = arv_gc_feature_node_get_actual_access_mode(m_node);
-    return mode == ARV_GC_ACCESS_MODE_RO || mode == ARV_GC_ACCESS_MODE_RW;
-}
-
-bool CNodeAccess::mayWrite() const
-{
-    const ArvGcAccessMode mode = arv_gc_feature_node_get_actual_access_mode(m_node);
-    return mode == ARV_GC_ACCESS_MODE_WO || mode == ARV_GC_ACCESS_MODE_RW;
+    return !m_feature.isNeverLocked
+           && call([this](GError **error) { return arv_gc_feature_node_is_locked(m_node, error); });
 }
 
 } // namespace ParameterCollectionPool

@@ -7,13 +7,13 @@
 
 namespace ParameterCollectionPool {
 
-/// The right to use one feature of a device, for the life of this object, which is a local
-/// variable: holds the device's lock. No signal may be emitted while it lives.
+/// The right to use one feature of a device, for the life of this object, which is short. No signal
+/// may be emitted while it lives. See `callFeature` and `CDevice` for the two ways to get one.
 class CNodeAccess
 {
 public:
-    /// @throws ParameterCollection::CParameterException if the device is closed or lost.
-    explicit CNodeAccess(const CFeature &feature);
+    /// \a feature and \a access outlive this object.
+    CNodeAccess(const CFeature &feature, const CameraPool::CDeviceAccess &access);
 
     Q_DISABLE_COPY_MOVE(CNodeAccess)
 
@@ -70,14 +70,20 @@ public:
     bool isOffered() const;
     bool isLocked() const;
 
-    /// As the description says. Being locked does not change it.
-    bool mayRead() const;
-    bool mayWrite() const;
-
 private:
     const CFeature &m_feature;
-    const CameraPool::CDeviceAccess m_access;
+    const CameraPool::CDeviceAccess &m_access;
     ArvGcFeatureNode *const m_node;
 };
+
+/// Does \a work, which takes a `const CNodeAccess &`, in the device's thread; see
+/// `CDevice::call` for what it may use and what is thrown.
+template <class Work>
+auto callFeature(const CFeature &feature, Work work)
+{
+    return feature.device->call([feature, work](const CameraPool::CDeviceAccess &access) {
+        return work(CNodeAccess(feature, access));
+    });
+}
 
 } // namespace ParameterCollectionPool

@@ -96,6 +96,14 @@ protected:
         return m_questions.feature();
     }
 
+    /// Reads in the device's thread.
+    template <class Result>
+    Result ask(Result (*read)(const CNodeAccess &)) const
+    {
+        return callFeature(feature(),
+                           [read](const CNodeAccess &access) { return read(access.offered()); });
+    }
+
 private:
     const CFeatureQuestions m_questions;
 };
@@ -109,19 +117,19 @@ public:
     using CFeatureParameter::CFeatureParameter;
     qint64 value() const override
     {
-        return integerValue(CNodeAccess(feature()).offered());
+        return ask(integerValue);
     }
     qint64 minimum() const override
     {
-        return integerMinimum(CNodeAccess(feature()).offered());
+        return ask(integerMinimum);
     }
     qint64 maximum() const override
     {
-        return integerMaximum(CNodeAccess(feature()).offered());
+        return ask(integerMaximum);
     }
     qint64 increment() const override
     {
-        return integerIncrement(CNodeAccess(feature()).offered());
+        return ask(integerIncrement);
     }
 };
 
@@ -131,15 +139,15 @@ public:
     using CFeatureParameter::CFeatureParameter;
     double value() const override
     {
-        return floatValue(CNodeAccess(feature()).offered());
+        return ask(floatValue);
     }
     double minimum() const override
     {
-        return floatMinimum(CNodeAccess(feature()).offered());
+        return ask(floatMinimum);
     }
     double maximum() const override
     {
-        return floatMaximum(CNodeAccess(feature()).offered());
+        return ask(floatMaximum);
     }
 };
 
@@ -149,7 +157,7 @@ public:
     using CFeatureParameter::CFeatureParameter;
     bool value() const override
     {
-        return booleanValue(CNodeAccess(feature()).offered());
+        return ask(booleanValue);
     }
 };
 
@@ -159,11 +167,11 @@ public:
     using CFeatureParameter::CFeatureParameter;
     qint64 intValue() const override
     {
-        return enumerationValue(CNodeAccess(feature()).offered());
+        return ask(enumerationValue);
     }
     QStringList entries() const override
     {
-        return enumerationEntries(CNodeAccess(feature()).offered());
+        return ask(enumerationEntries);
     }
 };
 

@@ -39,6 +39,37 @@ InterfaceType typeOf(ArvGcNode *node)
     return ARV_IS_GC_REGISTER(node) ? InterfaceRegister : InterfaceBase;
 }
 
+bool hasChild(ArvGcNode *node, const char *name)
+{
+    ArvDomNode *child = arv_dom_node_get_first_child(ARV_DOM_NODE(node));
+    for (; child; child = arv_dom_node_get_next_sibling(child)) {
+        if (qstrcmp(arv_dom_node_get_node_name(child), name) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+CFeature describe(ArvGcNode *node, const QSharedPointer<CameraPool::CDevice> &device,
+                  const QByteArray &name, const QString &category)
+{
+    const InterfaceType type = typeOf(node);
+    const ArvGcAccessMode mode =
+        arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(node));
+    CFeature feature;
+    feature.device = device;
+    feature.node = name;
+    feature.category = category;
+    feature.type = type;
+    feature.hasReadableValue = type != InterfaceCategory && type != InterfaceCommand
+                               && (mode == ARV_GC_ACCESS_MODE_RO || mode == ARV_GC_ACCESS_MODE_RW);
+    feature.hasWritableValue = type != InterfaceCategory
+                               && (mode == ARV_GC_ACCESS_MODE_WO || mode == ARV_GC_ACCESS_MODE_RW);
+    feature.isAlwaysOffered = !hasChild(node, "pIsAvailable") && !hasChild(node, "pIsImplemented");
+    feature.isNeverLocked = !hasChild(node, "pIsLocked");
+    return feature;
+}
+
 class CWalk
 {
 public:
@@ -67,7 +98,7 @@ private:
             return;
         }
         m_seen.insert(name);
-        features.append(CFeature{m_device, name, categoryName, typeOf(node)});
+        features.append(describe(node, m_device, name, categoryName));
         if (features.last().type == InterfaceCategory) {
             children(node, features.last().fullName());
         }

@@ -13,13 +13,17 @@
 
 namespace ParameterCollectionPool {
 
-/// Where a feature is, and what is known of it without asking the device. A value.
+/// Where a feature is, and what the description says of it for good. A value.
 struct CFeature
 {
     QSharedPointer<CameraPool::CDevice> device;
     QByteArray node;  ///< the name of the GenICam node
     QString category; ///< the full name of the category that it is in; empty at the top
     ParameterCollection::InterfaceType type = ParameterCollection::InterfaceValue;
+    bool hasReadableValue = false;
+    bool hasWritableValue = false; ///< also while it is locked
+    bool isAlwaysOffered = true;   ///< it depends on nothing whether the device has it
+    bool isNeverLocked = true;
 
     QString name() const
     {

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "CDeviceReleaser.h"
+
+#include "CDevice.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+#include <QSet>
+
+namespace CameraPool {
+namespace {
+
+constexpr std::chrono::milliseconds PatienceForOne(500);
+constexpr std::chrono::seconds PatienceAtTheEnd(3);
+
+} // namespace
+
+struct CDeviceReleaser::State
+{
+    std::mutex mutex;
+    std::condition_variable changed;
+    QSet<QString> underWay;                          // guarded by mutex
+    QSet<QString> late;                              // those that release did not wait for
+    std::function<void(const QString &)> onReleased; // empty at the end; guarded by mutex
+
+    void end(const QString &identity)
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        underWay.remove(identity);
+        if (late.remove(identity) && onReleased) {
+            onReleased(identity);
+        }
+        changed.notify_all();
+    }
+};
+
+CDeviceReleaser::CDeviceReleaser(std::function<void(const QString &)> onReleased)
+    : m_state(std::make_shared<State>())
+{
+    m_state->onReleased = std::move(onReleased);
+}
+
+CDeviceReleaser::~CDeviceReleaser()
+{
+    std::unique_lock<std::mutex> lock(m_state->mutex);
+    m_state->onReleased = nullptr;
+    m_state->changed.wait_for(lock, PatienceAtTheEnd,
+                              [this] { return m_state->underWay.isEmpty(); });
+}
+
+void CDeviceReleaser::release(const QSharedPointer<CDevice> &device)
+{
+    const QString identity = device->info()->identity();
+    std::unique_lock<std::mutex> lock(m_state->mutex);
+    m_state->underWay.insert(identity);
+    std::thread([state = m_state, device, identity] {
+        device->close();
+        state->end(identity);
+    }).detach();
+    const auto patience = device->isLost() ? std::chrono::milliseconds(0) : PatienceForOne;
+    const bool isDone = m_state->changed.wait_for(
+        lock, patience, [&] { return !m_state->underWay.contains(identity); });
+    if (!isDone) {
+        m_state->late.insert(identity);
+    }
+}
+
+bool CDeviceReleaser::isReleasing(const QString &identity) const
+{
+    const std::lock_guard<std::mutex> lock(m_state->mutex);
+    return m_state->underWay.contains(identity);
+}
+
+} // namespace CameraPool
