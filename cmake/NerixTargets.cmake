@@ -40,7 +40,7 @@ execute_process(COMMAND unshare --user --map-root-user --net ip link set lo up
 
 # nerix_add_test(NAME SOURCES ... LIBRARIES ... [ENVIRONMENT ...] [ISOLATED_NETWORK]): a QtTest
 # program as a CTest test. It has no display, keeps to test folders and gets a generous limit
-# against hanging. ISOLATED_NETWORK: it runs by tests/support/in-network-namespace.sh.
+# against hanging. ISOLATED_NETWORK: it runs by tools/in-network-namespace.sh.
 function(nerix_add_test name)
     cmake_parse_arguments(arg "ISOLATED_NETWORK" "" "SOURCES;LIBRARIES;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
@@ -49,7 +49,7 @@ function(nerix_add_test name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests/bin")
     if(arg_ISOLATED_NETWORK)
         add_test(NAME ${name}
-            COMMAND "${CMAKE_SOURCE_DIR}/tests/support/in-network-namespace.sh" $<TARGET_FILE:${name}>)
+            COMMAND "${CMAKE_SOURCE_DIR}/tools/in-network-namespace.sh" $<TARGET_FILE:${name}>)
         if(NOT NERIX_UNSHARE_RESULT EQUAL 0)
             set_tests_properties(${name} PROPERTIES RESOURCE_LOCK loopback)
         endif()

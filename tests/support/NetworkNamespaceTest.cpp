@@ -21,7 +21,7 @@ Run run(const QStringList &arguments, const QString &path = qgetenv("PATH"))
     environment.insert("PATH", path);
     QProcess script;
     script.setProcessEnvironment(environment);
-    script.start(NERIX_SOURCE_DIR "/tests/support/in-network-namespace.sh", arguments);
+    script.start(NERIX_SOURCE_DIR "/tools/in-network-namespace.sh", arguments);
     script.waitForFinished();
     return {script.exitCode(), script.readAllStandardOutput(), script.readAllStandardError()};
 }
@@ -63,7 +63,7 @@ void NetworkNamespaceTest::testStatusIsTheProgrammes()
 void NetworkNamespaceTest::testInputIsPassedOn()
 {
     QProcess script;
-    script.start(NERIX_SOURCE_DIR "/tests/support/in-network-namespace.sh", {"cat"});
+    script.start(NERIX_SOURCE_DIR "/tools/in-network-namespace.sh", {"cat"});
     script.write("over here\n");
     script.closeWriteChannel();
     QVERIFY(script.waitForFinished());

@@ -1,0 +1,133 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Ostrand
+# SPDX-License-Identifier: MIT
+#
+# run-demo.sh BUILD_DIR DEMO_DIR
+#
+# Two sessions with a simulated camera, one with the user's consent and one without, and the usage
+# events as they are stored. All that the programs write goes to DEMO_DIR, which is emptied first.
+# Status 1 if what should be stored is not, or the other way round.
+set -euo pipefail
+
+if [[ -z ${NERIX_NETWORK:-} ]]; then
+    here=$(cd "$(dirname "$0")" && pwd)
+    exec "$here/../../tools/in-network-namespace.sh" "$here/run-demo.sh" "$@"
+fi
+
+source_dir=$(cd "$(dirname "$0")/../.." && pwd)
+bin=$(cd "$1" && pwd)/bin
+rm -rf "$2"
+mkdir -p "$2"
+demo=$(cd "$2" && pwd)
+
+# The demo is one for people without a display, and must not meet the settings of who runs it.
+unset DISPLAY WAYLAND_DISPLAY
+export QT_QPA_PLATFORM=offscreen
+export XDG_RUNTIME_DIR=$demo/runtime
+mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+
+simulator_pid=
+follower_pid=
+cleanup() {
+    [[ -z $follower_pid ]] || kill "$follower_pid" 2>/dev/null || true
+    [[ -z $simulator_pid ]] || kill "$simulator_pid" 2>/dev/null || true
+}
+trap cleanup EXIT
+
+start_simulator() {
+    coproc SIMULATOR { exec "$bin/nerix-camera-simulator"; }
+    simulator_pid=$SIMULATOR_PID
+    local line
+    if ! read -r line <&"${SIMULATOR[0]}"; then
+        echo "run-demo.sh: the simulated camera did not start" >&2
+        exit 1
+    fi
+    echo "camera   ${line#ready: }"
+}
+
+# An event's text in full, unless it is so long that nobody would read on.
+print_events() {
+    local category name text
+    while IFS=$'\t' read -r category name text; do
+        if [[ ${#text} -gt 200 ]]; then
+            text="${text:0:150} ... (${#text} characters, rui-events shows all)"
+        fi
+        printf 'stored   %-13s %-19s %s\n' "$category" "$name" "$text"
+        echo "$category" >>"$printed"
+    done
+}
+
+follow_events() {
+    printed=$1/printed
+    : >"$printed"
+    mkdir -p "$events"
+    "$bin/rui-events" --raw --follow "$events" > >(print_events) 2>/dev/null &
+    follower_pid=$!
+}
+
+# The follower looks for new events now and then: waits until it has seen the last one.
+stop_following() {
+    local stored
+    stored=$(stored_events | wc -l)
+    for _ in $(seq 100); do
+        [[ $(wc -l <"$printed") -ge $stored ]] && break
+        sleep 0.1
+    done
+    kill "$follower_pid" 2>/dev/null || true
+    wait "$follower_pid" 2>/dev/null || true
+    follower_pid=
+}
+
+stored_events() {
+    [[ -e $events/usage-events.sqlite ]] && "$bin/rui-events" --raw "$events" || true
+}
+
+# run_session FOLDER: the viewer with settings and data of its own.
+run_session() {
+    export XDG_CONFIG_HOME=$1/config XDG_DATA_HOME=$1/data XDG_CACHE_HOME=$1/cache
+    "$bin/nerix-viewer" --script "$source_dir/viewer/demo/session.js" | sed -u 's/^/viewer   /'
+}
+
+require_event() {
+    if ! stored_events | grep -qxF "$1"; then
+        printf 'run-demo.sh: this event should be stored and is not: %s\n' "$1" >&2
+        exit 1
+    fi
+}
+
+session_with_consent() {
+    local folder=$demo/with-consent
+    events=$folder/data/Ostrand/nerix-viewer
+    mkdir -p "$folder/config/Ostrand"
+    printf '[UsageTracking]\nOptInEnabled=true\nOptInSelected=true\n' \
+        >"$folder/config/Ostrand/nerix-viewer.ini"
+    follow_events "$folder"
+    run_session "$folder"
+    stop_following
+    require_event $'GeneralEvent\tSessionStarted\t{"EventCategory":"GeneralEvent","EventName":"SessionStarted"}'
+    require_event $'GeneralEvent\tInitialCameraCount\t{"EventCategory":"GeneralEvent","EventName":"InitialCameraCount","InitialCameraCount":1}'
+    require_event $'GeneralEvent\tSessionEnded\t{"EventCategory":"GeneralEvent","EventName":"SessionEnded","FinalCameraCount":1,"TotalUsedCameraCount":1}'
+}
+
+session_without_consent() {
+    local folder=$demo/without-consent
+    events=$folder/data/Ostrand/nerix-viewer
+    mkdir -p "$folder"
+    run_session "$folder" >/dev/null
+    if [[ -n $(ls -A "$events" 2>/dev/null) ]]; then
+        echo "run-demo.sh: without consent there are files in $events" >&2
+        exit 1
+    fi
+    echo "Nothing was sent: no event was stored, and the analytics library has made no file."
+}
+
+echo
+start_simulator
+echo
+echo "A session of a user who has agreed to usage tracking:"
+session_with_consent
+echo
+echo "The same session of a user who was never asked:"
+session_without_consent
+echo
+echo "The events are kept: ${bin#"$PWD"/}/rui-events ${demo#"$PWD"/}/with-consent/data/Ostrand/nerix-viewer"
