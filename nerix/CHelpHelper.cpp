@@ -17,7 +17,9 @@ CHelpHelper::Handler &currentHandler()
 
 bool CHelpHelper::showHelp(HelpType type)
 {
-    return currentHandler() && currentHandler()(type);
+    // A copy, since the function may set another one.
+    const Handler handler = currentHandler();
+    return handler && handler(type);
 }
 
 void CHelpHelper::setHandler(Handler handler)

@@ -26,9 +26,11 @@ DocumentationHelper::Handler &currentHandler()
 bool isAccepted(const QUrl &url)
 {
     const QString scheme = url.scheme();
-    return url.isValid()
-           && (scheme == QLatin1String("https") || scheme == QLatin1String("http")
-               || scheme == QLatin1String("mailto"));
+    if (scheme == QLatin1String("mailto")) {
+        return url.isValid() && !url.path().isEmpty();
+    }
+    return url.isValid() && !url.host().isEmpty()
+           && (scheme == QLatin1String("https") || scheme == QLatin1String("http"));
 }
 
 } // namespace
@@ -41,7 +43,9 @@ bool DocumentationHelper::OpenUrl(const QString &address, bool inViewer)
             << "not opened:" << address << "(only http, https and mailto addresses are)";
         return false;
     }
-    return currentHandler()(url, inViewer);
+    // A copy, since the function may set another one.
+    const Handler handler = currentHandler();
+    return handler(url, inViewer);
 }
 
 void DocumentationHelper::setHandler(Handler handler)

@@ -17,8 +17,8 @@ public:
     using Handler = std::function<bool(const QUrl &url, bool inViewer)>;
 
     /// Opens \a address: in a window of the viewer if \a inViewer is true and the viewer has one
-    /// for it, else in the system's browser. Only http, https and mailto are accepted; anything
-    /// else is logged and refused.
+    /// for it, else in the system's browser. Only http, https and mailto are accepted, the former
+    /// with a server and the latter with a recipient; anything else is logged and refused.
     /// @return whether it was opened.
     static bool OpenUrl(const QString &address, bool inViewer);
 

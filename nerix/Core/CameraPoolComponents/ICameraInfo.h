@@ -17,11 +17,10 @@ namespace CameraPoolComponents {
 /// `identity` and `displayName` look alike for a camera without a user-defined name and must not be
 /// mixed up:
 ///
-/// | camera                                  | identity                  | displayName |
-/// |-----------------------------------------|---------------------------|---------------------------|
-/// | no user-defined name                    | "Ostrand-XQZ-2000-404142" |
-/// "Ostrand-XQZ-2000-404142" | | the user named it "Left of the belt"    |
-/// "Ostrand-XQZ-2000-404142" | "Left of the belt"        |
+/// | camera               | identity                  | displayName               |
+/// |----------------------|---------------------------|---------------------------|
+/// | no user-defined name | "Ostrand-XQZ-2000-404142" | "Ostrand-XQZ-2000-404142" |
+/// | named by its user    | "Ostrand-XQZ-2000-404142" | "Left of the belt"        |
 class NERIXCORE_EXPORT ICameraInfo : public IDeviceBaseInfo
 {
 public:
