@@ -10,13 +10,16 @@
 
 /// An application with names and folders of its own, so that tests neither touch what belongs to a
 /// user nor meet each other.
-#define NERIX_TEST_MAIN(TestClass)                                                                 \
+#define NERIX_TEST_MAIN(TestClass) NERIX_TEST_MAIN_IN(QApplication, TestClass)
+
+/// The same with an \a Application of a class of its own.
+#define NERIX_TEST_MAIN_IN(Application, TestClass)                                                 \
     int main(int argc, char *argv[])                                                               \
     {                                                                                              \
         QTemporaryDir home;                                                                        \
         qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());                                       \
         qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());                                     \
-        QApplication application(argc, argv);                                                      \
+        Application application(argc, argv);                                                       \
         QCoreApplication::setOrganizationName(QStringLiteral("Ostrand"));                          \
         QCoreApplication::setApplicationName(QStringLiteral(#TestClass));                          \
         QSettings::setDefaultFormat(QSettings::IniFormat);                                         \

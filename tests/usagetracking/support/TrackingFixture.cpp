@@ -3,6 +3,7 @@
 
 #include "TrackingFixture.h"
 
+#include <QMetaMethod>
 #include <QMetaObject>
 #include <QStandardPaths>
 
@@ -66,6 +67,21 @@ void TrackingFixture::settle()
 void TrackingFixture::inTrackingThread(const std::function<void()> &work)
 {
     QMetaObject::invokeMethod(provider, work, Qt::BlockingQueuedConnection);
+}
+
+void TrackingFixture::callSlot(const char *slot,
+                               const Core::CameraPoolComponents::DeviceBaseInfoPtr &device)
+{
+    const QMetaObject *meta = provider->metaObject();
+    for (int index = meta->methodOffset(); index < meta->methodCount(); ++index) {
+        const QMetaMethod method = meta->method(index);
+        if (method.name() == slot) {
+            const QGenericArgument argument(method.parameterTypes().at(0).constData(), &device);
+            inTrackingThread([&] { method.invoke(provider, Qt::DirectConnection, argument); });
+            return;
+        }
+    }
+    qFatal("The provider has no slot %s.", slot);
 }
 
 void TrackingFixture::connectCamera(const QSharedPointer<FakeCamera> &camera)

@@ -39,6 +39,10 @@ public:
     /// Runs \a work in the tracking thread and waits for it.
     void inTrackingThread(const std::function<void()> &work);
 
+    /// Calls \a slot of the provider with \a device in the tracking thread. For what no signal can
+    /// bring: a grab of a device that is no camera.
+    void callSlot(const char *slot, const Core::CameraPoolComponents::DeviceBaseInfoPtr &device);
+
     void connectCamera(const QSharedPointer<FakeCamera> &camera);
     void openCamera(const QSharedPointer<FakeCamera> &camera);
 
