@@ -9,8 +9,6 @@
 
 #include <ParameterCollection/IParameterCollection.h>
 
-#include <cmath>
-
 namespace Plugin {
 namespace UsageTracking {
 namespace Internal {
@@ -23,7 +21,7 @@ const QString acquisitionMode = QStringLiteral("@CameraDevice/AcquisitionMode");
 qint64 truncated(double value)
 {
     constexpr double beyondInteger = 9223372036854775808.0; // 2^63
-    return std::abs(value) < beyondInteger ? static_cast<qint64>(value) : 0;
+    return value >= -beyondInteger && value < beyondInteger ? static_cast<qint64>(value) : 0;
 }
 
 QString modeOrUndefined(const ParameterCollection::IParameterCollection &parameters)
@@ -44,12 +42,13 @@ QString modeOrUndefined(const ParameterCollection::IParameterCollection &paramet
 QJsonObject CUsageTrackingProvider::grabRecord(const QString &name, const QString &grabType,
                                                const CameraInfoPtr &camera) const
 {
+    const QString model = modelLabel(camera);
     return {
         {QStringLiteral("EventCategory"), QStringLiteral("Grab")},
         {QStringLiteral("EventName"), name},
         {QStringLiteral("GrabType"), grabType},
         {QStringLiteral("CameraNr"), cameraNumber(*camera)},
-        {QStringLiteral("Model"), modelLabel(camera)},
+        {QStringLiteral("Model"), model},
     };
 }
 
