@@ -56,6 +56,16 @@ TEST_F(Privacy, DirectoryWithOtherFilesIsLeftAsItIs)
     EXPECT_EQ(modeOf(path), 0755U);
 }
 
+TEST_F(Privacy, DatabaseThatOthersMayReadIsClosedToThem)
+{
+    const std::string path = m_directory.path("new");
+    Session().open(path);
+    chmod((path + "/usage-events.sqlite").c_str(), 0644);
+    Session session;
+    EXPECT_EQ(session.open(path), 0);
+    EXPECT_EQ(modeOf(path + "/usage-events.sqlite"), 0600U);
+}
+
 TEST_F(Privacy, EveryFileIsForTheUserAlone)
 {
     const std::string path = m_directory.path("new");

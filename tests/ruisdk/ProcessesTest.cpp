@@ -34,6 +34,22 @@ TEST(Processes, FourWritersThatStartTogetherLoseNothing)
     EXPECT_EQ(queryValue(directory.path(), "PRAGMA integrity_check"), "ok");
 }
 
+// Another process that takes itself for the last one removes the journal, and what is in it.
+TEST(Processes, OpeningAgainKeepsTheLocksOfAnOpenSession)
+{
+    const TemporaryDirectory directory;
+    Session session;
+    ASSERT_EQ(session.open(directory.path()), 0);
+    Session again;
+    ASSERT_EQ(again.open(directory.path()), 0);
+    again.destroy();
+    EXPECT_EQ(session.track("before"), 0);
+    EXPECT_EQ(runProgram({RUI_WRITER_PROGRAM, directory.path(), "w", "1"}).status, 0);
+    EXPECT_TRUE(std::filesystem::exists(databasePath(directory.path()) + "-wal"));
+    EXPECT_EQ(session.track("after"), 0);
+    EXPECT_EQ(storedTexts(directory.path()), (std::vector<std::string>{"before", "w 1", "after"}));
+}
+
 TEST(Processes, OptOutReachesASessionInAnotherProcess)
 {
     const TemporaryDirectory directory;

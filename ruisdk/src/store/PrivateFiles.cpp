@@ -58,11 +58,16 @@ void makePrivateDirectory(const std::string &path)
 
 void makePrivateFile(const std::string &path)
 {
-    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-    if (descriptor < 0) {
+    // Exclusively: an existing database must not even be opened here. Closing any descriptor of a
+    // file drops every POSIX lock that this process holds on it, SQLite's included.
+    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (descriptor >= 0) {
+        close(descriptor);
+    } else if (errno != EEXIST) {
         fail(path, errno);
+    } else if (isOursAndOpen(path)) {
+        chmod(path.c_str(), 0600);
     }
-    close(descriptor);
 }
 
 } // namespace rui

@@ -11,8 +11,8 @@ namespace rui {
 // Throws Failure with RUI_STORAGE.
 void makePrivateDirectory(const std::string &path);
 
-// Creates an empty file with mode 0600 unless it exists. SQLite gives its side files the same
-// mode. Throws Failure with RUI_STORAGE.
+// Creates an empty file with mode 0600; one of ours that exists is closed to others, and not
+// opened. SQLite gives its side files the same mode. Throws Failure with RUI_STORAGE.
 void makePrivateFile(const std::string &path);
 
 } // namespace rui
