@@ -57,5 +57,5 @@ function(nerix_add_test name)
         add_test(NAME ${name} COMMAND ${name})
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=;${arg_ENVIRONMENT}")
+        ENVIRONMENT "QT_QPA_PLATFORM=minimal;QT_LOGGING_RULES=;${arg_ENVIRONMENT}")
 endfunction()
