@@ -1,9 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 
+#include "plugins/camerapool/ICameraControlService.h"
 #include "plugins/cameraselector/CameraSelectorPlugin.h"
 #include "plugins/cameraselector/IDeviceSelectionService.h"
+#include "support/CFakeCameraControl.h"
+#include "support/CMessageCount.h"
 
+#include <CameraPool/ICameraEnumerationService.h>
 #include <Core/Plugin/ServiceLookup.h>
 
 #include <pluginsystem/CServiceRegistry.h>
@@ -16,6 +20,12 @@ using CameraSelector::IDeviceSelectorService;
 using Core::CameraPoolComponents::DeviceBaseInfoPtr;
 using Core::CameraPoolComponents::IDeviceBaseInfo;
 
+// A search that ends when the test says so.
+class CSearch : public CameraPool::ICameraEnumerationService
+{
+    Q_OBJECT
+};
+
 class DeviceSelectionTest : public QObject
 {
     Q_OBJECT
@@ -25,6 +35,9 @@ private Q_SLOTS:
     void testEachChangeIsAnnouncedOnce();
     void testSelectingNothingIsAnnouncedAsNull();
     void testServiceGoesWithThePlugin();
+    void testFirstSearchWithoutACameraSaysWhatToDo();
+    void testLaterSearchesSayNothing();
+    void testSearchThatFindsACameraSaysNothing();
 
 private:
     QSharedPointer<IDeviceSelectionService> start();
@@ -78,6 +91,57 @@ void DeviceSelectionTest::testServiceGoesWithThePlugin()
     QVERIFY(Core::Plugin::findService<IDeviceSelectorService>(&m_registry));
     QVERIFY(m_plugin.uninitialize(&m_registry));
     QVERIFY(!Core::Plugin::findService<IDeviceSelectorService>(&m_registry));
+}
+
+namespace {
+
+constexpr char noCamera[] =
+    "no camera found: plug one in, and check its power and that its address is in a network of "
+    "this computer; the viewer goes on looking";
+
+// The plug-in with a camera pool of the test.
+struct CPluginWithPool
+{
+    CPluginWithPool()
+    {
+        registry.addService(search);
+        registry.addService(control);
+        plugin.preInitialize(&registry);
+        plugin.initialize();
+    }
+
+    QSharedPointer<CSearch> search = QSharedPointer<CSearch>::create();
+    QSharedPointer<CFakeCameraControl> control = QSharedPointer<CFakeCameraControl>::create();
+    PluginSystem::CServiceRegistry registry;
+    CameraSelector::CCameraSelectorPlugin plugin;
+};
+
+} // namespace
+
+void DeviceSelectionTest::testFirstSearchWithoutACameraSaysWhatToDo()
+{
+    const CPluginWithPool pool;
+    QTest::ignoreMessage(QtInfoMsg, noCamera);
+    Q_EMIT pool.search->enumerationChanged();
+}
+
+void DeviceSelectionTest::testLaterSearchesSayNothing()
+{
+    const CPluginWithPool pool;
+    QTest::ignoreMessage(QtInfoMsg, noCamera);
+    Q_EMIT pool.search->enumerationChanged();
+    const CMessageCount messages;
+    Q_EMIT pool.search->enumerationChanged();
+    QCOMPARE(messages.count(), 0);
+}
+
+void DeviceSelectionTest::testSearchThatFindsACameraSaysNothing()
+{
+    const CPluginWithPool pool;
+    pool.control->plugIn("A-1");
+    const CMessageCount messages;
+    Q_EMIT pool.search->enumerationChanged();
+    QCOMPARE(messages.count(), 0);
 }
 
 QTEST_GUILESS_MAIN(DeviceSelectionTest)

@@ -3,6 +3,8 @@
 
 #include "plugins/settings/SettingsPlugin.h"
 
+#include "support/CMessageCount.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -24,6 +26,8 @@ private Q_SLOTS:
     void testFolderIsMadeWhenItIsMissing();
     void testFolderThatCannotBeWrittenIsOneWarning();
     void testDamagedFileIsOneWarning();
+    void testDataFolderThatCannotBeWrittenIsOneWarning();
+    void testDataFolderIsNotMade();
 };
 
 void SettingsPluginTest::testNamesTheOwnerOfTheSettings()
@@ -100,6 +104,32 @@ void SettingsPluginTest::testDamagedFileIsOneWarning()
     QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
     CSettingsPlugin plugin(folder.path());
     QVERIFY(plugin.preInitialize({}));
+}
+
+void SettingsPluginTest::testDataFolderThatCannotBeWrittenIsOneWarning()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.path() + QStringLiteral("/file"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(file.fileName()));
+    const QString warning =
+        QStringLiteral("data folder %1/Ostrand/nerix-viewer cannot be written, so plug-ins keep "
+                       "nothing there: make it writable or set XDG_DATA_HOME to another folder")
+            .arg(file.fileName());
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+    CSettingsPlugin plugin(folder.path());
+    QVERIFY(plugin.preInitialize({}));
+}
+
+void SettingsPluginTest::testDataFolderIsNotMade()
+{
+    const QTemporaryDir folder;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path() + QStringLiteral("/data")));
+    const CMessageCount messages;
+    CSettingsPlugin plugin(folder.path() + QStringLiteral("/settings"));
+    QVERIFY(plugin.preInitialize({}));
+    QCOMPARE(messages.count(), 0);
+    QVERIFY(!QFile::exists(folder.path() + QStringLiteral("/data")));
 }
 
 QTEST_GUILESS_MAIN(SettingsPluginTest)

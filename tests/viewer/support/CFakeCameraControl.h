@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
-
 #pragma once
 
 #include "plugins/camerapool/ICameraControlService.h"

@@ -10,7 +10,8 @@ namespace CameraSelector {
 
 class CDeviceSelectionService;
 
-/// The built-in plug-in "CameraSelector": tells which device is selected.
+/// The built-in plug-in "CameraSelector": tells which device is selected, and what to do if there
+/// is none to select.
 class CCameraSelectorPlugin : public Core::Plugin::IPlugin
 {
     Q_OBJECT
@@ -24,6 +25,10 @@ public:
     bool uninitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
 
 private:
+    void onFirstSearchEnded();
+
+    QPointer<Core::Plugin::IPluginInitializer> m_initializer;
+    QMetaObject::Connection m_firstSearch;
     QSharedPointer<CDeviceSelectionService> m_service;
 };
 

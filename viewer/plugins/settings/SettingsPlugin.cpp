@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSettings>
+#include <QStandardPaths>
 
 namespace Plugin {
 namespace Settings {
@@ -31,6 +32,27 @@ void warnUnlessUsable(const QSettings &settings)
     }
 }
 
+// Nothing is made here: who keeps nothing in the folder must not find one.
+bool canBeWritten(const QString &folder)
+{
+    QFileInfo info(folder);
+    while (!info.exists() && !info.isRoot()) {
+        info.setFile(info.path());
+    }
+    return info.isDir() && info.isWritable();
+}
+
+void warnUnlessDataFolderIsUsable()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    if (!canBeWritten(folder)) {
+        qCWarning(log).noquote().nospace()
+            << "data folder " << QDir::toNativeSeparators(folder)
+            << " cannot be written, so plug-ins keep nothing there: make it writable or set "
+               "XDG_DATA_HOME to another folder";
+    }
+}
+
 } // namespace
 
 CSettingsPlugin::CSettingsPlugin(const QString &folder, QObject *parent)
@@ -50,6 +72,7 @@ bool CSettingsPlugin::preInitialize(const QPointer<Core::Plugin::IPluginInitiali
                            QDir(m_folder).absolutePath());
     }
     warnUnlessUsable(QSettings());
+    warnUnlessDataFolderIsUsable();
     return true;
 }
 
