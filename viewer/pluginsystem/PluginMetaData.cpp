@@ -4,6 +4,7 @@
 #include <pluginsystem/PluginMetaData.h>
 
 #include <QJsonArray>
+#include <QRegularExpression>
 
 namespace PluginSystem {
 
@@ -13,13 +14,14 @@ QVersionNumber readVersion(const QJsonObject &object, const QString &key, const 
                            QStringList &faults)
 {
     const QString text = object.value(key).toString();
-    int suffix = 0;
-    QVersionNumber version = QVersionNumber::fromString(text, &suffix);
-    if (version.isNull() || suffix != text.size()) {
+    // Qt 5.15 declares fromString a pure function in spite of its out parameter, so an optimising
+    // compiler may ignore that it tells where the numbers end.
+    static const QRegularExpression numbersWithDots(QStringLiteral("\\A\\d+(\\.\\d+)*\\z"));
+    if (!numbersWithDots.match(text).hasMatch()) {
         faults += QStringLiteral("%1 has the \"%2\" \"%3\" instead of numbers with dots")
                       .arg(owner, key, text);
     }
-    return version;
+    return QVersionNumber::fromString(text);
 }
 
 QString readName(const QJsonObject &object, const QString &owner, QStringList &faults)
