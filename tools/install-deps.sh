@@ -20,7 +20,7 @@ packages=(
     libsqlite3-dev libcurl4-openssl-dev zlib1g-dev
     # tests and benchmarks: a display without a screen, an isolated network, tools
     libgtest-dev libgmock-dev libbenchmark-dev
-    xvfb xauth iproute2 util-linux procps sqlite3 openssl python3 clang-format
+    xvfb xauth iproute2 util-linux procps sqlite3 openssl strace python3 clang-format
     fonts-dejavu-core fonts-noto-cjk
 )
 

@@ -7,6 +7,8 @@
 
 #include <ruiSDK.h>
 
+#include <filesystem>
+
 namespace {
 
 using namespace rui;
@@ -24,6 +26,8 @@ int32_t withInstance(ruiInstance handle, Call call) noexcept
         return RUI_OK;
     } catch (const Failure &failure) {
         return failure.result();
+    } catch (const std::filesystem::filesystem_error &) {
+        return RUI_STORAGE;
     } catch (...) {
         return RUI_INTERNAL;
     }

@@ -4,7 +4,9 @@
 
 #include "store/SqliteError.h"
 
-#include <algorithm>
+#include <sys/stat.h>
+
+#include <cerrno>
 #include <thread>
 
 namespace rui {
@@ -36,6 +38,7 @@ int waitForLock(void *data, int tries)
 
 Database::Database(const std::string &path, Access access, std::shared_ptr<BusyLimit> busyLimit)
     : m_busyLimit(std::move(busyLimit))
+    , m_path(path)
 {
     const int mode = access == Access::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
     sqlite3 *connection = nullptr;
@@ -46,6 +49,13 @@ Database::Database(const std::string &path, Access access, std::shared_ptr<BusyL
         throw SqliteError(code, path);
     }
     waitForLocks();
+    struct stat status = {};
+    if (stat(path.c_str(), &status) == 0) {
+        m_device = status.st_dev;
+        m_inode = status.st_ino;
+    } else if (path != ":memory:") {
+        throw SqliteError(SQLITE_CANTOPEN, path);
+    }
 }
 
 void Database::waitForLocks() const noexcept
@@ -68,11 +78,14 @@ std::int64_t Database::integer(std::string_view sql) const
     return statement.step() ? statement.integer(0) : 0;
 }
 
+// SQLite can tell, too, but takes every failure to look for a proof.
 bool Database::hasMoved() const
 {
-    int moved = 0;
-    sqlite3_file_control(m_connection.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
-    return moved != 0;
+    struct stat status = {};
+    if (stat(m_path.c_str(), &status) != 0) {
+        return errno == ENOENT || errno == ENOTDIR;
+    }
+    return status.st_dev != m_device || status.st_ino != m_inode;
 }
 
 void Database::watchJournal()

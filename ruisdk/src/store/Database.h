@@ -5,6 +5,7 @@
 #include "store/Statement.h"
 
 #include <sqlite3.h>
+#include <sys/types.h>
 
 #include <atomic>
 #include <chrono>
@@ -48,7 +49,8 @@ public:
     // The first column of the first row; 0 when there is no row.
     std::int64_t integer(std::string_view sql) const;
 
-    // True when the file was removed from its path or another one stands there now.
+    // True when the file was removed from its path or another one stands there now. False also
+    // when that cannot be told.
     bool hasMoved() const;
 
     // Counts the pages in the write-ahead log at every commit from now on.
@@ -76,6 +78,9 @@ private:
     // Stand before the connection, which uses them until it is closed.
     std::shared_ptr<BusyLimit> m_busyLimit;
     std::unique_ptr<int> m_journalPages;
+    std::string m_path;
+    dev_t m_device = 0;
+    ino_t m_inode = 0;
     std::unique_ptr<sqlite3, Closer> m_connection;
 };
 

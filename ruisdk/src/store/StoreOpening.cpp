@@ -5,11 +5,13 @@
 #include "store/FileLock.h"
 #include "store/Losses.h"
 #include "store/PrivateFiles.h"
+#include "store/Readability.h"
 #include "store/Schema.h"
 #include "store/SetAside.h"
 #include "store/SqliteError.h"
 
 #include <filesystem>
+#include <optional>
 
 namespace rui {
 
@@ -51,6 +53,20 @@ Database openChecked(const StorePaths &paths, const OpeningOptions &options,
     return database;
 }
 
+// Nothing when SQLite finds the database damaged.
+std::optional<Database> openUnlessDamaged(const StorePaths &paths, const OpeningOptions &options,
+                                          const std::shared_ptr<BusyLimit> &busyLimit)
+{
+    try {
+        return openChecked(paths, options, busyLimit);
+    } catch (const SqliteError &error) {
+        if (!error.isDamage()) {
+            throw;
+        }
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 Database openStore(const StorePaths &paths, const OpeningOptions &options,
@@ -63,12 +79,16 @@ Database openStore(const StorePaths &paths, const OpeningOptions &options,
     }
     FileLock opening(paths.openingLock());
     opening.lock(busyLimit->limit);
-    try {
-        return openChecked(paths, options, busyLimit);
-    } catch (const SqliteError &error) {
-        if (!error.isDamage()) {
-            throw;
-        }
+    if (auto database = openUnlessDamaged(paths, options, busyLimit)) {
+        return std::move(*database);
+    }
+    // SQLite also calls it corruption when the device fails to give a page. Only what can be read
+    // whole, and is found damaged a second time, is damaged.
+    requireReadable(paths);
+    OpeningOptions thorough = options;
+    thorough.verify = true;
+    if (auto database = openUnlessDamaged(paths, thorough, busyLimit)) {
+        return std::move(*database);
     }
     setAside(paths);
     Database database = openChecked(paths, options, busyLimit);
