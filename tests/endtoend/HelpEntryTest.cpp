@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "CViewerProcess.h"
+
+#include <QTest>
+
+// The entry "Data Privacy" of the Help menu, and the links of the page behind it.
+class HelpEntryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void testEntryStandsInTheSupportGroupOfTheHelpMenu();
+    void testEntryReopensThePage();
+    void testPrivacyStatementIsShown();
+    void testOtherLinksAreWebAddresses();
+    void testAddressThatIsNoWebAddressIsRefused();
+};
+
+void HelpEntryTest::testEntryStandsInTheSupportGroupOfTheHelpMenu()
+{
+    CViewerProcess viewer;
+    QCOMPARE(viewer.run("menu.list().forEach(function (entry) {\n"
+                        "    if (entry.id === 'UsageTracking.DataPrivacy')\n"
+                        "        print(entry.text, entry.menu, entry.group, entry.enabled);\n"
+                        "});"),
+             0);
+    QCOMPARE(viewer.printed(), QStringList({"Data Privacy NerixViewer.Menu.Help "
+                                            "NerixViewer.Group.Help.Support true"}));
+}
+
+void HelpEntryTest::testEntryReopensThePage()
+{
+    CViewerProcess viewer;
+    viewer.storeConsent(true, false);
+    QCOMPARE(viewer.run("print(welcome.close(), welcome.visible());\n"
+                        "menu.trigger('UsageTracking.DataPrivacy');\n"
+                        "print(welcome.visible(), welcome.currentTab());"),
+             0);
+    QCOMPARE(viewer.printed(),
+             QStringList({"true false", "true UsageTracking.NerixWelcome.DataPrivacy"}));
+}
+
+void HelpEntryTest::testPrivacyStatementIsShown()
+{
+    CViewerProcess viewer;
+    QCOMPARE(viewer.run("consent.openLink('DataPrivacy.txt'); print(help.lastShown());"), 0);
+    const QString document = NERIX_BUILD_DIR "/share/doc/nerix-viewer/privacy.md";
+    QCOMPARE(viewer.printed(), QStringList({document}));
+    QCOMPARE(viewer.logged(), QStringList({"help document: " + document}));
+    QFile file(document);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("# Privacy statement"));
+}
+
+void HelpEntryTest::testOtherLinksAreWebAddresses()
+{
+    CViewerProcess viewer;
+    QCOMPARE(viewer.run("consent.openLink('https://ostrand.example/faq');\n"
+                        "print(help.lastShown());"),
+             0);
+    QCOMPARE(viewer.printed(), QStringList({"https://ostrand.example/faq"}));
+}
+
+void HelpEntryTest::testAddressThatIsNoWebAddressIsRefused()
+{
+    CViewerProcess viewer;
+    QCOMPARE(viewer.run("consent.openLink('file:///etc/passwd'); print(help.lastShown());"), 0);
+    QCOMPARE(viewer.printed(), QStringList({""}));
+    QCOMPARE(viewer.logged(), QStringList({"warning: not opened: file:///etc/passwd (only http, "
+                                           "https and mailto addresses are)"}));
+}
+
+QTEST_GUILESS_MAIN(HelpEntryTest)
+
+#include "HelpEntryTest.moc"
