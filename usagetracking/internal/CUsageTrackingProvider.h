@@ -18,6 +18,7 @@
 #include <cstdint>
 #include <list>
 
+#include <QHash>
 #include <QJsonObject>
 #include <QMap>
 #include <QObject>
@@ -134,6 +135,8 @@ private:
     QSharedPointer<CameraPool::ICameraStatusService> m_cameraStatusService;
     QSharedPointer<CameraPool::ICameraEnumerationService> m_enumerationService;
     QSharedPointer<ParameterCollectionPool::IParameterService> m_parameterService;
+    /// The position of each of `m_cameraIdentities`: an opening asks for it once a parameter.
+    QHash<QString, int> m_cameraNumbers;
 };
 
 } // namespace Internal

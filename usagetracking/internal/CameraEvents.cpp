@@ -11,14 +11,21 @@ namespace Plugin {
 namespace UsageTracking {
 namespace Internal {
 
+namespace {
+
+constexpr int unknownCamera = -1;
+
+} // namespace
+
 int CUsageTrackingProvider::cameraNumber(const ICameraInfo &camera) const
 {
-    return m_cameraIdentities.indexOf(camera.identity());
+    return m_cameraNumbers.value(camera.identity(), unknownCamera);
 }
 
 void CUsageTrackingProvider::rememberIdentity(const QString &identity)
 {
-    if (!m_cameraIdentities.contains(identity)) {
+    if (!m_cameraNumbers.contains(identity)) {
+        m_cameraNumbers.insert(identity, m_cameraIdentities.size());
         m_cameraIdentities.append(identity);
     }
 }

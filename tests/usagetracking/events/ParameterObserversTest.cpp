@@ -136,6 +136,23 @@ private Q_SLOTS:
         QCOMPARE(observers(f, stream), 1);
     }
 
+    void eachParameterHasAnObserverOfItsOwn()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        const auto camera = f.host.makeCamera("A");
+        const auto first = add(f, camera, "@CameraDevice/First");
+        const auto second = add(f, camera, "@CameraDevice/Second");
+        f.openCamera(camera);
+        const QStringList calls = f.callsFor([&] {
+            second->setValueText("1");
+            first->setValueText("2");
+        });
+        QCOMPARE(calls.size(), 2);
+        QVERIFY(calls.at(0).startsWith("ruiTrackEventText(#1 | ParameterValueChanged | Second | "));
+        QVERIFY(calls.at(1).startsWith("ruiTrackEventText(#1 | ParameterValueChanged | First | "));
+    }
+
     void changesBeforeTheOpeningAreNotSeen()
     {
         TrackingFixture f;
