@@ -34,6 +34,8 @@ Q_SIGNALS:
 
     void cameraGrabStarted(QSharedPointer<Core::CameraPoolComponents::ICameraInfo> ptrCameraInfo);
 
+    /// The grab is over, because it was stopped, had its image, or the camera is gone. The figures
+    /// of the stream can be read already.
     void cameraGrabStopped(QSharedPointer<Core::CameraPoolComponents::ICameraInfo> ptrCameraInfo);
 
     /// An image arrived, or failed to: `grabResult` says which.
@@ -42,7 +44,8 @@ Q_SIGNALS:
 
     /// The figures of the status bar, once a second during a grab and once at its end.
     /// \a imagesGrabbedCount and \a imagesFailedCount count from the start of the grab; \a fps is
-    /// in images per second, \a bps in bytes per second.
+    /// in images per second, \a bps in bytes per second, both over the last second and at the end
+    /// over the whole grab.
     void
     cameraStatisticUpdated(QSharedPointer<Core::CameraPoolComponents::ICameraInfo> ptrCameraInfo,
                            int imagesGrabbedCount, int imagesFailedCount, double fps, quint64 bps,

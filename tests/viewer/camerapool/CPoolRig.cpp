@@ -51,7 +51,49 @@ CPoolRig::CPoolRig(CPoolTiming timing)
                 m_lastFailure = message;
                 note("openFailed", camera);
             });
+    listenToGrabs();
     m_pool->start();
+}
+
+void CPoolRig::listenToGrabs()
+{
+    const auto status = m_pool->status();
+    const auto serial = [](const CameraInfoPtr &camera) {
+        return camera->identity().section(u'-', -1);
+    };
+    connect(status.get(), &CCameraStatus::cameraGrabStarted, this,
+            [this](const CameraInfoPtr &camera) { note("grabStarted", camera); });
+    connect(status.get(), &CCameraStatus::cameraGrabStopped, this,
+            [this](const CameraInfoPtr &camera) { note("grabStopped", camera); });
+    connect(m_pool->control().get(), &CCameraControl::grabFailed, this,
+            [this](const CameraInfoPtr &camera, const QString &message) {
+                m_lastFailure = message;
+                note("grabFailed", camera);
+            });
+    connect(status.get(), &CCameraStatus::cameraImageGrabbed, this,
+            [=](const CameraInfoPtr &camera, const Nerix::CGrabResultPtr &result) {
+                Grabbed &grabbed = m_grabbed[serial(camera)];
+                (result->GrabSucceeded() ? grabbed.images : grabbed.failures).append(result);
+            });
+    connect(status.get(), &CCameraStatus::cameraStatisticUpdated, this,
+            [=](const CameraInfoPtr &camera, int images, int failed, double fps, quint64 bps) {
+                Grabbed &grabbed = m_grabbed[serial(camera)];
+                ++grabbed.figureCount;
+                grabbed.imagesGrabbed = images;
+                grabbed.imagesFailed = failed;
+                grabbed.fps = fps;
+                grabbed.bps = bps;
+            });
+}
+
+bool CPoolRig::waitForImages(const QString &serial, int count)
+{
+    return QTest::qWaitFor([&] { return m_grabbed[serial].images.size() >= count; }, LimitMs);
+}
+
+bool CPoolRig::waitForFailures(const QString &serial, int count)
+{
+    return QTest::qWaitFor([&] { return m_grabbed[serial].failures.size() >= count; }, LimitMs);
 }
 
 CPoolRig::~CPoolRig()

@@ -5,7 +5,10 @@
 #include "plugins/camerapool/CCameraPool.h"
 
 #include <Core/CameraPoolComponents/ICameraInfo.h>
+#include <Nerix/CGrabResultData.h>
 
+#include <QHash>
+#include <QList>
 #include <QObject>
 #include <QStringList>
 
@@ -36,6 +39,30 @@ public:
     {
         m_log.clear();
     }
+
+    // What the grabs told beside the log, which holds "grabStarted", "grabStopped" and
+    // "grabFailed".
+    struct Grabbed
+    {
+        QList<Nerix::CGrabResultPtr> images;
+        QList<Nerix::CGrabResultPtr> failures;
+        int figureCount = 0; // how often the figures were told, and the last ones
+        int imagesGrabbed = 0;
+        int imagesFailed = 0;
+        double fps = 0.0;
+        quint64 bps = 0;
+    };
+    const Grabbed &grabbed(const QString &serial)
+    {
+        return m_grabbed[serial];
+    }
+    void clearGrabbed()
+    {
+        m_grabbed.clear();
+    }
+    bool waitForImages(const QString &serial, int count);
+    bool waitForFailures(const QString &serial, int count);
+
     QString lastFailure() const
     {
         return m_lastFailure;
@@ -53,9 +80,11 @@ public:
     CameraInfoPtr camera(const QString &serial) const;
 
 private:
+    void listenToGrabs();
     void note(const char *signal, const CameraInfoPtr &camera);
 
     std::unique_ptr<CameraPool::CCameraPool> m_pool;
     QStringList m_log;
+    QHash<QString, Grabbed> m_grabbed;
     QString m_lastFailure;
 };

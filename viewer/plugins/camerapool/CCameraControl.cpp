@@ -44,6 +44,21 @@ void CCameraControl::close(const CameraInfoPtr &camera)
     post([camera](CPoolWorker *worker) { worker->close(camera); });
 }
 
+void CCameraControl::grabSingle(const CameraInfoPtr &camera)
+{
+    post([camera](CPoolWorker *worker) { worker->startGrab(camera, GrabSingle); });
+}
+
+void CCameraControl::grabContinuous(const CameraInfoPtr &camera)
+{
+    post([camera](CPoolWorker *worker) { worker->startGrab(camera, GrabContinuous); });
+}
+
+void CCameraControl::stopGrab(const CameraInfoPtr &camera)
+{
+    post([camera](CPoolWorker *worker) { worker->stopGrab(camera); });
+}
+
 void CCameraControl::closeAll()
 {
     post([](CPoolWorker *worker) { worker->closeAll(); });
@@ -55,6 +70,15 @@ void CCameraControl::publish(const QList<CameraInfoPtr> &cameras,
     const QMutexLocker lock(&m_mutex);
     m_cameras = cameras;
     m_states = states;
+}
+
+void CCameraControl::noteGrabEnd(const QString &identity)
+{
+    const QMutexLocker lock(&m_mutex);
+    const auto state = m_states.find(identity);
+    if (state != m_states.end() && *state == Grabbing) {
+        *state = Open;
+    }
 }
 
 template <class Request>

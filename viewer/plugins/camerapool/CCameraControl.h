@@ -28,11 +28,17 @@ public:
     CameraState state(const Core::CameraPoolComponents::CameraInfoPtr &camera) const override;
     void open(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
     void close(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
+    void grabSingle(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
+    void grabContinuous(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
+    void stopGrab(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
     void closeAll() override;
 
     /// Takes over what the worker knows. A camera that is not in \a states is gone.
     void publish(const QList<Core::CameraPoolComponents::CameraInfoPtr> &cameras,
                  const QHash<QString, CameraState> &states);
+
+    /// Notes that a camera does not grab any more, before that is told. Callable in any thread.
+    void noteGrabEnd(const QString &identity);
 
 private:
     template <class Request>

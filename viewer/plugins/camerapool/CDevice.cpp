@@ -68,10 +68,22 @@ void CDevice::waitFor(const std::function<bool(std::chrono::milliseconds)> &isDo
     } while (!isDone(LookInterval));
 }
 
+void CDevice::keepUntilClosed(std::shared_ptr<void> object)
+{
+    const std::lock_guard<std::mutex> lock(m_keptMutex);
+    m_kept.push_back(std::move(object));
+}
+
 void CDevice::close()
 {
     m_isOpen = false;
     m_thread.stop();
+    std::vector<std::shared_ptr<void>> kept;
+    {
+        const std::lock_guard<std::mutex> lock(m_keptMutex);
+        kept.swap(m_kept);
+    }
+    kept.clear();
     GObjectPtr<ArvDevice> device;
     {
         const std::lock_guard<std::recursive_timed_mutex> lock(m_lock);

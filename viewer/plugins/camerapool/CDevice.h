@@ -11,7 +11,9 @@
 #include <atomic>
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <mutex>
+#include <vector>
 
 #include <QString>
 
@@ -71,6 +73,9 @@ public:
     template <class Work>
     auto call(Work work);
 
+    /// Keeps something alive that uses the connection, until that is given back.
+    void keepUntilClosed(std::shared_ptr<void> object);
+
     /// Ends all access and gives the connection back. Waits for an access that is under way, and,
     /// if the device does not answer, for some seconds.
     void close();
@@ -96,6 +101,8 @@ private:
     std::atomic<bool> m_isLost{false};
     std::recursive_timed_mutex m_lock;
     GObjectPtr<ArvDevice> m_device; // guarded by m_lock; null once closed
+    std::mutex m_keptMutex;
+    std::vector<std::shared_ptr<void>> m_kept; // guarded by m_keptMutex
     mutable std::mutex m_countersMutex;
     CStreamCounters m_counters; // guarded by m_countersMutex
     CTaskThread m_thread;       // last, so that it ends first

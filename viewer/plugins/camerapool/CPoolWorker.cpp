@@ -139,6 +139,59 @@ void CPoolWorker::close(const CameraInfoPtr &camera)
     }
 }
 
+void CPoolWorker::startGrab(const CameraInfoPtr &camera, GrabMode mode)
+{
+    const auto device = camera ? m_open.value(camera->identity()) : nullptr;
+    if (!device) {
+        const QString name = camera ? camera->displayName() : QStringLiteral("no camera");
+        return failGrab(camera, QStringLiteral("%1 is not open: open it, then grab").arg(name));
+    }
+    const QString identity = camera->identity();
+    if (m_grabs.contains(identity) && !m_grabs.value(identity)->hasEnded()) {
+        return failGrab(camera, QStringLiteral("%1 is grabbing: stop that grab, then start another")
+                                    .arg(camera->displayName()));
+    }
+    m_grabs.remove(identity); // waits until the earlier one has told its end
+    CGrab::Listeners listeners;
+    listeners.status = m_outlets.status;
+    listeners.onStopping = [control = m_outlets.control, identity] {
+        control->noteGrabEnd(identity);
+    };
+    listeners.onEnded = [this, camera = device->info()](const QString &reason) {
+        QMetaObject::invokeMethod(
+            this, [=] { onGrabEnded(camera, reason); }, Qt::QueuedConnection);
+    };
+    m_grabs.insert(identity, QSharedPointer<CGrab>::create(device, mode, listeners));
+    publish();
+}
+
+void CPoolWorker::stopGrab(const CameraInfoPtr &camera)
+{
+    const auto grab = camera ? m_grabs.value(camera->identity()) : nullptr;
+    if (grab) {
+        grab->stop();
+    }
+}
+
+// A new grab may have taken the place of the one that ended.
+void CPoolWorker::onGrabEnded(const CameraInfoPtr &camera, const QString &reason)
+{
+    const auto grab = m_grabs.value(camera->identity());
+    if (grab && grab->hasEnded()) {
+        m_grabs.remove(camera->identity());
+        publish();
+    }
+    if (!reason.isEmpty()) {
+        failGrab(camera, reason);
+    }
+}
+
+void CPoolWorker::failGrab(const CameraInfoPtr &camera, const QString &message)
+{
+    qCWarning(lcCameraPool, "%s", qUtf8Printable(message));
+    Q_EMIT m_outlets.control->grabFailed(camera, message);
+}
+
 void CPoolWorker::closeAll()
 {
     m_isEnding = true;
@@ -179,6 +232,7 @@ void CPoolWorker::shut(const QString &identity)
     if (!device) {
         return;
     }
+    m_grabs.remove(identity); // waits for its end
     Q_EMIT m_outlets.status->deviceClosing(device->info());
     m_releaser.release(device);
     m_open.remove(identity);
@@ -196,7 +250,9 @@ void CPoolWorker::publish()
                                                        : ICameraControlService::Free);
     }
     for (const QString &identity : m_open.keys()) {
-        states.insert(identity, ICameraControlService::Open);
+        const auto grab = m_grabs.value(identity);
+        states.insert(identity, grab && !grab->hasEnded() ? ICameraControlService::Grabbing
+                                                          : ICameraControlService::Open);
     }
     m_outlets.control->publish(m_table.cameras(), states);
 }

@@ -4,6 +4,7 @@
 
 #include "CCameraTable.h"
 #include "CDeviceReleaser.h"
+#include "CGrab.h"
 #include "CPoolTiming.h"
 #include "ICameraControlService.h"
 #include "ICameraSearch.h"
@@ -53,6 +54,8 @@ public:
 
     void open(const CameraInfoPtr &camera);
     void close(const CameraInfoPtr &camera);
+    void startGrab(const CameraInfoPtr &camera, GrabMode mode);
+    void stopGrab(const CameraInfoPtr &camera);
     void closeAll();
 
 private:
@@ -62,6 +65,8 @@ private:
     void connectDevice(const CFoundCamera &found, const CameraInfoPtr &camera);
     void fail(const CameraInfoPtr &camera, const QString &message);
     void onDeviceLost(const QString &identity, quint64 session);
+    void onGrabEnded(const CameraInfoPtr &camera, const QString &reason);
+    void failGrab(const CameraInfoPtr &camera, const QString &message);
     void onDeviceReleased(const QString &identity);
     void shut(const QString &identity);
     void publish();
@@ -74,7 +79,8 @@ private:
     QMap<QString, QSharedPointer<CDevice>> m_open; // by identity
     QHash<QString, quint64> m_sessions;            // by identity: which opening it is
     quint64 m_lastSession = 0;
-    QHash<QString, CameraInfoPtr> m_waiting; // to be opened when their last device is released
+    QMap<QString, QSharedPointer<CGrab>> m_grabs; // by identity; some may have ended
+    QHash<QString, CameraInfoPtr> m_waiting;      // to be opened when their last device is released
     CDeviceReleaser m_releaser;
     QSet<QString> m_reported; // identities at the last enumerationChanged
     bool m_hasReported = false;

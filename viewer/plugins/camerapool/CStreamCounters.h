@@ -33,6 +33,11 @@ public:
         return m_values.at(std::size_t(index));
     }
 
+    bool operator==(const CStreamCounters &other) const
+    {
+        return m_values == other.m_values;
+    }
+
 private:
     std::array<std::optional<qint64>, Count> m_values;
 };

@@ -42,12 +42,25 @@ public:
     /// open.
     virtual void close(const Core::CameraPoolComponents::CameraInfoPtr &camera) = 0;
 
+    /// Grabs one image with \a camera, or grabs until `stopGrab`. Ends with
+    /// `ICameraStatusService::cameraGrabStarted` or with `grabFailed`. The camera must be open and
+    /// not grabbing; a single grab stops by itself, also when no image arrives in time.
+    virtual void grabSingle(const Core::CameraPoolComponents::CameraInfoPtr &camera) = 0;
+    virtual void grabContinuous(const Core::CameraPoolComponents::CameraInfoPtr &camera) = 0;
+
+    /// Ends the grab of \a camera. `ICameraStatusService::cameraGrabStopped` comes if it grabs;
+    /// else nothing happens.
+    virtual void stopGrab(const Core::CameraPoolComponents::CameraInfoPtr &camera) = 0;
+
     /// Stops the search for cameras, closes every camera, and emits `allClosed`.
     virtual void closeAll() = 0;
 
 Q_SIGNALS:
     /// \a message is one line that names the camera and the remedy.
     void openFailed(Core::CameraPoolComponents::CameraInfoPtr camera, const QString &message);
+
+    /// A grab could not be started. \a message is one line that names the camera and the remedy.
+    void grabFailed(Core::CameraPoolComponents::CameraInfoPtr camera, const QString &message);
 
     /// \a camera is closed; `deviceClosing` came before if it was open.
     void closed(Core::CameraPoolComponents::CameraInfoPtr camera);
