@@ -47,7 +47,7 @@ class CLanguageChanges : public QObject
 public:
     CLanguageChanges()
     {
-        qApp->installEventFilter(this);
+        QCoreApplication::instance()->installEventFilter(this);
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override

@@ -68,7 +68,10 @@ QStringList RecordingAnalytics::takeCallsIn(const QThread *thread)
 QList<RecordedCall> RecordingAnalytics::recorded() const
 {
     const QMutexLocker lock(&m_mutex);
-    return m_calls;
+    // Not shared with the list that grows: the caller would let go of it without the lock.
+    QList<RecordedCall> calls = m_calls;
+    calls.detach();
+    return calls;
 }
 
 QStringList RecordingAnalytics::takeCalls()
