@@ -17,13 +17,19 @@ namespace rui {
 
 namespace {
 
+#ifdef RUI_SYNC_EVERY_COMMIT
+constexpr bool syncByBuild = true;
+#else
+constexpr bool syncByBuild = false;
+#endif
+
 // Callers never checkpoint: a checkpoint takes ten times as long as storing an event, and the
 // worker does it. The page size stays at SQLite's default.
 void configure(Database &database, const OpeningOptions &options)
 {
     database.execute("PRAGMA journal_mode = WAL");
-    database.execute(options.syncEveryCommit ? "PRAGMA synchronous = FULL"
-                                             : "PRAGMA synchronous = NORMAL");
+    database.execute(options.syncEveryCommit || syncByBuild ? "PRAGMA synchronous = FULL"
+                                                            : "PRAGMA synchronous = NORMAL");
     database.execute("PRAGMA wal_autocheckpoint = 0");
     database.watchJournal();
 }
