@@ -37,6 +37,8 @@ trap cleanup EXIT
 start_simulator() {
     coproc SIMULATOR { exec "$bin/nerix-camera-simulator"; }
     simulator_pid=$SIMULATOR_PID
+    # A copy, since a pipeline's shell does not get the original.
+    exec {to_simulator}>&"${SIMULATOR[1]}"
     local line
     if ! read -r line <&"${SIMULATOR[0]}"; then
         echo "run-demo.sh: the simulated camera did not start" >&2
@@ -52,7 +54,7 @@ print_events() {
         if [[ ${#text} -gt 200 ]]; then
             text="${text:0:150} ... (${#text} characters, rui-events shows all)"
         fi
-        printf 'stored   %-13s %-19s %s\n' "$category" "$name" "$text"
+        printf 'stored   %-21s %-18s %s\n' "$category" "$name" "$text"
         echo "$category" >>"$printed"
     done
 }
@@ -85,12 +87,32 @@ stored_events() {
 # run_session FOLDER: the viewer with settings and data of its own.
 run_session() {
     export XDG_CONFIG_HOME=$1/config XDG_DATA_HOME=$1/data XDG_CACHE_HOME=$1/cache
-    "$bin/nerix-viewer" --script "$source_dir/viewer/demo/session.js" | sed -u 's/^/viewer   /'
+    "$bin/nerix-viewer" --script "$source_dir/viewer/demo/session.js" | tell_and_obey
+}
+
+# Shows what the script prints, and passes on what it wants of the simulated camera.
+tell_and_obey() {
+    local line
+    while IFS= read -r line; do
+        if [[ $line == "simulator: "* ]]; then
+            echo "${line#simulator: }" >&"$to_simulator"
+        else
+            echo "viewer   $line"
+        fi
+    done
 }
 
 require_event() {
     if ! stored_events | grep -qxF "$1"; then
         printf 'run-demo.sh: this event should be stored and is not: %s\n' "$1" >&2
+        exit 1
+    fi
+}
+
+# Some event of the category $1 and the name $2, whatever its text.
+require_kind() {
+    if ! stored_events | grep -q "^$1"$'\t'"$2"; then
+        printf 'run-demo.sh: an event should be stored and is not: %s %s\n' "$1" "$2" >&2
         exit 1
     fi
 }
@@ -106,7 +128,17 @@ session_with_consent() {
     stop_following
     require_event $'GeneralEvent\tSessionStarted\t{"EventCategory":"GeneralEvent","EventName":"SessionStarted"}'
     require_event $'GeneralEvent\tInitialCameraCount\t{"EventCategory":"GeneralEvent","EventName":"InitialCameraCount","InitialCameraCount":1}'
-    require_event $'GeneralEvent\tSessionEnded\t{"EventCategory":"GeneralEvent","EventName":"SessionEnded","FinalCameraCount":1,"TotalUsedCameraCount":1}'
+    require_event $'Model\tOstrand ***-2000\t'
+    require_event $'Camera\tConnected\t{"CameraNr":0,"EventCategory":"Camera","EventName":"Connected","Model":"Ostrand ***-2000"}'
+    require_kind Camera Opened
+    require_event $'FeatureChosen\tExposureTime\t{"EventCategory":"FeatureChosen","EventName":"ExposureTime"}'
+    require_event $'ParameterValueChanged\tExposureTime\t{"CameraNr":0,"EventCategory":"ParameterValueChanged","EventName":"ExposureTime","InitialValue":"5000","ParameterName":"ExposureTime","ParameterValue":"8000"}'
+    require_event $'Grab\tStarted\t{"CameraNr":0,"EventCategory":"Grab","EventName":"Started","GrabType":"Continuous","Model":"Ostrand ***-2000"}'
+    require_kind Grab Stopped
+    require_kind Grab Failed
+    require_kind Camera Closed
+    require_event $'Camera\tRemoved\t{"CameraNr":0,"EventCategory":"Camera","EventName":"Removed","Model":"Ostrand ***-2000"}'
+    require_event $'GeneralEvent\tSessionEnded\t{"EventCategory":"GeneralEvent","EventName":"SessionEnded","FinalCameraCount":0,"TotalUsedCameraCount":1}'
 }
 
 session_without_consent() {

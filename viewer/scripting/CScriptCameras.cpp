@@ -5,7 +5,6 @@
 
 #include "plugins/cameraselector/IDeviceSelectionService.h"
 #include "scripting/CCameraJournal.h"
-#include "scripting/CScriptWait.h"
 
 #include <CameraPool/ICameraStatusService.h>
 
@@ -25,21 +24,6 @@ CameraInfoPtr firstMatch(const QList<CameraInfoPtr> &cameras, const QString &pat
     return found == cameras.end() ? CameraInfoPtr() : *found;
 }
 
-CameraInfoPtr named(const QList<CameraInfoPtr> &cameras, const QString &name)
-{
-    for (const CameraInfoPtr &camera : cameras) {
-        if (camera->identity() == name) {
-            return camera;
-        }
-    }
-    for (const CameraInfoPtr &camera : cameras) {
-        if (camera->displayName() == name) {
-            return camera;
-        }
-    }
-    return {};
-}
-
 bool isOpen(const ICameraControlService &control, const CameraInfoPtr &camera)
 {
     const auto state = control.state(camera);
@@ -50,8 +34,7 @@ bool isOpen(const ICameraControlService &control, const CameraInfoPtr &camera)
 
 CScriptCameras::CScriptCameras(const Core::Plugin::IPluginInitializer &services, CScriptWait &wait,
                                QObject *parent)
-    : CScriptObject(services, parent)
-    , m_wait(wait)
+    : CScriptCameraObject(services, wait, parent)
     , m_journal(new CCameraJournal(this))
 {
     if (const auto status =
@@ -160,25 +143,6 @@ QVariantList CScriptCameras::takeEvents()
     return m_journal->take();
 }
 
-QSharedPointer<ICameraControlService> CScriptCameras::control() const
-{
-    return service<ICameraControlService>("CameraPool");
-}
-
-CameraInfoPtr CScriptCameras::find(const QJSValue &camera) const
-{
-    const auto pool = control();
-    if (!pool) {
-        return {};
-    }
-    const QString name = cameraName(camera);
-    const CameraInfoPtr found = named(pool->cameras(), name);
-    if (!found) {
-        fail(QStringLiteral("there is no camera \"%1\" (%2)").arg(name, namesOf(pool->cameras())));
-    }
-    return found;
-}
-
 QVariant CScriptCameras::waitForCount(int count, int timeoutMs)
 {
     if (const auto pool = control()) {
@@ -199,19 +163,6 @@ QVariant CScriptCameras::waitForMatch(const QString &pattern, int timeoutMs)
     waitUntil([&] { return (camera = firstMatch(pool->cameras(), pattern)) != nullptr; }, timeoutMs,
               QStringLiteral("there is no camera \"%1\"").arg(pattern));
     return camera ? describeCamera(camera, *pool) : QVariant();
-}
-
-// A wait that was stopped needs no exception: the script is being ended.
-bool CScriptCameras::waitUntil(const std::function<bool()> &condition, int timeoutMs,
-                               const QString &what)
-{
-    const auto result = m_wait.until(condition, std::chrono::milliseconds(timeoutMs));
-    if (result == CScriptWait::Result::TimedOut) {
-        const auto pool = control();
-        fail(QStringLiteral("%1 after %2 ms (%3)")
-                 .arg(what, QString::number(timeoutMs), namesOf(pool->cameras())));
-    }
-    return result == CScriptWait::Result::Met;
 }
 
 } // namespace Scripting

@@ -2,10 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "scripting/CameraDescription.h"
-#include "scripting/CScriptObject.h"
-
-#include <functional>
+#include "scripting/CScriptCameraObject.h"
 
 #include <QJSValue>
 #include <QVariant>
@@ -13,11 +10,9 @@
 namespace Scripting {
 
 class CCameraJournal;
-class CScriptWait;
 
-/// `cameras`: the cameras as the windows drive them. A camera is meant by its identity, its display
-/// name, or an object that `list` gave. GUI thread.
-class CScriptCameras : public CScriptObject
+/// `cameras`: the cameras as the windows drive them. GUI thread.
+class CScriptCameras : public CScriptCameraObject
 {
     Q_OBJECT
 
@@ -53,13 +48,9 @@ public:
     Q_INVOKABLE QVariantList takeEvents();
 
 private:
-    QSharedPointer<CameraPool::ICameraControlService> control() const;
-    CameraInfoPtr find(const QJSValue &camera) const;
     QVariant waitForCount(int count, int timeoutMs);
     QVariant waitForMatch(const QString &pattern, int timeoutMs);
-    bool waitUntil(const std::function<bool()> &condition, int timeoutMs, const QString &what);
 
-    CScriptWait &m_wait;
     CCameraJournal *m_journal;
 };
 

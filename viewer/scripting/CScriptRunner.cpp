@@ -5,6 +5,8 @@
 
 #include "scripting/CScriptCameras.h"
 #include "scripting/CScriptConsent.h"
+#include "scripting/CScriptFeatures.h"
+#include "scripting/CScriptGrab.h"
 #include "scripting/CScriptHelp.h"
 #include "scripting/CScriptHost.h"
 #include "scripting/CScriptLanguage.h"
@@ -95,6 +97,8 @@ void CScriptRunner::addObjects()
     addObject("__nerix", host);
     addObject("cameras", new CScriptCameras(services, m_wait, this));
     addObject("consent", new CScriptConsent(services, this));
+    addObject("features", new CScriptFeatures(services, m_wait, this));
+    addObject("grab", new CScriptGrab(services, m_wait, this));
     addObject("help", new CScriptHelp(services, this));
     addObject("language", new CScriptLanguage(services, this));
     addObject("menu", new CScriptMenu(services, this));

@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "scripting/CScriptGrab.h"
+
+#include <CameraPool/ICameraStatusService.h>
+
+namespace Scripting {
+
+using CameraPool::ICameraControlService;
+using CameraPool::ICameraStatusService;
+
+CScriptGrab::CScriptGrab(const Core::Plugin::IPluginInitializer &services, CScriptWait &wait,
+                         QObject *parent)
+    : CScriptCameraObject(services, wait, parent)
+{
+    if (const auto status = Core::Plugin::findService<ICameraStatusService>(&services)) {
+        listenTo(*status);
+    }
+    if (const auto pool = Core::Plugin::findService<ICameraControlService>(&services)) {
+        listenTo(*pool);
+    }
+}
+
+CScriptGrab::~CScriptGrab() = default;
+
+void CScriptGrab::single(const QJSValue &camera, int timeoutMs)
+{
+    request(&ICameraControlService::grabSingle, &Grab::stops, camera, timeoutMs,
+            QStringLiteral("has not grabbed its image"));
+}
+
+void CScriptGrab::start(const QJSValue &camera, int timeoutMs)
+{
+    request(&ICameraControlService::grabContinuous, &Grab::starts, camera, timeoutMs,
+            QStringLiteral("has not begun to grab"));
+}
+
+void CScriptGrab::stop(const QJSValue &camera, int timeoutMs)
+{
+    const CameraInfoPtr found = find(camera);
+    if (!found) {
+        return;
+    }
+    const Grab &grab = m_grabs[found->identity()];
+    if (grab.starts == grab.stops) {
+        fail(QStringLiteral("camera \"%1\" does not grab").arg(found->identity()));
+        return;
+    }
+    request(&ICameraControlService::stopGrab, &Grab::stops, camera, timeoutMs,
+            QStringLiteral("has not stopped its grab"));
+}
+
+void CScriptGrab::waitFor(const QJSValue &camera, int images, int timeoutMs)
+{
+    const CameraInfoPtr found = find(camera);
+    if (!found) {
+        return;
+    }
+    const Grab &grab = m_grabs[found->identity()];
+    waitUntil([&] { return grab.images + grab.failures >= images; }, timeoutMs,
+              QStringLiteral("camera \"%1\" has not grabbed %2 images")
+                  .arg(found->identity(), QString::number(images)));
+}
+
+QVariantMap CScriptGrab::figures(const QJSValue &camera)
+{
+    const CameraInfoPtr found = find(camera);
+    if (!found) {
+        return {};
+    }
+    const Grab grab = m_grabs.value(found->identity());
+    QVariantMap all = grab.statusBar;
+    all.insert(QStringLiteral("isGrabbing"), grab.starts != grab.stops);
+    all.insert(QStringLiteral("images"), grab.images);
+    all.insert(QStringLiteral("failures"), grab.failures);
+    all.insert(QStringLiteral("lastFailure"), grab.lastFailure);
+    return all;
+}
+
+void CScriptGrab::listenTo(const ICameraStatusService &status)
+{
+    connect(&status, &ICameraStatusService::cameraGrabStarted, this,
+            [this](const CameraInfoPtr &camera) {
+                Grab &grab = m_grabs[camera->identity()];
+                grab.images = 0;
+                grab.failures = 0;
+                ++grab.starts;
+            });
+    connect(&status, &ICameraStatusService::cameraGrabStopped, this,
+            [this](const CameraInfoPtr &camera) { ++m_grabs[camera->identity()].stops; });
+    connect(&status, &ICameraStatusService::cameraImageGrabbed, this,
+            [this](const CameraInfoPtr &camera, const Nerix::CGrabResultPtr &result) {
+                noteImage(m_grabs[camera->identity()], *result);
+            });
+    connect(&status, &ICameraStatusService::cameraStatisticUpdated, this,
+            [this](const CameraInfoPtr &camera, int grabbed, int failed, double fps, quint64 bps) {
+                m_grabs[camera->identity()].statusBar = {
+                    {QStringLiteral("imagesGrabbedCount"), grabbed},
+                    {QStringLiteral("imagesFailedCount"), failed},
+                    {QStringLiteral("fps"), fps},
+                    {QStringLiteral("bps"), static_cast<double>(bps)},
+                };
+            });
+}
+
+void CScriptGrab::listenTo(const ICameraControlService &pool)
+{
+    connect(&pool, &ICameraControlService::grabFailed, this,
+            [this](const CameraInfoPtr &camera, const QString &message) {
+                m_grabs[camera->identity()].refusal = message;
+            });
+}
+
+void CScriptGrab::noteImage(Grab &grab, const Nerix::CGrabResultData &result)
+{
+    if (result.GrabSucceeded()) {
+        ++grab.images;
+    } else {
+        ++grab.failures;
+        grab.lastFailure = QString::fromUtf8(result.GetErrorDescription().c_str());
+    }
+}
+
+void CScriptGrab::request(Request operation, int Grab::*count, const QJSValue &camera,
+                          int timeoutMs, const QString &what)
+{
+    const auto pool = control();
+    const CameraInfoPtr found = pool ? find(camera) : nullptr;
+    if (!found) {
+        return;
+    }
+    Grab &grab = m_grabs[found->identity()];
+    grab.refusal.clear();
+    const int before = grab.*count;
+    (pool.data()->*operation)(found);
+    waitUntil([&] { return grab.*count > before || !grab.refusal.isEmpty(); }, timeoutMs,
+              QStringLiteral("camera \"%1\" %2").arg(found->identity(), what));
+    if (!grab.refusal.isEmpty()) {
+        fail(grab.refusal);
+    }
+}
+
+} // namespace Scripting
