@@ -51,7 +51,7 @@ start_simulator() {
 print_events() {
     local category name text
     while IFS=$'\t' read -r category name text; do
-        if [[ ${#text} -gt 200 ]]; then
+        if [[ ${#text} -gt 500 ]]; then
             text="${text:0:150} ... (${#text} characters, rui-events shows all)"
         fi
         printf 'stored   %-21s %-18s %s\n' "$category" "$name" "$text"

@@ -83,3 +83,18 @@ void CFakeCameraControl::closeAll()
         QTimer::singleShot(0, this, &ICameraControlService::allClosed);
     }
 }
+
+void CFakeCameraControl::grabSingle(const CameraInfoPtr &camera)
+{
+    onGrabRequest(QStringLiteral("single"), camera);
+}
+
+void CFakeCameraControl::grabContinuous(const CameraInfoPtr &camera)
+{
+    onGrabRequest(QStringLiteral("continuous"), camera);
+}
+
+void CFakeCameraControl::stopGrab(const CameraInfoPtr &camera)
+{
+    onGrabRequest(QStringLiteral("stop"), camera);
+}

@@ -4,6 +4,8 @@
 
 #include "plugins/camerapool/ICameraControlService.h"
 
+#include <functional>
+
 #include <QMap>
 
 // A camera pool without cameras of its own: the test plugs them in and out. Opening and closing is
@@ -35,6 +37,14 @@ public:
     void open(const CameraInfoPtr &camera) override;
     void close(const CameraInfoPtr &camera) override;
     void closeAll() override;
+
+    // The three grab operations only tell the test: "single", "continuous" or "stop".
+    void grabSingle(const CameraInfoPtr &camera) override;
+    void grabContinuous(const CameraInfoPtr &camera) override;
+    void stopGrab(const CameraInfoPtr &camera) override;
+
+    std::function<void(const QString &operation, const CameraInfoPtr &camera)> onGrabRequest =
+        [](const QString &, const CameraInfoPtr &) {};
 
 private:
     QList<CameraInfoPtr> m_cameras;
