@@ -2,11 +2,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "IgnoredLeaks.h"
+
+#include <memory>
+
 #include <QApplication>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
+
+template <class Application>
+std::unique_ptr<Application> makeTestApplication(int &argc, char **argv)
+{
+    // Qt 5.15's offscreen platform does not delete its screen.
+    const IgnoredLeaks screen;
+    return std::make_unique<Application>(argc, argv);
+}
 
 /// An application with names and folders of its own, so that tests neither touch what belongs to a
 /// user nor meet each other.
@@ -19,7 +31,7 @@
         QTemporaryDir home;                                                                        \
         qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());                                       \
         qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());                                     \
-        Application application(argc, argv);                                                       \
+        const auto application = makeTestApplication<Application>(argc, argv);                     \
         QCoreApplication::setOrganizationName(QStringLiteral("Ostrand"));                          \
         QCoreApplication::setApplicationName(QStringLiteral(#TestClass));                          \
         QSettings::setDefaultFormat(QSettings::IniFormat);                                         \
