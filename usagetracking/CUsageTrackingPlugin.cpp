@@ -52,6 +52,7 @@ bool CUsageTrackingPlugin::uninitialize(const QPointer<IPluginInitializer> & /*i
     if (m_trackingThread.isRunning()) {
         m_trackingThread.quit();
         m_trackingThread.wait();
+        m_provider = nullptr; // the thread has deleted it
     }
     return true;
 }

@@ -65,6 +65,7 @@ private:
     QPointer<Internal::CDataPrivacyTab> m_dataPrivacyTab;
     QSharedPointer<NerixWelcome::INerixWelcomeService> m_welcomeService;
     QAction *m_dataPrivacyAction = nullptr;
+    /// Null once the tracking thread has ended.
     Internal::CUsageTrackingProvider *m_provider = nullptr;
     QThread m_trackingThread;
     /// What the provider was last asked for. Whether it tracks is the provider's to know.

@@ -85,6 +85,9 @@ void CUsageTrackingPlugin::onDataPrivacyApplyClicked()
 
 void CUsageTrackingPlugin::requestTracking(bool active)
 {
+    if (!m_provider) {
+        return; // uninitialised already
+    }
     QTimer::singleShot(requestDelayMs, m_provider,
                        active ? &CUsageTrackingProvider::startTracking
                               : &CUsageTrackingProvider::stopTrackingAndOptOut);

@@ -28,6 +28,8 @@ extern "C" Q_DECL_EXPORT QObject *qt_plugin_instance()
             instance = new Plugin::UsageTracking::CUsageTrackingPlugin;
         } catch (const std::exception &exception) {
             qCritical("UsageTracking could not be created: %s", exception.what());
+        } catch (...) {
+            qCritical("UsageTracking could not be created");
         }
     }
     return instance;

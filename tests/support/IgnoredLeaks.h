@@ -12,8 +12,14 @@ class IgnoredLeaks
 {
 public:
 #ifdef __SANITIZE_ADDRESS__
-    IgnoredLeaks() { __lsan_disable(); }
-    ~IgnoredLeaks() { __lsan_enable(); }
+    IgnoredLeaks()
+    {
+        __lsan_disable();
+    }
+    ~IgnoredLeaks()
+    {
+        __lsan_enable();
+    }
 #else
     IgnoredLeaks() = default;
     ~IgnoredLeaks() {} // NOLINT(modernize-use-equals-default): keeps the variable from being unused

@@ -53,10 +53,14 @@ void CUsageTrackingProvider::stopTracking()
 
 void CUsageTrackingProvider::onEnumerationChanged()
 {
-    // Once a session; the next start subscribes again.
-    disconnect(m_enumerationService.data(),
-               &CameraPool::ICameraEnumerationService::enumerationChanged, this,
-               &CUsageTrackingProvider::onEnumerationChanged);
+    // Once a session; the next start subscribes again. Changes that were queued before the signal
+    // was disconnected still come here: only the first one finds the connection.
+    const bool first = disconnect(m_enumerationService.data(),
+                                  &CameraPool::ICameraEnumerationService::enumerationChanged, this,
+                                  &CUsageTrackingProvider::onEnumerationChanged);
+    if (!first) {
+        return;
+    }
     QJsonObject record = sessionRecord(QStringLiteral("InitialCameraCount"));
     record.insert(QStringLiteral("InitialCameraCount"), m_cameraCount);
     trackRecord(m_sdkInstance, record);

@@ -69,7 +69,8 @@ int main(int argc, char *argv[])
     }
     QTextStream out(&target);
     out << "// Generated from " << source.fileName().section(QLatin1Char('/'), -1) << ".\n"
-        << "#pragma once\n\n#include <QtPlugin>\n\nstatic constexpr unsigned char pluginMetadata[]\n    "
+        << "#pragma once\n\n#include <QtPlugin>\n\nstatic constexpr unsigned char "
+           "pluginMetadata[]\n    "
            "QT_PLUGIN_METADATA_SECTION = {";
     writeArray(out, metadataBlock(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2]),
                                   metadata));

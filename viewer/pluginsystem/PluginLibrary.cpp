@@ -62,8 +62,7 @@ std::unique_ptr<Core::Plugin::IPlugin> loadPluginLibrary(const QString &path, QS
         reason = loader.errorString();
         return nullptr;
     }
-    // Not qobject_cast, which would demand Q_INTERFACES of each plug-in.
-    auto *plugin = dynamic_cast<Core::Plugin::IPlugin *>(object.get());
+    auto *plugin = qobject_cast<Core::Plugin::IPlugin *>(object.get());
     if (!plugin) {
         reason = QStringLiteral("its object is not a Core::Plugin::IPlugin but a %1")
                      .arg(QString::fromLatin1(object->metaObject()->className()));

@@ -56,5 +56,3 @@ protected:
 
 /// The identifier of the plug-in interface, which the metadata of a plug-in library must carry.
 #define NERIX_PLUGIN_IID "example.ostrand.NerixViewer.IPlugin/1"
-
-Q_DECLARE_INTERFACE(Core::Plugin::IPlugin, NERIX_PLUGIN_IID)

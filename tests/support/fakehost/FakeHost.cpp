@@ -37,6 +37,9 @@ const QList<QSharedPointer<QObject>> &FakeHost::services() const
         m_lock.unlock();
         ++unlockedWalks;
     }
+    if (onServicesWalked) {
+        onServicesWalked();
+    }
     return m_services;
 }
 

@@ -50,6 +50,9 @@ public:
     /// Walks of the list that were made while the read lock was not held.
     mutable int unlockedWalks = 0;
 
+    /// Called at each walk.
+    std::function<void()> onServicesWalked;
+
 private:
     mutable QReadWriteLock m_lock;
     QList<QSharedPointer<QObject>> m_services;

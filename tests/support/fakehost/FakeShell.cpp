@@ -26,6 +26,9 @@ ICommand *FakeMenuService::registerAction(QAction *action, const Core::CId &id,
     calls.append(QStringLiteral("registerAction(%1 | %2 | %3)")
                      .arg(action->text(), id.toString(), contexts.join(QLatin1Char(','))));
     registeredAction = action;
+    if (onActionRegistered) {
+        onActionRegistered();
+    }
     m_command.commandId = id;
     m_command.commandAction = action;
     return &m_command;

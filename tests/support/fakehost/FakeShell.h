@@ -8,6 +8,8 @@
 #include <Plugin/NerixWelcome/INerixWelcomeService.h>
 #include <Plugin/NerixWelcome/INerixWelcomeTab.h>
 
+#include <functional>
+
 #include <QAction>
 #include <QPointer>
 #include <QStringList>
@@ -30,6 +32,7 @@ public:
     /// Every call with its arguments, in order.
     mutable QStringList calls;
     QPointer<QAction> registeredAction;
+    std::function<void()> onActionRegistered;
 
 private:
     class Command : public Plugin::AppCore::ICommand
@@ -64,6 +67,9 @@ public:
     void addTab(const QPointer<Plugin::NerixWelcome::INerixWelcomeTab> &tab) override
     {
         tabs.append(tab);
+        if (onTabAdded) {
+            onTabAdded();
+        }
     }
 
     void showTab(const QPointer<Plugin::NerixWelcome::INerixWelcomeTab> &tab,
@@ -76,4 +82,5 @@ public:
     QList<QPointer<Plugin::NerixWelcome::INerixWelcomeTab>> tabs;
     QList<QPointer<Plugin::NerixWelcome::INerixWelcomeTab>> shownTabs;
     QList<QPointer<QObject>> requesters;
+    std::function<void()> onTabAdded;
 };

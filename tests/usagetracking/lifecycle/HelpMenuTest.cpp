@@ -13,7 +13,10 @@ class HelpMenuTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { storeKeys(QVariant(), QVariant()); }
+    void init()
+    {
+        storeKeys(QVariant(), QVariant());
+    }
 
     void welcomeServiceGetsTheTab()
     {

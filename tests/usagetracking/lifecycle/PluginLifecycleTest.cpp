@@ -348,6 +348,36 @@ private Q_SLOTS:
         QCOMPARE(f.analytics.calls(), QStringList());
     }
 
+    void requestsAfterTheEndAreIgnored()
+    {
+        storeKeys(true, true);
+        PluginFixture f;
+        f.start();
+        f.shutDown();
+        f.analytics.takeCalls();
+        Q_EMIT f.host.initializationDone();
+        f.click(false);
+        f.controller()->onDataPrivacyApplyClicked();
+        QCOMPARE(f.analytics.calls(), QStringList());
+    }
+
+    void withdrawalInTheInstantOfTheShutDownEndsTheSessionOnly()
+    {
+        storeKeys(true, true);
+        PluginFixture f;
+        f.start();
+        f.analytics.takeCalls();
+        f.click(false);
+        {
+            // Qt never frees a single-shot timer whose thread ends before it fires.
+            const IgnoredLeaks timer;
+            f.controller()->onDataPrivacyApplyClicked();
+        }
+        f.shutDown();
+        QCOMPARE(functions(f.analytics.calls()), endFunctions);
+        QCOMPARE(storedKey("OptInEnabled").toString(), QStringLiteral("false"));
+    }
+
     void uninitializeWithoutInitializeIsTrue()
     {
         PluginFixture f;

@@ -160,6 +160,24 @@ private Q_SLOTS:
         QCOMPARE(f.callsFor(enumerate), QStringList());
     }
 
+    void initialCameraCountIsSentOnceForChangesThatWereQueuedTogether()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        QCOMPARE(f.callsFor([&] {
+            QSemaphore busy;
+            QMetaObject::invokeMethod(
+                f.provider, [&] { busy.acquire(); }, Qt::QueuedConnection);
+            for (int i = 0; i < 3; ++i) {
+                Q_EMIT f.host.enumeration->enumerationChanged();
+            }
+            busy.release();
+            QMetaObject::invokeMethod(
+                f.provider, [] {}, Qt::BlockingQueuedConnection);
+        }),
+                 initialCameraCount(0));
+    }
+
     void initialCameraCountIsSentAgainInTheNextSession()
     {
         TrackingFixture f;
