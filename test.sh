@@ -2,19 +2,48 @@
 # SPDX-FileCopyrightText: 2026 Ostrand
 # SPDX-License-Identifier: MIT
 #
-# test.sh [PRESET...]: builds the presets (without one: dev) and passes their tests. Works on a bare
-# Debian 12, as root or with sudo.
+# test.sh: builds and passes the tests: all of them as developers build (dev), and once more with
+# the sanitizers those that have threads, parse, or lose a camera.
+# test.sh PRESET...: all tests of these presets (dev, release, asan, tsan).
+# Works on a bare Debian 12, as root or with sudo; run again, it needs no network.
 set -euo pipefail
 cd "$(dirname "$0")"
 
-presets=("$@")
-[[ ${#presets[@]} -gt 0 ]] || presets=(dev)
+# A compiler cache serves any folder that the project is checked out in.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+
+# Which tests are worth their time in a second build. The names of tests are those of their targets.
+asan_tests='^(UsageTracking.*Test|test_ruisdk_(core|store|delivery|api|sessions|processes|tool)|CameraPool.*|ParameterCollectionPool.*|PluginShutDownTest|SimulatorVanishTest|VanishingCameraTest)$'
+tsan_tests='^(test_ruisdk_(core|store|delivery|api|sessions|processes|tool)|ServiceRegistryThreadsTest|UsageTracking(Session|Tracking|PluginLifecycle)Test)$'
+
+configure() {
+    echo "== $1: build"
+    cmake --preset "$1" >/dev/null
+}
+
+run_all() {
+    configure "$1"
+    cmake --build --preset "$1"
+    echo "== $1: tests"
+    ctest --preset "$1" --parallel 2
+}
+
+run_some() {
+    configure "$1"
+    local names
+    mapfile -t names < <(ctest --preset "$1" -N -R "$2" | sed -n 's/^ *Test *#[0-9]*: //p')
+    cmake --build --preset "$1" --target "${names[@]}"
+    echo "== $1: tests"
+    ctest --preset "$1" --parallel 2 -R "$2"
+}
 
 tools/install-deps.sh
-for preset in "${presets[@]}"; do
-    echo "== $preset: build"
-    cmake --preset "$preset" >/dev/null
-    cmake --build --preset "$preset"
-    echo "== $preset: tests"
-    ctest --preset "$preset" --parallel 2
-done
+if [[ $# -gt 0 ]]; then
+    for preset in "$@"; do
+        run_all "$preset"
+    done
+else
+    run_all dev
+    run_some asan "$asan_tests"
+    run_some tsan "$tsan_tests"
+fi
