@@ -33,6 +33,19 @@ function(nerix_configure_qt_target target)
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
 endfunction()
 
+# nerix_lint_qml(OUT_VAR FILE...): checks QML files with qmllint while a target is built that depends
+# on the file named in OUT_VAR.
+find_program(NERIX_QMLLINT NAMES qmllint-qt5 qmllint HINTS /usr/lib/qt5/bin REQUIRED)
+function(nerix_lint_qml out_var)
+    set(stamp "${CMAKE_CURRENT_BINARY_DIR}/${out_var}.stamp")
+    add_custom_command(OUTPUT "${stamp}"
+        COMMAND "${NERIX_QMLLINT}" ${ARGN}
+        COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"
+        DEPENDS ${ARGN}
+        VERBATIM)
+    set(${out_var} "${stamp}" PARENT_SCOPE)
+endfunction()
+
 # Whether a program may have a network of its own here. Where it may not, tests that use the network
 # share the real loopback and run one after the other.
 execute_process(COMMAND unshare --user --map-root-user --net ip link set lo up

@@ -5,6 +5,7 @@
 
 #include "CUsageTrackingPlugin.h"
 #include "internal/CDataPrivacyTab.h"
+#include "internal/CLanguageListener.h"
 
 #include <Core/AppCoreComponents/CContext.h>
 #include <Core/CId.h>
@@ -36,6 +37,8 @@ void CUsageTrackingPlugin::addHelpMenuEntry()
     helpMenu->addCommand(command, Core::CId("NerixViewer.Group.Help.Support"));
     connect(m_dataPrivacyAction, &QAction::triggered, this,
             &CUsageTrackingPlugin::onShowDataPrivacyTriggered);
+    QAction *entry = m_dataPrivacyAction;
+    new Internal::CLanguageListener([entry] { entry->setText(tr("Data Privacy")); }, entry);
 }
 
 void CUsageTrackingPlugin::onShowDataPrivacyTriggered()

@@ -4,6 +4,7 @@
 #include "CDataPrivacyTab.h"
 
 #include "CDataPrivacyTabController.h"
+#include "CLanguageListener.h"
 
 #include <QQmlContext>
 
@@ -21,6 +22,7 @@ CDataPrivacyTab::CDataPrivacyTab(QObject *parent)
     onDataPrivacyOptInSelectedChanged();
     connect(controller, &CDataPrivacyTabController::dataPrivacyOptInSelectedChanged, this,
             &CDataPrivacyTab::onDataPrivacyOptInSelectedChanged);
+    new CLanguageListener([this] { retranslate(); }, this);
 }
 
 bool CDataPrivacyTab::setupQmlContext(QQmlContext *context)
@@ -40,6 +42,15 @@ void CDataPrivacyTab::onDataPrivacyOptInSelectedChanged()
     if (answerIsOwed != applyIsNeeded) {
         applyIsNeeded = answerIsOwed;
         Q_EMIT applyIsNeededChanged();
+    }
+}
+
+void CDataPrivacyTab::retranslate()
+{
+    const QString translated = tr("Data Privacy");
+    if (translated != title) {
+        title = translated;
+        Q_EMIT titleChanged();
     }
 }
 

@@ -30,6 +30,8 @@ public Q_SLOTS:
     void onDataPrivacyOptInSelectedChanged();
 
 private:
+    void retranslate();
+
     CDataPrivacyTabController *controller = nullptr;
 };
 

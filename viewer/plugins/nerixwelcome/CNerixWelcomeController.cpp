@@ -124,6 +124,11 @@ bool CNerixWelcomeController::close()
     return true;
 }
 
+void CNerixWelcomeController::onCloseNerixWelcomeClicked()
+{
+    close();
+}
+
 // The tab is half destroyed: only its address is of use.
 void CNerixWelcomeController::removeTab(const QObject *tab)
 {

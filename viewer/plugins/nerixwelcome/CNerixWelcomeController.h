@@ -67,6 +67,10 @@ public:
     /// Hides the screen. @return false while `applyFromTabsIsNeeded`; it then stays.
     Q_INVOKABLE bool close();
 
+public Q_SLOTS:
+    /// The Close button of a page.
+    void onCloseNerixWelcomeClicked();
+
 Q_SIGNALS:
     void tabsChanged();
     void currentIndexChanged();
