@@ -51,11 +51,12 @@ endfunction()
 execute_process(COMMAND unshare --user --map-root-user --net ip link set lo up
     RESULT_VARIABLE NERIX_UNSHARE_RESULT OUTPUT_QUIET ERROR_QUIET)
 
-# nerix_add_test(NAME SOURCES ... LIBRARIES ... [ENVIRONMENT ...] [ISOLATED_NETWORK]): a QtTest
-# program as a CTest test. It has no display, keeps to test folders and gets a generous limit
-# against hanging. ISOLATED_NETWORK: it runs by tools/in-network-namespace.sh.
+# nerix_add_test(NAME SOURCES ... LIBRARIES ... [ENVIRONMENT ...] [COMMAND ...]
+# [ISOLATED_NETWORK]): a QtTest program as a CTest test. It has no display, keeps to test folders and
+# gets a generous limit against hanging. COMMAND: what runs it, if something must.
+# ISOLATED_NETWORK: it runs by tools/in-network-namespace.sh.
 function(nerix_add_test name)
-    cmake_parse_arguments(arg "ISOLATED_NETWORK" "" "SOURCES;LIBRARIES;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(arg "ISOLATED_NETWORK" "" "SOURCES;LIBRARIES;ENVIRONMENT;COMMAND" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     nerix_configure_qt_base(${name})
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} Qt5::Test)
@@ -70,7 +71,7 @@ function(nerix_add_test name)
             set_tests_properties(${name} PROPERTIES RESOURCE_LOCK loopback)
         endif()
     else()
-        add_test(NAME ${name} COMMAND ${name})
+        add_test(NAME ${name} COMMAND ${arg_COMMAND} $<TARGET_FILE:${name}>)
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT 300
         ENVIRONMENT "QT_QPA_PLATFORM=minimal;QT_LOGGING_RULES=;${arg_ENVIRONMENT}")

@@ -19,6 +19,8 @@ packages=(
     # analytics library
     libsqlite3-dev libcurl4-openssl-dev zlib1g-dev
     # tests and benchmarks: a display without a screen, an isolated network, tools
+    # the software renderer of OpenGL, for the consent page without a graphics card
+    libgl1-mesa-dri libglx-mesa0
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xauth iproute2 util-linux procps sqlite3 openssl strace python3 clang-format
     fonts-dejavu-core fonts-noto-cjk

@@ -74,8 +74,8 @@ QPoint ConsentPage::linkPosition(const char *name, const QString &target) const
     for (qreal y = 0; y < text->height(); y += step) {
         for (qreal x = 0; x < text->width(); x += step) {
             QString link;
-            QMetaObject::invokeMethod(text, "linkAt", Q_RETURN_ARG(QString, link),
-                                      Q_ARG(qreal, x), Q_ARG(qreal, y));
+            QMetaObject::invokeMethod(text, "linkAt", Q_RETURN_ARG(QString, link), Q_ARG(qreal, x),
+                                      Q_ARG(qreal, y));
             if (link == target) {
                 // One step further in: not on the very edge of the first letter.
                 return text->mapToScene({x + 1, y + step}).toPoint();

@@ -41,7 +41,10 @@ class PageStatesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { storeNoAnswer(); }
+    void init()
+    {
+        storeNoAnswer();
+    }
 
     void state_data()
     {
@@ -74,15 +77,13 @@ private Q_SLOTS:
         QTest::newRow("stored yes that was never applied is not shown")
             << Stored::YesButNeverApplied << QByteArrayList{} << false << false << nothing << false
             << false;
-        QTest::newRow("first yes applied")
-            << Stored::Nothing << QByteArrayList{yes, apply} << true << false << thanks << false
-            << true;
+        QTest::newRow("first yes applied") << Stored::Nothing << QByteArrayList{yes, apply} << true
+                                           << false << thanks << false << true;
         QTest::newRow("first no applied, although it is the answer held")
             << Stored::Nothing << QByteArrayList{no, apply} << false << true << sorry << false
             << true;
-        QTest::newRow("never applied, no after yes")
-            << Stored::Nothing << QByteArrayList{yes, no} << false << true << sorry << true
-            << false;
+        QTest::newRow("never applied, no after yes") << Stored::Nothing << QByteArrayList{yes, no}
+                                                     << false << true << sorry << true << false;
         QTest::newRow("click on the applied answer changes nothing")
             << Stored::Yes << QByteArrayList{yes} << true << false << thanks << false << true;
         QTest::newRow("back to the applied answer leaves Apply enabled")

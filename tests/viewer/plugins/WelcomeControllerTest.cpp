@@ -38,6 +38,7 @@ private Q_SLOTS:
 
     void testCloseHidesTheScreen();
     void testCloseIsRefusedWhileAnAnswerIsNeeded();
+    void testCloseButtonOfAPageClosesLikewise();
 
     void testShowTabBringsUpThatTab();
     void testShowTabOfAnUnknownTabBringsUpNothing();
@@ -235,6 +236,18 @@ void WelcomeControllerTest::testCloseIsRefusedWhileAnAnswerIsNeeded()
     QVERIFY(m_controller->isVisible());
     tab.setApplyNeeded(false);
     QVERIFY(m_controller->close());
+    QVERIFY(!m_controller->isVisible());
+}
+
+void WelcomeControllerTest::testCloseButtonOfAPageClosesLikewise()
+{
+    CTestTab tab("Tab", true);
+    m_controller->addTab(&tab);
+    m_controller->start();
+    m_controller->onCloseNerixWelcomeClicked();
+    QVERIFY(m_controller->isVisible());
+    tab.setApplyNeeded(false);
+    m_controller->onCloseNerixWelcomeClicked();
     QVERIFY(!m_controller->isVisible());
 }
 

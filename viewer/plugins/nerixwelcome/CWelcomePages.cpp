@@ -32,8 +32,8 @@ Q_LOGGING_CATEGORY(log, "nerix.welcome", QtInfoMsg)
 CWelcomePages::Page failed(const INerixWelcomeTab &tab, const QString &reason)
 {
     CWelcomePages::Page page;
-    page.error = QStringLiteral("The page \"%1\" cannot be shown: %2")
-                     .arg(tab.tabTitle(), reason.trimmed());
+    page.error =
+        QStringLiteral("The page \"%1\" cannot be shown: %2").arg(tab.tabTitle(), reason.trimmed());
     qCWarning(log).noquote() << page.error;
     return page;
 }

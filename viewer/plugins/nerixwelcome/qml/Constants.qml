@@ -10,7 +10,7 @@ import QtQuick 2.12
 
 QtObject {
     readonly property int width: 1000
-    readonly property int height: 720
+    readonly property int height: 750
 
     readonly property font font: Qt.application.font
 }

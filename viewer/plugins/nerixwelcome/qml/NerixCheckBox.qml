@@ -19,6 +19,7 @@ T.CheckBox {
     implicitHeight: Math.max(implicitContentHeight, implicitIndicatorHeight) + topPadding
                     + bottomPadding
     padding: 6
+    rightPadding: 0
     spacing: 6
     font: Constants.font
     hoverEnabled: true
