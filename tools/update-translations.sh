@@ -17,8 +17,13 @@ lupdate=/usr/lib/qt5/bin/lupdate
 
 catalogues=()
 for language in ja ko zh; do
-    catalogues+=("$folder/UsageTracking_$language.ts")
+    file=$folder/UsageTracking_$language.ts
+    [[ ! -e $file ]] || catalogues+=("$file")
 done
+if [[ ${#catalogues[@]} -eq 0 ]]; then
+    echo "update-translations: $folder has no UsageTracking_ja.ts, _ko.ts or _zh.ts" >&2
+    exit 1
+fi
 cd "$root"
 exec "$lupdate" -silent -locations none -no-obsolete -source-language en usagetracking \
     -ts "${catalogues[@]}"

@@ -7,6 +7,7 @@
 #include "ConsentPage.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -47,6 +48,7 @@ bool take(const State &state, const QString &language, const QDir &folder)
     for (const QByteArray &name : state.clicks) {
         page.click(name.constData());
     }
+    QCursor::setPos(page.window.mapToGlobal({2, 2}));
     page.hoverNothing();
     const QString file = folder.filePath(
         QStringLiteral("consent-page-%1-%2.png").arg(language, QLatin1String(state.name)));
