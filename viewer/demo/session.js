@@ -19,6 +19,7 @@ print("grabs 50 images");
 grab.start(camera);
 grab.waitFor(camera, 50);
 grab.stop(camera);
+print("has grabbed " + grab.figures(camera).images + " images");
 
 print("grabs over a bad cable until an image fails");
 print("simulator: loss 0.01");
