@@ -55,7 +55,6 @@ CViewerProcess::CViewerProcess()
     }
     QFile::setPermissions(path("runtime"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_environment.insert("XDG_RUNTIME_DIR", path("runtime"));
-    m_environment.insert("QT_QPA_PLATFORM", "offscreen");
     connect(m_process, &QProcess::readyReadStandardOutput, this, &CViewerProcess::onOutput);
 }
 

@@ -22,7 +22,7 @@ demo=$(cd "$2" && pwd)
 
 # The demo is one for people without a display, and must not meet the settings of who runs it.
 unset DISPLAY WAYLAND_DISPLAY
-export QT_QPA_PLATFORM=offscreen
+[[ ${QT_QPA_PLATFORM:-} == minimal ]] || export QT_QPA_PLATFORM=offscreen
 export XDG_RUNTIME_DIR=$demo/runtime
 mkdir -p -m 700 "$XDG_RUNTIME_DIR"
 
