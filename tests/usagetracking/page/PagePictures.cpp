@@ -1,79 +1,52 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 
-// consent-page-pictures FOLDER: pictures of the page in each state and language, for people to look
-// at. By a display with OpenGL, since the shadows of the tiles are drawn by it.
+#include "PagePictures.h"
 
 #include "ConsentPage.h"
 
-#include <QApplication>
 #include <QCursor>
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTextStream>
-#include <QtTest>
 
-namespace {
-
-struct State
+QList<PageView> pageViews()
 {
-    const char *name;
-    bool answered;
-    bool answer;
-    QByteArrayList clicks;
-};
-
-const QList<State> &states()
-{
-    static const QList<State> all{
-        {"1-nothing-clicked", false, false, {}},
-        {"2-yes-clicked", false, false, {"yesCheckbox"}},
-        {"3-no-clicked", false, false, {"noCheckbox"}},
-        {"4-yes-applied", true, true, {}},
-        {"5-no-applied", true, false, {}},
-        {"6-no-clicked-after-yes", true, true, {"noCheckbox"}},
-    };
-    return all;
+    QList<PageView> views;
+    for (const char *code : {"en", "ja", "ko", "zh"}) {
+        const QString language = QString::fromLatin1(code);
+        const auto add = [&](const char *state, bool answered, bool answer,
+                             const QByteArrayList &clicks) {
+            views.append({QStringLiteral("%1-%2").arg(language, QLatin1String(state)), language,
+                          answered, answer, clicks});
+        };
+        add("1-nothing-clicked", false, false, {});
+        add("2-yes-clicked", false, false, {"yesCheckbox"});
+        add("3-no-clicked", false, false, {"noCheckbox"});
+        add("4-yes-applied", true, true, {});
+        add("5-no-applied", true, false, {});
+        add("6-no-clicked-after-yes", true, true, {"noCheckbox"});
+    }
+    return views;
 }
 
-bool take(const State &state, const QString &language, const QDir &folder)
+QImage pictureOf(const PageView &view)
 {
-    if (state.answered) {
-        storeAnswer(state.answer);
+    if (view.answered) {
+        storeAnswer(view.answer);
     } else {
         storeNoAnswer();
     }
     ConsentPage page;
-    page.fixture.plugin->setLanguage(language);
-    for (const QByteArray &name : state.clicks) {
+    page.fixture.plugin->setLanguage(view.language);
+    for (const QByteArray &name : view.clicks) {
         page.click(name.constData());
     }
     QCursor::setPos(page.window.mapToGlobal({2, 2}));
     page.hoverNothing();
-    const QString file = folder.filePath(
-        QStringLiteral("consent-page-%1-%2.png").arg(language, QLatin1String(state.name)));
-    return page.window.grabWindow().save(file);
+    return page.window.grabWindow();
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+QImage keptSize(const QImage &picture)
 {
-    const QTemporaryDir home;
-    QApplication application(argc, argv);
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.path());
-    QCoreApplication::setOrganizationName(QStringLiteral("Ostrand"));
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 2 || !QDir().mkpath(arguments.at(1))) {
-        QTextStream(stderr) << "usage: consent-page-pictures FOLDER (one that can be written)\n";
-        return 1;
-    }
-    bool taken = true;
-    for (const char *language : {"en", "ja", "ko", "zh"}) {
-        for (const State &state : states()) {
-            taken = take(state, QString::fromLatin1(language), QDir(arguments.at(1))) && taken;
-        }
-    }
-    return taken ? 0 : 1;
+    constexpr int width = 334;
+    return picture.scaledToWidth(width, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_RGB32);
 }
