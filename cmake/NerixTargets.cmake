@@ -10,6 +10,9 @@ function(nerix_configure_target target)
         $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
             -Wextra-semi -Wnull-dereference -Wsuggest-override>
         $<$<BOOL:${NERIX_WARNINGS_AS_ERRORS}>:-Werror>)
+    if(MOLD_PROGRAM)
+        target_link_options(${target} PRIVATE -fuse-ld=mold)
+    endif()
     if(NERIX_SANITIZE)
         target_compile_options(${target} PRIVATE
             -fsanitize=${NERIX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)

@@ -8,7 +8,7 @@ set -euo pipefail
 
 packages=(
     # compiler and build
-    g++ cmake ninja-build pkg-config ccache git ca-certificates
+    g++ cmake ninja-build mold pkg-config ccache git ca-certificates
     # Qt 5.15: libraries, tools, the modules of the consent page
     qtbase5-dev qtbase5-dev-tools qtdeclarative5-dev qtdeclarative5-dev-tools
     qttools5-dev qttools5-dev-tools qtquickcontrols2-5-dev libqt5svg5
