@@ -3,8 +3,9 @@
 
 // Drops what the thread sanitizer reports of Qt alone: races between two accesses that Qt's
 // libraries, or GLib on their behalf, both make themselves, under a lock that the sanitizer does
-// not see. A suppression by name cannot say that, since it would look for the name anywhere in the
-// stack. Whatever our own code accesses is reported.
+// not see. The same for Aravis, which builds on GLib's locks. A suppression by name cannot say
+// that, since it would look for the name anywhere in the stack. Whatever our own code accesses is
+// reported.
 
 #ifdef __SANITIZE_THREAD__
 
@@ -57,7 +58,10 @@ bool isMadeByQt(void *report, std::size_t index)
         return !beginsWith(libraryOf(frame), "libtsan");
     });
     const char *library = caller == std::end(trace) ? "" : libraryOf(*caller);
-    return beginsWith(library, "libQt5") || beginsWith(library, "libglib-2.0");
+    constexpr const char *ignored[] = {"libQt5", "libglib-2.0", "libgio-2.0", "libgobject-2.0",
+                                       "libaravis-0.8"};
+    return std::any_of(std::begin(ignored), std::end(ignored),
+                       [&](const char *name) { return beginsWith(library, name); });
 }
 
 } // namespace
@@ -71,8 +75,10 @@ bool onReport(void *report, bool isDropped)
     const char *description = "";
     int accesses = 0;
     int ignored = 0;
+    // Written to for a thread that slept before, whatever size is told.
+    void *sleepTrace[traceSize] = {};
     __tsan_get_report_data(report, &description, &ignored, &ignored, &accesses, &ignored, &ignored,
-                           &ignored, &ignored, nullptr, 0);
+                           &ignored, &ignored, sleepTrace, traceSize);
     bool isMadeByQtAlone = accesses > 0 && beginsWith(description, "data-race");
     for (int index = 0; index < accesses; ++index) {
         isMadeByQtAlone = isMadeByQtAlone && isMadeByQt(report, static_cast<std::size_t>(index));

@@ -86,7 +86,7 @@ void CDevice::close()
     kept.clear();
     GObjectPtr<ArvDevice> device;
     {
-        const std::lock_guard<std::recursive_timed_mutex> lock(m_lock);
+        const std::lock_guard<CDeviceLock> lock(m_lock);
         device = std::move(m_device);
     }
     // Given back without the lock: of a dead device this takes seconds, which nobody shall wait

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CDeviceLock.h"
 #include "CStreamCounters.h"
 #include "CTaskThread.h"
 #include "GLibPointers.h"
@@ -99,7 +100,7 @@ private:
     const std::function<void()> m_onLost;
     std::atomic<bool> m_isOpen{true};
     std::atomic<bool> m_isLost{false};
-    std::recursive_timed_mutex m_lock;
+    CDeviceLock m_lock;
     GObjectPtr<ArvDevice> m_device; // guarded by m_lock; null once closed
     std::mutex m_keptMutex;
     std::vector<std::shared_ptr<void>> m_kept; // guarded by m_keptMutex

@@ -22,7 +22,8 @@ CDeviceAccess::CDeviceAccess(CDevice &device)
     , m_lock(device.m_lock, std::defer_lock)
 {
     device.waitFor(
-        [this](std::chrono::milliseconds interval) { return m_lock.try_lock_for(interval); });
+        [&](std::chrono::milliseconds interval) { return device.m_lock.tryLockFor(interval); });
+    m_lock = std::unique_lock<CDeviceLock>(device.m_lock, std::adopt_lock);
     device.throwIfUnusable();
 }
 

@@ -44,7 +44,7 @@ public:
 
 private:
     CDevice &m_device;
-    std::unique_lock<std::recursive_timed_mutex> m_lock;
+    std::unique_lock<CDeviceLock> m_lock;
 };
 
 template <class Work>
