@@ -10,7 +10,6 @@ class HelloPlugin : public Core::Plugin::IPlugin
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID NERIX_PLUGIN_IID FILE "Hello.json")
-    Q_INTERFACES(Core::Plugin::IPlugin)
 
 public:
     bool preInitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
