@@ -67,11 +67,13 @@ void addFoundations(CPluginManager &manager, const CommandLine &commandLine)
                        factory<AppCore::CAppCorePlugin>());
 }
 
-void addApplication(CPluginManager &manager)
+void addApplication(CPluginManager &manager, const CommandLine &commandLine)
 {
     using namespace Plugin;
+    const auto mode = commandLine.showsWindows ? NerixViewer::WindowMode::WithWindows
+                                               : NerixViewer::WindowMode::WithoutWindows;
     manager.addBuiltIn(metaData("NerixViewer", "The application and its menus.", {"AppCore"}),
-                       factory<NerixViewer::CNerixViewerPlugin>());
+                       factory<NerixViewer::CNerixViewerPlugin>(mode));
     manager.addBuiltIn(metaData("NerixWelcome", "The welcome screen.", {"NerixViewer"}),
                        factory<NerixWelcome::CNerixWelcomePlugin>());
     manager.addBuiltIn(metaData("Help", "Documents and web addresses.", {"NerixViewer"}),
@@ -97,7 +99,7 @@ void addCameras(CPluginManager &manager)
 void addBuiltInPlugins(CPluginManager &manager, const CommandLine &commandLine)
 {
     addFoundations(manager, commandLine);
-    addApplication(manager);
+    addApplication(manager, commandLine);
     addCameras(manager);
 }
 

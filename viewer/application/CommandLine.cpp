@@ -18,6 +18,7 @@ const char helpText[] =
     "                      may be given more than once\n"
     "  --settings-dir DIR  keep the settings in DIR instead of the user's configuration folder\n"
     "  --script FILE.js    run a script, then quit: status 0, or 1 if the script failed\n"
+    "  --show-windows      show the windows while the script runs; else it runs without\n"
     "  --help              print this text\n"
     "  --version           print the version\n"
     "\n"
@@ -27,6 +28,7 @@ const char helpText[] =
 const QCommandLineOption pluginPath(QStringLiteral("plugin-path"), {}, QStringLiteral("DIR"));
 const QCommandLineOption settingsDir(QStringLiteral("settings-dir"), {}, QStringLiteral("DIR"));
 const QCommandLineOption script(QStringLiteral("script"), {}, QStringLiteral("FILE.js"));
+const QCommandLineOption showWindows(QStringLiteral("show-windows"));
 const QCommandLineOption help(QStringLiteral("help"));
 const QCommandLineOption version(QStringLiteral("version"));
 
@@ -84,6 +86,7 @@ CommandLine optionsOf(const QCommandLineParser &parser)
     commandLine.pluginFolders = parser.values(pluginPath);
     commandLine.settingsFolder = parser.value(settingsDir);
     commandLine.scriptFile = parser.value(script);
+    commandLine.showsWindows = commandLine.scriptFile.isEmpty() || parser.isSet(showWindows);
     return commandLine;
 }
 
@@ -92,7 +95,7 @@ CommandLine optionsOf(const QCommandLineParser &parser)
 CommandLine parseCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.addOptions({pluginPath, settingsDir, script, help, version});
+    parser.addOptions({pluginPath, settingsDir, script, showWindows, help, version});
     parser.parse(arguments);
     const QString error = parsingError(parser);
     if (!error.isEmpty()) {

@@ -13,6 +13,7 @@ struct CommandLine
     QStringList pluginFolders; ///< empty: the folder that belongs to the viewer
     QString settingsFolder;    ///< empty: the user's configuration folder
     QString scriptFile;        ///< empty: no script
+    bool showsWindows = true;  ///< a script runs without windows unless it wants them
     QString output;            ///< text for the user, who wants the viewer not to start
     QString error;             ///< one line that names what is wrong with the command line
 };

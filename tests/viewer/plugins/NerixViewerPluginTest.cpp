@@ -43,7 +43,8 @@ void NerixViewerPluginTest::init()
 {
     m_registry.reset(new PluginSystem::CServiceRegistry);
     m_appCore.reset(new Plugin::AppCore::CAppCorePlugin);
-    m_plugin.reset(new Plugin::NerixViewer::CNerixViewerPlugin);
+    m_plugin.reset(new Plugin::NerixViewer::CNerixViewerPlugin(
+        Plugin::NerixViewer::WindowMode::WithoutWindows));
     QVERIFY(m_appCore->preInitialize(m_registry.data()));
     QVERIFY(m_plugin->preInitialize(m_registry.data()));
     QVERIFY(m_appCore->initialize());
@@ -99,7 +100,7 @@ void NerixViewerPluginTest::testQuitEntryRequestsToQuit()
 void NerixViewerPluginTest::testNeedsTheMenuService()
 {
     PluginSystem::CServiceRegistry empty;
-    Plugin::NerixViewer::CNerixViewerPlugin plugin;
+    Plugin::NerixViewer::CNerixViewerPlugin plugin(Plugin::NerixViewer::WindowMode::WithoutWindows);
     QVERIFY(plugin.preInitialize(&empty));
     QVERIFY(!plugin.initialize());
     QVERIFY(plugin.uninitialize(&empty));

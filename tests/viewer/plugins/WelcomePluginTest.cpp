@@ -52,7 +52,8 @@ void WelcomePluginTest::init()
     m_sandbox.reset(new CSettingsSandbox);
     m_registry.reset(new PluginSystem::CServiceRegistry);
     m_appCore.reset(new Plugin::AppCore::CAppCorePlugin);
-    m_viewer.reset(new Plugin::NerixViewer::CNerixViewerPlugin);
+    m_viewer.reset(new Plugin::NerixViewer::CNerixViewerPlugin(
+        Plugin::NerixViewer::WindowMode::WithoutWindows));
     m_plugin.reset(new Plugin::NerixWelcome::CNerixWelcomePlugin);
     QVERIFY(m_appCore->preInitialize(registry()));
     QVERIFY(m_viewer->preInitialize(registry()));

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 
+class QAction;
 class QWidget;
 
 namespace Plugin {
@@ -30,6 +31,9 @@ public:
 
     /// What fills the middle of the window.
     virtual void setCentralView(QWidget *view) = 0;
+
+    /// Adds \a action, which stays its owner's, at the end of the tool bar. It should have an icon.
+    virtual void addToolBarAction(QAction *action) = 0;
 
     /// Adds \a widget to the status bar, at the right of those that are there.
     virtual void addStatusWidget(QWidget *widget) = 0;

@@ -4,9 +4,11 @@
 
 #include <Core/Plugin/IPlugin.h>
 
+#include <memory>
+
 #include <QSharedPointer>
 
-class QAction;
+class QDockWidget;
 
 namespace Plugin {
 namespace AppCore {
@@ -14,23 +16,29 @@ class IMenuControlService;
 }
 namespace NerixViewer {
 
+class CAppearance;
 class CApplicationService;
+class CMainWindowService;
+class CMessageService;
 
-/// The built-in plug-in "NerixViewer": the application itself, with the menus that every other
-/// plug-in may count on.
+/// Whether the viewer shows windows. A script runs without.
+enum class WindowMode { WithWindows, WithoutWindows };
+
+/// The built-in plug-in "NerixViewer": the application itself, with its main window, its messages
+/// and the menus that every other plug-in may count on.
 ///
-/// | menu                      | groups                                           |
-/// |---------------------------|--------------------------------------------------|
-/// | "NerixViewer.Menu.File"   | "NerixViewer.Group.File.Quit"                    |
-/// | "NerixViewer.Menu.Camera" | "NerixViewer.Group.Camera.Device"                |
-/// | "NerixViewer.Menu.View"   | "NerixViewer.Group.View.Screens"                 |
-/// | "NerixViewer.Menu.Help"   | "NerixViewer.Group.Help.Contents", ".Support", ".About" |
+/// | menu                      | groups "NerixViewer.Group.<menu>.<group>"         |
+/// |---------------------------|---------------------------------------------------|
+/// | "NerixViewer.Menu.File"   | Features, Image, Quit                             |
+/// | "NerixViewer.Menu.Camera" | Device, Grab                                      |
+/// | "NerixViewer.Menu.View"   | Image, Screens, Panels, Options                   |
+/// | "NerixViewer.Menu.Help"   | Contents, Support, About                          |
 class CNerixViewerPlugin : public Core::Plugin::IPlugin
 {
     Q_OBJECT
 
 public:
-    explicit CNerixViewerPlugin(QObject *parent = nullptr);
+    explicit CNerixViewerPlugin(WindowMode mode, QObject *parent = nullptr);
     ~CNerixViewerPlugin() override;
 
     bool preInitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
@@ -39,11 +47,18 @@ public:
 
 private:
     void createMenus(AppCore::IMenuControlService &menuService);
-    void createQuitAction(AppCore::IMenuControlService &menuService);
+    void createQuitEntry(AppCore::IMenuControlService &menuService);
+    void createOptions(AppCore::IMenuControlService &menuService);
+    void addPanelEntry(QDockWidget &panel);
+    void showWindow();
+    void leaveWindow();
 
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
     QSharedPointer<CApplicationService> m_applicationService;
-    QAction *m_quitAction = nullptr;
+    QSharedPointer<CMessageService> m_messageService;
+    QSharedPointer<CMainWindowService> m_windowService; // null without windows
+    std::unique_ptr<CAppearance> m_appearance;          // likewise
+    std::unique_ptr<QObject> m_entries;                 // owns the actions
 };
 
 } // namespace NerixViewer

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/nerixviewer/CMainWindow.h"
+
+#include "windows/OnLanguageChange.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+
+namespace Plugin {
+namespace NerixViewer {
+
+namespace {
+
+const QLatin1String geometryKey("MainWindow/Geometry");
+const QLatin1String stateKey("MainWindow/State");
+
+// A layout of another version is not used, since its panels may be others.
+constexpr int layoutVersion = 1;
+
+constexpr QSize firstSize(1280, 800);
+
+Qt::DockWidgetArea areaOf(CMainWindow::Side side)
+{
+    switch (side) {
+    case CMainWindow::Side::Left:
+        return Qt::LeftDockWidgetArea;
+    case CMainWindow::Side::Right:
+        return Qt::RightDockWidgetArea;
+    case CMainWindow::Side::Bottom:
+        break;
+    }
+    return Qt::BottomDockWidgetArea;
+}
+
+} // namespace
+
+CMainWindow::CMainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_toolBar(new QToolBar(this))
+{
+    resize(firstSize);
+    setObjectName(QStringLiteral("MainWindow"));
+    setDockNestingEnabled(true);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    m_toolBar->setObjectName(QStringLiteral("MainWindow.ToolBar"));
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    addToolBar(m_toolBar);
+    statusBar();
+    Windows::onLanguageChange(this, [this] {
+        setWindowTitle(tr("Nerix Viewer"));
+        m_toolBar->setWindowTitle(tr("Tool Bar"));
+    });
+}
+
+CMainWindow::~CMainWindow() = default;
+
+void CMainWindow::setMenus(const QList<QMenu *> &menus)
+{
+    for (QMenu *menu : menus) {
+        menuBar()->addMenu(menu);
+    }
+}
+
+QDockWidget *CMainWindow::addPanel(const QString &name, QWidget *panel, Side side)
+{
+    auto *dock = new QDockWidget(panel->windowTitle(), this);
+    dock->setObjectName(name);
+    dock->setWidget(panel);
+    connect(panel, &QWidget::windowTitleChanged, dock, &QWidget::setWindowTitle);
+    connect(panel, &QObject::destroyed, dock, &QObject::deleteLater);
+    addDockWidget(areaOf(side), dock);
+    return dock;
+}
+
+void CMainWindow::addToolBarAction(QAction *action)
+{
+    m_toolBar->addAction(action);
+}
+
+void CMainWindow::restoreLayout()
+{
+    m_builtState = saveState(layoutVersion);
+    const QSettings settings;
+    restoreGeometry(settings.value(geometryKey).toByteArray());
+    restoreState(settings.value(stateKey).toByteArray(), layoutVersion);
+}
+
+void CMainWindow::saveLayout() const
+{
+    QSettings settings;
+    settings.setValue(geometryKey, saveGeometry());
+    settings.setValue(stateKey, saveState(layoutVersion));
+}
+
+void CMainWindow::resetLayout()
+{
+    restoreState(m_builtState, layoutVersion);
+}
+
+void CMainWindow::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    Q_EMIT closeRequested();
+}
+
+} // namespace NerixViewer
+} // namespace Plugin
