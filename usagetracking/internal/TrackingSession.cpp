@@ -53,12 +53,13 @@ void CUsageTrackingProvider::stopTracking()
 
 void CUsageTrackingProvider::onEnumerationChanged()
 {
-    // Once a session; the next start subscribes again. Changes that were queued before the signal
-    // was disconnected still come here: only the first one finds the connection.
+    // Once a session; the next start subscribes again.
     const bool first = disconnect(m_enumerationService.data(),
                                   &CameraPool::ICameraEnumerationService::enumerationChanged, this,
                                   &CUsageTrackingProvider::onEnumerationChanged);
-    if (!first) {
+    // Changes that were queued before the signal was disconnected still come here.
+    const bool alreadySent = m_sdkInstance && !first;
+    if (alreadySent) {
         return;
     }
     QJsonObject record = sessionRecord(QStringLiteral("InitialCameraCount"));

@@ -10,48 +10,53 @@
 #include <FeatureTree/IFeatureTreeStatusService.h>
 #include <ParameterCollectionPool/IParameterService.h>
 
+#include <functional>
+
 #include <QMap>
 #include <QMetaMethod>
 
-/// The services that only emit signals; the test emits them. They remember whether anyone listens.
-class FakeCameraStatusService : public CameraPool::ICameraStatusService
+/// A service that only emits signals; the test emits them. It tells who listens, and when.
+template <class Interface>
+class FakeSignals : public Interface
 {
 public:
-    FakeCameraStatusService()
-        : ICameraStatusService(nullptr)
+    FakeSignals()
+        : Interface(nullptr)
     {}
 
     /// How many receivers \a signal has.
     template <class Signal>
     int receiverCount(Signal signal) const
     {
-        return receivers(('2' + QMetaMethod::fromSignal(signal).methodSignature()).constData());
+        return this->receivers(
+            ('2' + QMetaMethod::fromSignal(signal).methodSignature()).constData());
+    }
+
+    /// Called with the name of each signal that is connected or disconnected, in the thread that
+    /// does so.
+    std::function<void(const QString &signal)> onConnected;
+    std::function<void(const QString &signal)> onDisconnected;
+
+protected:
+    void connectNotify(const QMetaMethod &signal) override
+    {
+        if (onConnected) {
+            onConnected(QString::fromLatin1(signal.name()));
+        }
+    }
+
+    void disconnectNotify(const QMetaMethod &signal) override
+    {
+        if (onDisconnected) {
+            onDisconnected(QString::fromLatin1(signal.name()));
+        }
     }
 };
 
-class FakeEnumerationService : public CameraPool::ICameraEnumerationService
-{
-public:
-    FakeEnumerationService()
-        : ICameraEnumerationService(nullptr)
-    {}
-};
-
-class FakeDeviceSelectorService : public CameraSelector::IDeviceSelectorService
-{
-public:
-    FakeDeviceSelectorService()
-        : IDeviceSelectorService(nullptr)
-    {}
-};
-
-class FakeFeatureTreeService : public FeatureTree::IFeatureTreeStatusService
-{
-public:
-    FakeFeatureTreeService()
-        : IFeatureTreeStatusService(nullptr)
-    {}
-};
+using FakeCameraStatusService = FakeSignals<CameraPool::ICameraStatusService>;
+using FakeEnumerationService = FakeSignals<CameraPool::ICameraEnumerationService>;
+using FakeDeviceSelectorService = FakeSignals<CameraSelector::IDeviceSelectorService>;
+using FakeFeatureTreeService = FakeSignals<FeatureTree::IFeatureTreeStatusService>;
 
 /// Hands out the collections that the test puts in.
 class FakeParameterService : public ParameterCollectionPool::IParameterService

@@ -221,6 +221,41 @@ private Q_SLOTS:
                                     : "enabled: shown 0, applied 0, selected 0, apply 0"});
     }
 
+    void storedAnswerCountsEvenIfItIsHeldAlready_data()
+    {
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<bool>("stored");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("an answered page, the applied answer")
+            << "ya" << true << "enabled: shown 1, applied 1, selected 1, apply 0";
+        QTest::newRow("an answered page, the pending answer: applied, Apply stays")
+            << "yan" << false << "enabled: shown 0, applied 0, selected 1, apply 1";
+        QTest::newRow("an answered page, the other answer: shown, Apply stays")
+            << "yan" << true << "enabled: shown 1, applied 1, selected 1, apply 1";
+        QTest::newRow("a pending first answer, the same: applied, Apply stays")
+            << "y" << true << "enabled: shown 1, applied 1, selected 0, apply 1";
+        QTest::newRow("a pending first answer, the other one: shown, Apply stays")
+            << "y" << false << "enabled: shown 0, applied 0, selected 0, apply 1";
+    }
+
+    void storedAnswerCountsEvenIfItIsHeldAlready()
+    {
+        QFETCH(QString, steps);
+        QFETCH(bool, stored);
+        QFETCH(QString, told);
+        Page page;
+        for (const QChar step : steps) {
+            if (step == QLatin1Char('a')) {
+                page.apply();
+            } else {
+                page.click(step == QLatin1Char('y'));
+            }
+        }
+        page.log.take();
+        page.controller.setDataPrivacyOptInEnabled(stored, false);
+        QCOMPARE(page.log.take(), QStringList(told));
+    }
+
     void storedFlagTellsOnlyAChange()
     {
         Page page;

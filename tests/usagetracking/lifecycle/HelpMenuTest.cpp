@@ -39,6 +39,16 @@ private Q_SLOTS:
         QCOMPARE(f.host.menu->registeredAction->parent(), f.plugin.get());
     }
 
+    void helpMenuEntryHasTheShieldOfItsResources()
+    {
+        PluginFixture f;
+        f.initialize();
+        const QImage shield = QIcon(QStringLiteral(NERIX_SHIELD)).pixmap(16).toImage();
+        QVERIFY(!shield.isNull());
+        QCOMPARE(f.host.menu->registeredAction->icon().pixmap(16).toImage(), shield);
+        QVERIFY(QFile::exists(QStringLiteral(":/usagetracking/resources/shield_blue_16.svg")));
+    }
+
     void helpMenuEntryShowsTheTabForThePlugin()
     {
         PluginFixture f;

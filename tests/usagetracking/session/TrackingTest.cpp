@@ -1,16 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 
-// What tracking listens to, and the events of a session.
+// What is heard while tracking, and the events of a session.
 
 #include "TestMain.h"
 #include "TrackingFixture.h"
 
 #include <QSemaphore>
-
-using CameraPool::ICameraEnumerationService;
-using CameraPool::ICameraStatusService;
-using CameraPool::IDeviceStatusService;
 
 namespace {
 
@@ -36,40 +32,7 @@ class TrackingTest : public QObject
 {
     Q_OBJECT
 
-private:
-    static QList<int> receiverCounts(const TrackingFixture &f)
-    {
-        const auto &cameras = *f.host.cameraStatus;
-        return {
-            cameras.receiverCount(&ICameraStatusService::deviceConnected),
-            cameras.receiverCount(&ICameraStatusService::deviceDisconnected),
-            cameras.receiverCount(&IDeviceStatusService::deviceOpened),
-            cameras.receiverCount(&IDeviceStatusService::deviceClosing),
-            cameras.receiverCount(&ICameraStatusService::cameraGrabStarted),
-            cameras.receiverCount(&ICameraStatusService::cameraGrabStopped),
-            cameras.receiverCount(&ICameraStatusService::cameraImageGrabbed),
-            cameras.receiverCount(&ICameraStatusService::cameraStatisticUpdated),
-        };
-    }
-
 private Q_SLOTS:
-    void startSubscribesOnceToEverySignalAndStopUnsubscribes()
-    {
-        TrackingFixture f;
-        f.start();
-        QCOMPARE(receiverCounts(f), QList<int>({1, 1, 1, 1, 1, 1, 1, 1}));
-        f.stop();
-        QCOMPARE(receiverCounts(f), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
-    }
-
-    void connectionsAreNotUnique()
-    {
-        TrackingFixture f;
-        f.start();
-        f.start();
-        QCOMPARE(receiverCounts(f), QList<int>({2, 2, 2, 2, 2, 2, 2, 2}));
-    }
-
     void nothingIsHeardBeforeTheStartAndAfterTheStop()
     {
         TrackingFixture f;
@@ -126,27 +89,6 @@ private Q_SLOTS:
                  QList<QString>{QStringLiteral("@CameraDevice")});
         QCOMPARE(seenOnReturn.size(), 1);
         QVERIFY(seenOnReturn.at(0).contains(QLatin1String("\"EventName\":\"Closed\"")));
-    }
-
-    void otherSignalsDoNotBlockTheEmitter()
-    {
-        TrackingFixture f;
-        const auto camera = f.host.makeCamera("A");
-        f.startQuietly();
-        QSemaphore release;
-        QMetaObject::invokeMethod(
-            f.provider, [&] { release.acquire(); }, Qt::QueuedConnection);
-        f.host.inCameraThread([&] {
-            Q_EMIT f.host.cameraStatus->deviceConnected(camera);
-            Q_EMIT f.host.cameraStatus->deviceOpened(camera);
-            Q_EMIT f.host.cameraStatus->cameraGrabStarted(camera);
-            Q_EMIT f.host.cameraStatus->cameraGrabStopped(camera);
-            Q_EMIT f.host.cameraStatus->deviceDisconnected(camera);
-        });
-        QCOMPARE(f.analytics.calls(), QStringList());
-        release.release();
-        f.settle();
-        QVERIFY(!f.analytics.calls().isEmpty());
     }
 
     void initialCameraCountIsSentOncePerSession()

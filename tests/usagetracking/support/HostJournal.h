@@ -18,7 +18,8 @@ public:
         m_entries.append(question);
     }
 
-    /// The row since the last call. An event is noted as "send NAME".
+    /// The row since the last call. An event is noted as "send NAME", any other call to the
+    /// analytics library by its function.
     QStringList take()
     {
         noteSent();
@@ -31,7 +32,11 @@ private:
     void noteSent()
     {
         for (const QString &call : RecordingAnalytics::instance().takeCalls()) {
-            m_entries.append(QStringLiteral("send ") + call.section(QStringLiteral(" | "), 2, 2));
+            const QString function = call.section(QLatin1Char('('), 0, 0);
+            m_entries.append(function.startsWith(QLatin1String("ruiTrackEvent"))
+                                 ? QStringLiteral("send ")
+                                       + call.section(QStringLiteral(" | "), 2, 2)
+                                 : function);
         }
     }
 

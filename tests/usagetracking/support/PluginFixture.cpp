@@ -3,6 +3,8 @@
 
 #include "PluginFixture.h"
 
+#include "TestConfiguration.h"
+
 #include <QEventLoop>
 #include <QTimer>
 
@@ -11,6 +13,7 @@ using namespace Plugin::UsageTracking;
 PluginFixture::PluginFixture()
     : plugin(new CUsageTrackingPlugin)
 {
+    useTestAnalyticsConfiguration();
     plugin->setObjectName(QStringLiteral("UsageTracking"));
 }
 

@@ -3,6 +3,8 @@
 
 #include "TrackingFixture.h"
 
+#include "TestConfiguration.h"
+
 #include <QMetaMethod>
 #include <QMetaObject>
 #include <QStandardPaths>
@@ -13,6 +15,7 @@ TrackingFixture::TrackingFixture()
     : provider(new CUsageTrackingProvider)
 {
     analytics.reset();
+    useTestAnalyticsConfiguration();
     servicesFound = provider->acquireServices(&host);
     provider->moveToThread(&trackingThread);
     QObject::connect(&trackingThread, &QThread::finished, provider, &QObject::deleteLater);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "application/BuiltInPlugins.h"
+
 #include "application/CommandLine.h"
 #include "support/CSettingsSandbox.h"
 #include "support/Texts.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "application/CommandLine.h"
+
 #include "support/Texts.h"
 
 #include <QTemporaryFile>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "application/DeviceClosing.h"
+
 #include "support/CFakeCameraControl.h"
 
 #include <pluginsystem/CServiceRegistry.h>

@@ -15,9 +15,18 @@ class CThrower : public QObject
     Q_OBJECT
 
 public Q_SLOTS:
-    void throwStandard() { throw std::runtime_error("no device"); }
-    void throwOther() { throw 7; }
-    void release(QSemaphore *semaphore) { semaphore->release(); }
+    void throwStandard()
+    {
+        throw std::runtime_error("no device");
+    }
+    void throwOther()
+    {
+        throw 7;
+    }
+    void release(QSemaphore *semaphore)
+    {
+        semaphore->release();
+    }
 };
 
 class GuardedApplicationTest : public QObject

@@ -3,13 +3,13 @@
 
 #include "application/CQuitSignals.h"
 
+#include <unistd.h>
+
 #include <csignal>
 
 #include <QSemaphore>
 #include <QTest>
 #include <QThread>
-
-#include <unistd.h>
 
 using Application::CQuitSignals;
 

@@ -128,8 +128,9 @@ void ScriptFeaturesTest::testFailureSaysWhatToDo_data()
 {
     QTest::addColumn<QByteArray>("script");
     QTest::addColumn<QString>("failure");
-    QTest::newRow("no such camera") << QByteArray("features.get('X', 'Gain')")
-                                    << "test.js:1: there is no camera \"X\" (connected: A-1, closed)";
+    QTest::newRow("no such camera")
+        << QByteArray("features.get('X', 'Gain')")
+        << "test.js:1: there is no camera \"X\" (connected: A-1, closed)";
     QTest::newRow("a camera that is not open")
         << QByteArray("features.get('closed', 'Gain')")
         << "test.js:1: camera \"closed\" has no features to show: open it first";

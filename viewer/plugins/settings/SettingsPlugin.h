@@ -12,8 +12,8 @@ namespace Settings {
 /// The built-in plug-in "Settings": decides where the default `QSettings` of every other plug-in
 /// keeps its values.
 ///
-/// Organisation "Ostrand", application "nerix-viewer", INI format. The names also give the folder in
-/// which plug-ins keep their data. Whatever the file system refuses, the viewer goes on; it then
+/// Organisation "Ostrand", application "nerix-viewer", INI format. The names also give the folder
+/// in which plug-ins keep their data. Whatever the file system refuses, the viewer goes on; it then
 /// remembers nothing, and says so once.
 class CSettingsPlugin : public Core::Plugin::IPlugin
 {
