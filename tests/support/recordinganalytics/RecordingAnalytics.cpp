@@ -47,7 +47,8 @@ QStringList RecordingAnalytics::calls() const
 QStringList RecordingAnalytics::callsIn(const QThread *thread) const
 {
     QStringList texts;
-    for (const RecordedCall &call : recorded()) {
+    const QMutexLocker lock(&m_mutex);
+    for (const RecordedCall &call : m_calls) {
         if (call.thread == thread) {
             texts.append(call.text);
         }
