@@ -87,8 +87,9 @@ void addCameras(CPluginManager &manager)
     manager.addBuiltIn(
         metaData("ParameterCollectionPool", "The parameters of open cameras.", {"CameraPool"}),
         factory<ParameterCollectionPool::CParameterCollectionPoolPlugin>());
-    manager.addBuiltIn(metaData("CameraSelector", "Which device is selected.", {"CameraPool"}),
-                       factory<CameraSelector::CCameraSelectorPlugin>());
+    manager.addBuiltIn(
+        metaData("CameraSelector", "Which device is selected.", {"CameraPool", "NerixViewer"}),
+        factory<CameraSelector::CCameraSelectorPlugin>());
     manager.addBuiltIn(
         metaData("FeatureTree", "Which feature is current.", {"ParameterCollectionPool"}),
         factory<FeatureTree::CFeatureTreePlugin>());

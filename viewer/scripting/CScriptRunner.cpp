@@ -14,6 +14,7 @@
 #include "scripting/CScriptPlugins.h"
 #include "scripting/CScriptSettings.h"
 #include "scripting/CScriptWelcome.h"
+#include "scripting/CScriptWindows.h"
 #include "scripting/ScriptError.h"
 
 #include <pluginsystem/CPluginManager.h>
@@ -105,6 +106,7 @@ void CScriptRunner::addObjects()
     addObject("plugins", new CScriptPlugins(m_plugins, this));
     addObject("settings", new CScriptSettings(this));
     addObject("welcome", new CScriptWelcome(services, this));
+    addObject("windows", new CScriptWindows(services, this));
 }
 
 void CScriptRunner::addObject(const char *name, QObject *object)

@@ -4,10 +4,19 @@
 #include "plugins/cameraselector/CameraSelectorPlugin.h"
 
 #include "plugins/camerapool/ICameraControlService.h"
+#include "plugins/cameraselector/CCameraCommands.h"
+#include "plugins/cameraselector/CCameraListModel.h"
+#include "plugins/cameraselector/CCameraPanel.h"
 #include "plugins/cameraselector/CDeviceSelectionService.h"
+#include "plugins/nerixviewer/IMainWindowService.h"
+#include "plugins/nerixviewer/IMessageService.h"
 
 #include <CameraPool/ICameraEnumerationService.h>
+#include <CameraPool/ICameraStatusService.h>
 #include <Core/Plugin/ServiceLookup.h>
+#include <Plugin/AppCore/IMenuService.h>
+
+#include <chrono>
 
 #include <QLoggingCategory>
 
@@ -16,6 +25,9 @@ namespace CameraSelector {
 namespace {
 
 Q_LOGGING_CATEGORY(log, "nerix.cameraselector", QtInfoMsg)
+
+// Another program that takes or leaves a camera is no news of the camera pool.
+constexpr std::chrono::seconds refreshInterval(1);
 
 } // namespace
 
@@ -41,14 +53,100 @@ bool CCameraSelectorPlugin::initialize()
         m_firstSearch = connect(search.data(), &ICameraEnumerationService::enumerationChanged, this,
                                 &CCameraSelectorPlugin::onFirstSearchEnded);
     }
+    addCommands();
     return true;
 }
 
 bool CCameraSelectorPlugin::uninitialize(
     const QPointer<Core::Plugin::IPluginInitializer> &initializer)
 {
+    m_refreshTimer.stop();
+    delete m_panel;
+    m_model.reset();
+    m_commands.reset();
     initializer->removeService(m_service);
     return true;
+}
+
+void CCameraSelectorPlugin::addCommands()
+{
+    const auto control =
+        Core::Plugin::findService<CameraPool::ICameraControlService>(m_initializer);
+    const auto menus = Core::Plugin::findService<Plugin::AppCore::IMenuService>(m_initializer);
+    if (!control || !menus) {
+        return;
+    }
+    m_commands = std::make_unique<CCameraCommands>(control, m_service);
+    m_commands->addEntries(*menus);
+    connect(control.data(), &CameraPool::ICameraControlService::openFailed, this,
+            [this](const auto &, const QString &message) { onOpenFailed(message); });
+    connectNews();
+    addPanel();
+}
+
+void CCameraSelectorPlugin::addPanel()
+{
+    using Plugin::NerixViewer::IMainWindowService;
+    const auto window = Core::Plugin::findService<IMainWindowService>(m_initializer);
+    if (!window) {
+        return;
+    }
+    m_model = std::make_unique<CCameraListModel>(
+        Core::Plugin::findService<CameraPool::ICameraControlService>(m_initializer));
+    m_panel = new CCameraPanel(*m_model, *m_commands, m_service);
+    window->addPanel(QStringLiteral("CameraSelector.Cameras"), m_panel,
+                     IMainWindowService::Side::Left);
+    window->addToolBarAction(m_commands->openAction());
+    window->addToolBarAction(m_commands->closeAction());
+    connect(&m_refreshTimer, &QTimer::timeout, this, &CCameraSelectorPlugin::refresh);
+    m_refreshTimer.start(refreshInterval);
+}
+
+void CCameraSelectorPlugin::connectNews()
+{
+    using CameraPool::ICameraControlService;
+    using CameraPool::ICameraEnumerationService;
+    using CameraPool::ICameraStatusService;
+    const auto refreshOn = [this](const auto &service, auto... signal) {
+        if (service) {
+            (connect(service.data(), signal, this, &CCameraSelectorPlugin::refresh), ...);
+        }
+    };
+    refreshOn(Core::Plugin::findService<ICameraStatusService>(m_initializer),
+              &ICameraStatusService::deviceOpened, &ICameraStatusService::deviceConnected,
+              &ICameraStatusService::deviceDisconnected, &ICameraStatusService::cameraGrabStarted,
+              &ICameraStatusService::cameraGrabStopped);
+    refreshOn(Core::Plugin::findService<ICameraControlService>(m_initializer),
+              &ICameraControlService::closed);
+    refreshOn(Core::Plugin::findService<ICameraEnumerationService>(m_initializer),
+              &ICameraEnumerationService::enumerationChanged);
+    if (const auto status = Core::Plugin::findService<ICameraStatusService>(m_initializer)) {
+        connect(status.data(), &ICameraStatusService::deviceOpened, this,
+                [this] { onOpenFailed({}); });
+    }
+}
+
+void CCameraSelectorPlugin::refresh()
+{
+    if (m_commands) {
+        m_commands->update();
+    }
+    if (m_model) {
+        m_model->refresh();
+    }
+}
+
+// An empty message: something was opened.
+void CCameraSelectorPlugin::onOpenFailed(const QString &message)
+{
+    using Plugin::NerixViewer::IMessageService;
+    if (m_panel) {
+        m_panel->setProblem(message);
+    }
+    const auto messages = Core::Plugin::findService<IMessageService>(m_initializer);
+    if (messages && !message.isEmpty()) {
+        messages->add(IMessageService::Severity::Error, message);
+    }
 }
 
 void CCameraSelectorPlugin::onFirstSearchEnded()

@@ -4,14 +4,21 @@
 
 #include <Core/Plugin/IPlugin.h>
 
+#include <memory>
+
+#include <QPointer>
 #include <QSharedPointer>
+#include <QTimer>
 
 namespace CameraSelector {
 
+class CCameraCommands;
+class CCameraListModel;
+class CCameraPanel;
 class CDeviceSelectionService;
 
 /// The built-in plug-in "CameraSelector": tells which device is selected, and what to do if there
-/// is none to select.
+/// is none to select. Its are the list of cameras and the entries that open and close one.
 class CCameraSelectorPlugin : public Core::Plugin::IPlugin
 {
     Q_OBJECT
@@ -25,11 +32,20 @@ public:
     bool uninitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
 
 private:
+    void addCommands();
+    void addPanel();
+    void connectNews();
     void onFirstSearchEnded();
+    void onOpenFailed(const QString &message);
+    void refresh();
 
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
     QMetaObject::Connection m_firstSearch;
     QSharedPointer<CDeviceSelectionService> m_service;
+    std::unique_ptr<CCameraCommands> m_commands; // null without a camera pool
+    std::unique_ptr<CCameraListModel> m_model;   // null without windows
+    QPointer<CCameraPanel> m_panel;              // likewise; the window may delete it
+    QTimer m_refreshTimer;
 };
 
 } // namespace CameraSelector

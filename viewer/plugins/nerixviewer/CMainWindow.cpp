@@ -25,6 +25,19 @@ constexpr int layoutVersion = 1;
 
 constexpr QSize firstSize(1280, 800);
 
+// The width, or for the bottom the height, of the panels until the user drags them.
+int firstExtent(Qt::DockWidgetArea area)
+{
+    switch (area) {
+    case Qt::LeftDockWidgetArea:
+        return 280;
+    case Qt::RightDockWidgetArea:
+        return 420;
+    default:
+        return 120;
+    }
+}
+
 Qt::DockWidgetArea areaOf(CMainWindow::Side side)
 {
     switch (side) {
@@ -86,10 +99,21 @@ void CMainWindow::addToolBarAction(QAction *action)
 
 void CMainWindow::restoreLayout()
 {
+    setFirstSizes();
     m_builtState = saveState(layoutVersion);
     const QSettings settings;
     restoreGeometry(settings.value(geometryKey).toByteArray());
     restoreState(settings.value(stateKey).toByteArray(), layoutVersion);
+}
+
+void CMainWindow::setFirstSizes()
+{
+    const auto docks = findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QDockWidget *dock : docks) {
+        const Qt::DockWidgetArea area = dockWidgetArea(dock);
+        const auto direction = area == Qt::BottomDockWidgetArea ? Qt::Vertical : Qt::Horizontal;
+        resizeDocks({dock}, {firstExtent(area)}, direction);
+    }
 }
 
 void CMainWindow::saveLayout() const

@@ -50,6 +50,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void setFirstSizes();
+
     QToolBar *m_toolBar;
     QByteArray m_builtState;
 };

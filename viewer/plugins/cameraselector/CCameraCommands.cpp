@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/cameraselector/CCameraCommands.h"
+
+#include "plugins/cameraselector/IDeviceSelectionService.h"
+#include "windows/MenuEntry.h"
+
+#include <utility>
+
+#include <QAction>
+#include <QApplication>
+#include <QStyle>
+
+namespace CameraSelector {
+
+using CameraPool::ICameraControlService;
+using Core::CameraPoolComponents::CameraInfoPtr;
+using Core::CameraPoolComponents::ICameraInfo;
+
+namespace {
+
+bool isOpen(ICameraControlService::CameraState state)
+{
+    return state == ICameraControlService::Open || state == ICameraControlService::Grabbing;
+}
+
+} // namespace
+
+CCameraCommands::CCameraCommands(QSharedPointer<ICameraControlService> control,
+                                 QSharedPointer<IDeviceSelectionService> selection)
+    : m_control(std::move(control))
+    , m_selection(std::move(selection))
+{
+    connect(m_selection.data(), &IDeviceSelectorService::selectionChanged, this,
+            &CCameraCommands::update);
+}
+
+CCameraCommands::~CCameraCommands() = default;
+
+void CCameraCommands::addEntries(Plugin::AppCore::IMenuService &menus)
+{
+    m_open = Windows::addMenuEntry(
+        menus,
+        {"CameraSelector.Action.Open", "NerixViewer.Menu.Camera", "NerixViewer.Group.Camera.Device",
+         QKeySequence(Qt::CTRL + Qt::Key_O)},
+        [] { return tr("&Open Camera"); }, this);
+    m_open->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogOpenButton));
+    connect(m_open, &QAction::triggered, this, [this] { m_control->open(selected()); });
+
+    m_close = Windows::addMenuEntry(
+        menus,
+        {"CameraSelector.Action.Close", "NerixViewer.Menu.Camera",
+         "NerixViewer.Group.Camera.Device", QKeySequence(Qt::CTRL + Qt::Key_W)},
+        [] { return tr("&Close Camera"); }, this);
+    m_close->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogCloseButton));
+    connect(m_close, &QAction::triggered, this, [this] { m_control->close(selected()); });
+    update();
+}
+
+void CCameraCommands::update()
+{
+    if (!m_open) {
+        return;
+    }
+    const CameraInfoPtr camera = selected();
+    const auto state = camera ? m_control->state(camera) : ICameraControlService::Gone;
+    // One in use elsewhere may be free the next moment: who tries is told.
+    m_open->setEnabled(state == ICameraControlService::Free
+                       || state == ICameraControlService::InUseElsewhere);
+    m_close->setEnabled(isOpen(state));
+}
+
+void CCameraCommands::openOrClose(const CameraInfoPtr &camera)
+{
+    if (!camera) {
+        return;
+    }
+    if (isOpen(m_control->state(camera))) {
+        m_control->close(camera);
+    } else {
+        m_control->open(camera);
+    }
+}
+
+QAction *CCameraCommands::openAction() const
+{
+    return m_open;
+}
+
+QAction *CCameraCommands::closeAction() const
+{
+    return m_close;
+}
+
+CameraInfoPtr CCameraCommands::selected() const
+{
+    return qSharedPointerDynamicCast<ICameraInfo>(m_selection->selected());
+}
+
+} // namespace CameraSelector

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/cameraselector/CCameraListModel.h"
+
+#include "plugins/cameraselector/CameraStateLook.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace CameraSelector {
+
+CCameraListModel::CCameraListModel(QSharedPointer<CameraPool::ICameraControlService> control,
+                                   QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_control(std::move(control))
+{
+    refresh();
+}
+
+CCameraListModel::~CCameraListModel() = default;
+
+void CCameraListModel::refresh()
+{
+    addNew();
+    updateStates();
+}
+
+void CCameraListModel::addNew()
+{
+    const auto cameras = m_control->cameras();
+    for (const CameraInfoPtr &camera : cameras) {
+        const int row = rowOf(camera->identity());
+        if (row >= 0) {
+            m_rows[row].camera = camera; // its name may be another one now
+            continue;
+        }
+        beginInsertRows({}, m_rows.size(), m_rows.size());
+        m_rows.append({camera, m_control->state(camera)});
+        endInsertRows();
+    }
+}
+
+void CCameraListModel::updateStates()
+{
+    for (int row = 0; row < m_rows.size(); ++row) {
+        const CameraState state = m_control->state(m_rows.at(row).camera);
+        if (state != m_rows.at(row).state) {
+            m_rows[row].state = state;
+            Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+        }
+    }
+}
+
+int CCameraListModel::rowOf(const QString &identity) const
+{
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](const CRow &row) {
+        return row.camera->identity() == identity;
+    });
+    return found == m_rows.end() ? -1 : int(found - m_rows.begin());
+}
+
+void CCameraListModel::retranslate()
+{
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+    if (!m_rows.isEmpty()) {
+        Q_EMIT dataChanged(index(0, 0), index(m_rows.size() - 1, ColumnCount - 1));
+    }
+}
+
+CCameraListModel::CameraInfoPtr CCameraListModel::cameraAt(const QModelIndex &index) const
+{
+    return checkIndex(index, CheckIndexOption::IndexIsValid) ? m_rows.at(index.row()).camera
+                                                             : CameraInfoPtr();
+}
+
+QModelIndex CCameraListModel::indexOf(const CameraInfoPtr &camera) const
+{
+    const int row = camera ? rowOf(camera->identity()) : -1;
+    return row < 0 ? QModelIndex() : index(row, 0);
+}
+
+int CCameraListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rows.size();
+}
+
+int CCameraListModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant CCameraListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const CRow &row = m_rows.at(index.row());
+    const bool isName = index.column() == CameraColumn;
+    switch (role) {
+    case Qt::DisplayRole:
+        return isName ? row.camera->displayName() : stateText(row.state);
+    case Qt::DecorationRole:
+        return isName ? stateIcon(row.state) : QVariant();
+    case Qt::ToolTipRole:
+        return QStringLiteral("%1 %2\n%3")
+            .arg(row.camera->vendorName(), row.camera->modelName(), row.camera->identity());
+    case Qt::ForegroundRole:
+        return row.state == CameraPool::ICameraControlService::Gone
+                   ? QVariant(QGuiApplication::palette().color(QPalette::Disabled, QPalette::Text))
+                   : QVariant();
+    case Qt::AccessibleTextRole:
+        return isName
+                   ? QStringLiteral("%1, %2").arg(row.camera->displayName(), stateText(row.state))
+                   : stateText(row.state);
+    default:
+        return {};
+    }
+}
+
+QVariant CCameraListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return {};
+    }
+    return section == CameraColumn ? tr("Camera") : tr("State");
+}
+
+} // namespace CameraSelector

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "scripting/CScriptWindows.h"
+
+#include <QApplication>
+#include <QPixmap>
+#include <QWidget>
+
+namespace Scripting {
+
+QStringList CScriptWindows::titles()
+{
+    QStringList titles;
+    const auto windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        if (window->isVisible()) {
+            titles.append(window->windowTitle());
+        }
+    }
+    titles.sort();
+    return titles;
+}
+
+void CScriptWindows::resize(const QString &title, int width, int height)
+{
+    if (QWidget *window = find(title)) {
+        window->resize(width, height);
+    }
+}
+
+void CScriptWindows::save(const QString &title, const QString &file)
+{
+    QWidget *window = find(title);
+    if (window && !window->grab().save(file)) {
+        fail(QStringLiteral("%1 cannot be written: name a file that can, with the suffix .png")
+                 .arg(file));
+    }
+}
+
+QWidget *CScriptWindows::find(const QString &title)
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->isVisible() && window->windowTitle() == title) {
+            return window;
+        }
+    }
+    fail(QStringLiteral("no window \"%1\" is shown: windows.titles() gives those that are, and a "
+                        "script has windows only with --show-windows")
+             .arg(title));
+    return nullptr;
+}
+
+} // namespace Scripting
