@@ -38,7 +38,8 @@ Q_SIGNALS:
     /// of the stream can be read already.
     void cameraGrabStopped(QSharedPointer<Core::CameraPoolComponents::ICameraInfo> ptrCameraInfo);
 
-    /// An image arrived, or failed to: `grabResult` says which.
+    /// An image arrived, or failed to: `grabResult` says which. It tells of the image and does not
+    /// carry its pixels.
     void cameraImageGrabbed(QSharedPointer<Core::CameraPoolComponents::ICameraInfo> ptrCameraInfo,
                             const Nerix::CGrabResultPtr &grabResult);
 

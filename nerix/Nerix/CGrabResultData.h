@@ -13,21 +13,21 @@
 
 namespace Nerix {
 
-/// The pixels of an image, as the camera sent them.
+/// An image, as the camera sent it.
 struct CImage
 {
     int width = 0;  ///< pixels
     int height = 0; ///< pixels
     std::uint32_t pixelFormat =
         0; ///< code of the Pixel Format Naming Convention, for example Mono8
-    std::vector<std::uint8_t> data;
+    std::vector<std::uint8_t> data; ///< the pixels; empty where only the image is told of
 };
 
 /// The outcome of grabbing one image. Immutable, so every thread may read it.
 class NERIXCORE_EXPORT CGrabResultData
 {
 public:
-    /// A whole image.
+    /// A whole image, with or without its pixels.
     explicit CGrabResultData(CImage image);
 
     /// An image that failed, with the transport's code and a description, which may be null.
@@ -41,7 +41,11 @@ public:
     /// Null for an image that succeeded, or where the transport gives no description.
     GenICam::gcstring GetErrorDescription() const;
 
-    /// The pixels; empty for an image that failed.
+    /// What the camera sent; without width, height and format for an image that failed.
+    ///
+    /// The results of `CameraPool::ICameraStatusService::cameraImageGrabbed` carry no pixels: they
+    /// wait in the queue of each plug-in that listens, and a plug-in that is busy would otherwise
+    /// fill the memory.
     const CImage &image() const;
 
 private:

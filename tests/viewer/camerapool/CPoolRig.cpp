@@ -70,7 +70,7 @@ void CPoolRig::listenToGrabs()
                 m_lastFailure = message;
                 note("grabFailed", camera);
             });
-    connect(status.get(), &CCameraStatus::cameraImageGrabbed, this,
+    connect(m_pool->images().get(), &CImageNews::resultArrived, this,
             [=](const CameraInfoPtr &camera, const Nerix::CGrabResultPtr &result) {
                 Grabbed &grabbed = m_grabbed[serial(camera)];
                 (result->GrabSucceeded() ? grabbed.images : grabbed.failures).append(result);

@@ -7,6 +7,11 @@
 #include "plugins/camerapool/CDevice.h"
 #include "plugins/camerapool/CDeviceStore.h"
 
+#include <atomic>
+#include <memory>
+#include <vector>
+
+#include <QMutex>
 #include <QTest>
 #include <QThread>
 
@@ -23,6 +28,8 @@ private Q_SLOTS:
 
     void continuousGrabGivesImagesUntilItIsStopped();
     void singleGrabGivesOneImageAndStopsByItself();
+    void pluginsHearOfEachImageWithoutItsPixels();
+    void receiverThatStallsKeepsNoPixelsInMemory();
     void figuresAreToldEachSecondAndAtTheEnd();
     void countersAreThoseOfTheLastGrab();
     void countersAreReadableWhenTheEndIsToldAndAfterClosing();
@@ -106,6 +113,68 @@ void GrabTest::singleGrabGivesOneImageAndStopsByItself()
     QCOMPARE(m_rig->grabbed(A1).images.size(), 1);
     QCOMPARE(m_rig->grabbed(A1).imagesGrabbed, 1);
     QCOMPARE(m_rig->grabbed(A1).imagesFailed, 0);
+}
+
+void GrabTest::pluginsHearOfEachImageWithoutItsPixels()
+{
+    QList<Nerix::CGrabResultPtr> heard;
+    connect(m_rig->pool().status().get(), &CCameraStatus::cameraImageGrabbed, m_rig.get(),
+            [&heard](const CPoolRig::CameraInfoPtr &, const Nerix::CGrabResultPtr &result) {
+                heard.append(result);
+            });
+    m_rig->pool().control()->grabContinuous(m_camera);
+    QVERIFY(m_rig->waitForImages(A1, 10));
+    m_rig->pool().control()->stopGrab(m_camera);
+    QVERIFY(m_rig->waitFor(QStringLiteral("grabStopped A1")));
+
+    QCOMPARE(heard.size(), m_rig->grabbed(A1).images.size());
+    for (const auto &result : heard) {
+        QVERIFY(result->GrabSucceeded());
+        QCOMPARE(result->image().width, 512);
+        QCOMPARE(result->image().height, 512);
+        QCOMPARE(result->image().pixelFormat, 17301505u);
+        QVERIFY(result->image().data.empty());
+    }
+}
+
+// The receiver's thread does not run, so that the news of every image wait in its queue.
+void GrabTest::receiverThatStallsKeepsNoPixelsInMemory()
+{
+    QThread stalledThread;
+    auto receiver = std::make_unique<QObject>();
+    receiver->moveToThread(&stalledThread);
+    std::atomic<int> heard{0};
+    connect(m_rig->pool().status().get(), &CCameraStatus::cameraImageGrabbed, receiver.get(),
+            [&heard] { ++heard; });
+    QMutex mutex;
+    std::vector<std::weak_ptr<const Nerix::CGrabResultData>> images;
+    QObject::disconnect(m_rig->pool().images().get(), nullptr, m_rig.get(), nullptr);
+    connect(
+        m_rig->pool().images().get(), &CImageNews::resultArrived, m_rig.get(),
+        [&](const CPoolRig::CameraInfoPtr &, const Nerix::CGrabResultPtr &result) {
+            const QMutexLocker lock(&mutex);
+            images.push_back(result);
+        },
+        Qt::DirectConnection);
+    m_rig->pool().control()->grabContinuous(m_camera);
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            const QMutexLocker lock(&mutex);
+            return images.size() >= 20;
+        },
+        30000));
+    m_rig->pool().control()->stopGrab(m_camera);
+    QVERIFY(m_rig->waitFor(QStringLiteral("grabStopped A1")));
+
+    QCOMPARE(heard.load(), 0);
+    for (const auto &image : images) {
+        QVERIFY(image.expired());
+    }
+    QMetaObject::invokeMethod(
+        receiver.get(), [&stalledThread] { stalledThread.quit(); }, Qt::QueuedConnection);
+    stalledThread.start();
+    QVERIFY(stalledThread.wait());
+    QCOMPARE(heard.load(), int(images.size()));
 }
 
 void GrabTest::figuresAreToldEachSecondAndAtTheEnd()

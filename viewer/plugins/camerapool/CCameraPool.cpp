@@ -17,11 +17,12 @@ CCameraPool::CCameraPool(std::unique_ptr<ICameraSearch> search, const CPoolTimin
     : m_status(QSharedPointer<CCameraStatus>::create())
     , m_enumeration(QSharedPointer<CCameraEnumeration>::create())
     , m_control(QSharedPointer<CCameraControl>::create())
+    , m_images(QSharedPointer<CImageNews>::create())
     , m_devices(QSharedPointer<CDeviceStore>::create())
-    , m_worker(
-          std::make_unique<CPoolWorker>(CPoolWorker::Outlets{m_status.get(), m_enumeration.get(),
-                                                             m_control.get(), m_devices.get()},
-                                        std::move(search), timing))
+    , m_worker(std::make_unique<CPoolWorker>(CPoolWorker::Outlets{m_status.get(), m_images.get(),
+                                                                  m_enumeration.get(),
+                                                                  m_control.get(), m_devices.get()},
+                                             std::move(search), timing))
 {
     m_control->setWorker(m_worker.get());
     m_thread.setObjectName(QStringLiteral("CameraPool"));

@@ -16,6 +16,7 @@ class CCameraControl;
 class CCameraEnumeration;
 class CCameraStatus;
 class CDeviceStore;
+class CImageNews;
 class CPoolWorker;
 
 /// The camera pool: its services, its thread, its worker. Owned and called in the GUI thread.
@@ -52,6 +53,10 @@ public:
     {
         return m_control;
     }
+    QSharedPointer<CImageNews> images() const
+    {
+        return m_images;
+    }
     QSharedPointer<CDeviceStore> devices() const
     {
         return m_devices;
@@ -61,6 +66,7 @@ private:
     const QSharedPointer<CCameraStatus> m_status;
     const QSharedPointer<CCameraEnumeration> m_enumeration;
     const QSharedPointer<CCameraControl> m_control;
+    const QSharedPointer<CImageNews> m_images;
     const QSharedPointer<CDeviceStore> m_devices;
     std::unique_ptr<CPoolWorker> m_worker;
     QThread m_thread;

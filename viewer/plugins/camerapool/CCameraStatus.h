@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "IImageService.h"
+
 #include <CameraPool/ICameraEnumerationService.h>
 #include <CameraPool/ICameraStatusService.h>
 
@@ -23,6 +25,15 @@ class CCameraEnumeration : public ICameraEnumerationService
 
 public:
     CCameraEnumeration() = default;
+};
+
+/// The images, as the grabs emit them.
+class CImageNews : public IImageService
+{
+    Q_OBJECT
+
+public:
+    CImageNews() = default;
 };
 
 } // namespace CameraPool

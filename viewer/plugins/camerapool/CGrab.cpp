@@ -30,6 +30,17 @@ std::chrono::steady_clock::time_point now()
     return std::chrono::steady_clock::now();
 }
 
+// What is told to plug-ins, which may be slow: a queue of these stays small.
+Nerix::CGrabResultPtr withoutPixels(const Nerix::CGrabResultPtr &result)
+{
+    if (!result->GrabSucceeded()) {
+        return result;
+    }
+    const Nerix::CImage &image = result->image();
+    return std::make_shared<Nerix::CGrabResultData>(
+        Nerix::CImage{image.width, image.height, image.pixelFormat, {}});
+}
+
 } // namespace
 
 CGrab::CGrab(QSharedPointer<CDevice> device, GrabMode mode, Listeners listeners)
@@ -126,7 +137,8 @@ void CGrab::tell(const Nerix::CGrabResultPtr &result, CGrabFigures *figures)
     } else {
         figures->addFailure();
     }
-    Q_EMIT m_listeners.status->cameraImageGrabbed(m_info, result);
+    Q_EMIT m_listeners.images->resultArrived(m_info, result);
+    Q_EMIT m_listeners.status->cameraImageGrabbed(m_info, withoutPixels(result));
 }
 
 void CGrab::tellFigures(const CGrabFigures::Figures &figures)

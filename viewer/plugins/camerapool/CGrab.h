@@ -18,11 +18,12 @@ namespace CameraPool {
 
 class CCameraStatus;
 class CDevice;
+class CImageNews;
 
 /// One grab, from start to stop, in a thread of its own, in which its signals are emitted:
-/// `cameraGrabStarted`, then `cameraImageGrabbed` for each image and `cameraStatisticUpdated` each
-/// second, at the end `cameraStatisticUpdated` once more and `cameraGrabStopped`. A grab that
-/// cannot be started emits nothing.
+/// `cameraGrabStarted`, then `resultArrived` and `cameraImageGrabbed` for each image and
+/// `cameraStatisticUpdated` each second, at the end `cameraStatisticUpdated` once more and
+/// `cameraGrabStopped`. A grab that cannot be started emits nothing.
 class CGrab
 {
 public:
@@ -30,6 +31,7 @@ public:
     struct Listeners
     {
         CCameraStatus *status; ///< emits the signals; outlives the grab
+        CImageNews *images;    ///< emits the images with their pixels; outlives the grab
 
         /// Called before the last signal. Must not wait.
         std::function<void()> onStopping;

@@ -154,6 +154,7 @@ void CPoolWorker::startGrab(const CameraInfoPtr &camera, GrabMode mode)
     m_grabs.remove(identity); // waits until the earlier one has told its end
     CGrab::Listeners listeners;
     listeners.status = m_outlets.status;
+    listeners.images = m_outlets.images;
     listeners.onStopping = [control = m_outlets.control, identity] {
         control->noteGrabEnd(identity);
     };

@@ -40,6 +40,7 @@ public:
     struct Outlets
     {
         CCameraStatus *status;
+        CImageNews *images;
         CCameraEnumeration *enumeration;
         CCameraControl *control;
         CDeviceStore *devices;

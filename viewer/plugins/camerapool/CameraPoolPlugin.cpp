@@ -22,6 +22,7 @@ bool CCameraPoolPlugin::preInitialize(const QPointer<IPluginInitializer> &initia
     initializer->addService(m_pool->enumeration());
     initializer->addService(m_pool->control());
     initializer->addService(m_pool->devices());
+    initializer->addService(m_pool->images());
     connect(initializer, &IPluginInitializer::initializationDone, this,
             [this] { m_pool->beginSearching(); });
     return true;
@@ -40,6 +41,7 @@ bool CCameraPoolPlugin::uninitialize(const QPointer<IPluginInitializer> &initial
     }
     m_pool->stop();
     if (initializer) {
+        initializer->removeService(m_pool->images());
         initializer->removeService(m_pool->devices());
         initializer->removeService(m_pool->control());
         initializer->removeService(m_pool->enumeration());

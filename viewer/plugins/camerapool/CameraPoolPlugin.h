@@ -11,7 +11,7 @@ namespace CameraPool {
 class CCameraPool;
 
 /// The built-in plug-in "CameraPool". Offers `ICameraStatusService`, `ICameraEnumerationService`,
-/// `ICameraControlService` and `IDeviceProvider`.
+/// `ICameraControlService`, `IDeviceProvider` and `IImageService`.
 class CCameraPoolPlugin : public Core::Plugin::IPlugin
 {
     Q_OBJECT
