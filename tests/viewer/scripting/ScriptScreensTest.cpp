@@ -13,8 +13,10 @@
 #include <Plugin/AppCore/IActionContainer.h>
 
 #include <QAction>
+#include <QImage>
 #include <QTest>
 #include <QUrl>
+#include <QWidget>
 
 class ScriptScreensTest : public QObject
 {
@@ -38,6 +40,11 @@ private Q_SLOTS:
     void testLanguageIsSwitched();
     void testSettingsAreRead();
     void testPluginsAreListed();
+
+    void testWindowsAreNamedByTheirTitles();
+    void testWindowIsResizedAndItsPictureSaved();
+    void testWindowThatIsNotShownIsAnError();
+    void testPictureThatCannotBeWrittenIsAnError();
 
 private:
     QScopedPointer<CSettingsSandbox> m_sandbox;
@@ -220,6 +227,51 @@ void ScriptScreensTest::testPluginsAreListed()
     CScriptRun run;
     QCOMPARE(run.run("print(plugins.list().length);"), QString());
     QCOMPARE(run.printed(), texts({"0"}));
+}
+
+void ScriptScreensTest::testWindowsAreNamedByTheirTitles()
+{
+    QWidget shown;
+    shown.setWindowTitle("Shown");
+    shown.show();
+    QWidget hidden;
+    hidden.setWindowTitle("Hidden");
+    CScriptRun run;
+    QCOMPARE(run.run("print(windows.titles());"), QString());
+    QCOMPARE(run.printed(), texts({"Shown"}));
+}
+
+void ScriptScreensTest::testWindowIsResizedAndItsPictureSaved()
+{
+    QWidget window;
+    window.setWindowTitle("Main");
+    window.show();
+    const QString file = m_sandbox->path() + "/main.png";
+    CScriptRun run;
+    QCOMPARE(run.run("windows.resize('Main', 320, 240);\n"
+                     "windows.save('Main', '"
+                     + file.toUtf8() + "');"),
+             QString());
+    QCOMPARE(QImage(file).size(), QSize(320, 240));
+}
+
+void ScriptScreensTest::testWindowThatIsNotShownIsAnError()
+{
+    CScriptRun run;
+    QCOMPARE(run.run("windows.save('Main', 'main.png');"),
+             QString("test.js:1: no window \"Main\" is shown: windows.titles() gives those "
+                     "that are, and a script has windows only with --show-windows"));
+}
+
+void ScriptScreensTest::testPictureThatCannotBeWrittenIsAnError()
+{
+    QWidget window;
+    window.setWindowTitle("Main");
+    window.show();
+    CScriptRun run;
+    QCOMPARE(run.run("windows.save('Main', '/no/such/folder/main.png');"),
+             QString("test.js:1: /no/such/folder/main.png cannot be written: name a file that "
+                     "can, with the suffix .png"));
 }
 
 QTEST_MAIN(ScriptScreensTest)

@@ -32,6 +32,11 @@ void CFakeCameraControl::unplug(const CameraInfoPtr &camera)
     m_states.insert(camera->identity(), Gone);
 }
 
+void CFakeCameraControl::setState(const CameraInfoPtr &camera, CameraState state)
+{
+    m_states.insert(camera->identity(), state);
+}
+
 void CFakeCameraControl::failToOpen(const char *message)
 {
     m_openFailure = QString::fromUtf8(message);

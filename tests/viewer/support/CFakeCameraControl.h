@@ -23,6 +23,7 @@ public:
     CameraInfoPtr plugIn(const char *identity, const char *model = "XQZ-2000",
                          const char *displayName = nullptr);
     void unplug(const CameraInfoPtr &camera);
+    void setState(const CameraInfoPtr &camera, CameraState state);
 
     // The next `open` fails with this.
     void failToOpen(const char *message);

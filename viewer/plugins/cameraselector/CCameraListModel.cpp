@@ -73,8 +73,7 @@ void CCameraListModel::retranslate()
 
 CCameraListModel::CameraInfoPtr CCameraListModel::cameraAt(const QModelIndex &index) const
 {
-    return checkIndex(index, CheckIndexOption::IndexIsValid) ? m_rows.at(index.row()).camera
-                                                             : CameraInfoPtr();
+    return index.isValid() ? m_rows.at(index.row()).camera : CameraInfoPtr();
 }
 
 QModelIndex CCameraListModel::indexOf(const CameraInfoPtr &camera) const
