@@ -17,6 +17,110 @@ Item {
 
     implicitWidth: Constants.width
     implicitHeight: Constants.height - 65
+    focus: true
+
+    Keys.onRightPressed: walk(true)
+    Keys.onDownPressed: walk(true)
+    Keys.onLeftPressed: walk(false)
+    Keys.onUpPressed: walk(false)
+
+    // The arrow keys go where Tab and Shift+Tab go.
+    function walk(forward) {
+        const start = dataPrivacyPage.nextItemInFocusChain(true);
+        let current = dataPrivacyPage;
+        for (let item = start; current === dataPrivacyPage && item; ) {
+            if (item.activeFocus)
+                current = item;
+            item = item.nextItemInFocusChain(true);
+            if (item === start)
+                break;
+        }
+        const reason = forward ? Qt.TabFocusReason : Qt.BacktabFocusReason;
+        current.nextItemInFocusChain(forward).forceActiveFocus(reason);
+    }
+
+    // Where a link stands, line by line. A text tells which link is at a point, but not this.
+    function areasOf(label, link) {
+        const step = 3;
+        const areas = [];
+        for (let y = 0; y < label.height; y += step) {
+            const hits = [];
+            for (let x = 0; x < label.width; x += step) {
+                if (label.linkAt(x, y) === link)
+                    hits.push(x);
+            }
+            if (hits.length === 0)
+                continue;
+            const left = hits[0];
+            const right = hits[hits.length - 1] + step;
+            const last = areas[areas.length - 1];
+            if (last && last.bottom === y && last.left === left && last.right === right)
+                last.bottom = y + step;
+            else
+                areas.push({ "left": left, "right": right, "top": y, "bottom": y + step });
+        }
+        return areas;
+    }
+
+    // The links of a text for the keyboard: Tab stops at each of them, Space and Enter follow it.
+    Component {
+        id: linkStops
+
+        Repeater {
+            id: stops
+
+            readonly property var links: label.text.match(/<a href="[^"]*">[^<]*/g) || []
+
+            model: links.length
+
+            Item {
+                id: stop
+                objectName: "linkStop"
+
+                readonly property var parts: (stops.links[index] || "").split(/"|>/)
+                readonly property string target: parts[1] || ""
+                readonly property var areas: activeFocus ? dataPrivacyPage.areasOf(label, target)
+                                                         : []
+
+                function follow() {
+                    label.linkActivated(target);
+                }
+
+                x: areas.reduce((edge, area) => Math.min(edge, area.left), areas.length ? 1e6 : 0)
+                y: areas.length ? areas[0].top : 0
+                width: areas.reduce((edge, area) => Math.max(edge, area.right - x),
+                                    areas.length ? 0 : label.width)
+                height: areas.length ? areas[areas.length - 1].bottom - y : label.height
+                activeFocusOnTab: true
+
+                Accessible.role: Accessible.Link
+                Accessible.name: parts[3] || ""
+                Accessible.focusable: true
+                Accessible.onPressAction: follow()
+
+                Keys.onSpacePressed: follow()
+                Keys.onReturnPressed: follow()
+                Keys.onEnterPressed: follow()
+
+                Repeater {
+                    model: stop.areas
+
+                    Rectangle {
+                        objectName: "linkFrame"
+
+                        x: modelData.left - stop.x - 2
+                        y: modelData.top - stop.y - 1
+                        width: modelData.right - modelData.left + 4
+                        height: modelData.bottom - modelData.top + 2
+                        radius: 2
+                        color: "transparent"
+                        border.color: "#007ad9"
+                        border.width: 2
+                    }
+                }
+            }
+        }
+    }
 
     // An answer was clicked: the first click shows its selection before anything is applied.
     Item {
@@ -117,6 +221,12 @@ Item {
 
                 onLinkActivated: _dataPrivacyController.onDataPrivacyLinkClicked(link)
 
+                Loader {
+                    readonly property Text label: parent
+
+                    sourceComponent: linkStops
+                }
+
                 MouseArea {
                     anchors.fill: parent
                     acceptedButtons: Qt.NoButton
@@ -158,6 +268,12 @@ Item {
 
                 onLinkActivated: _dataPrivacyController.onDataPrivacyLinkClicked(link)
 
+                Loader {
+                    readonly property Text label: parent
+
+                    sourceComponent: linkStops
+                }
+
                 MouseArea {
                     anchors.fill: parent
                     acceptedButtons: Qt.NoButton
@@ -186,7 +302,13 @@ Item {
                     font.pixelSize: 16
                     enabled: _dataPrivacyController.dataPrivacyApplyEnabled
 
-                    onClicked: _dataPrivacyController.onDataPrivacyApplyClicked()
+                    onClicked: {
+                        const byKeyboard = applyButton.visualFocus;
+                        _dataPrivacyController.onDataPrivacyApplyClicked();
+                        // A button that is disabled now would leave the keyboard nowhere.
+                        if (byKeyboard)
+                            closeButton.forceActiveFocus(Qt.TabFocusReason);
+                    }
                 }
 
                 NerixFlatButton {

@@ -33,6 +33,16 @@ T.RadioButton {
     background: buttonBackground
     contentItem: textItem
 
+    Keys.onReturnPressed: choose()
+    Keys.onEnterPressed: choose()
+
+    // As a click and the space bar do.
+    function choose() {
+        if (!control.checked)
+            control.toggle();
+        control.clicked();
+    }
+
     Rectangle {
         id: buttonBackground
         objectName: "buttonBackground"

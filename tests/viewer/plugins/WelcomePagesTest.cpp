@@ -3,6 +3,7 @@
 
 #include "plugins/nerixwelcome/CNerixWelcomeController.h"
 #include "plugins/nerixwelcome/CWelcomePages.h"
+#include "support/CPageTab.h"
 #include "support/CSettingsSandbox.h"
 
 #include <Plugin/NerixWelcome/INerixWelcomeTab.h>
@@ -11,7 +12,6 @@
 #include <QQmlContext>
 #include <QQuickItem>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
 
@@ -19,37 +19,6 @@ using Plugin::NerixWelcome::CNerixWelcomeController;
 using Plugin::NerixWelcome::CWelcomePages;
 
 namespace {
-
-// A tab whose page is a text of the test.
-class CPageTab : public Plugin::NerixWelcome::INerixWelcomeTab
-{
-public:
-    explicit CPageTab(const QString &qml, bool setsUp = true)
-        : m_setsUp(setsUp)
-    {
-        title = QStringLiteral("News");
-        QFile page(m_folder.filePath(QStringLiteral("Page.qml")));
-        if (page.open(QIODevice::WriteOnly)) {
-            page.write(qml.toUtf8());
-        }
-        qmlSource = QUrl::fromLocalFile(page.fileName());
-    }
-
-    bool setupQmlContext(QQmlContext *context) override
-    {
-        context->setContextProperty(QStringLiteral("_greeting"), QStringLiteral("Hello"));
-        return m_setsUp;
-    }
-
-    void loseThePage()
-    {
-        QFile::remove(qmlSource.toLocalFile());
-    }
-
-private:
-    QTemporaryDir m_folder;
-    bool m_setsUp;
-};
 
 // Every text is "translated".
 class CTranslator : public QTranslator
@@ -163,7 +132,7 @@ void WelcomePagesTest::testPageThatCannotBeShownSaysWhy()
     QFETCH(bool, lost);
     QFETCH(QString, reason);
     CWelcomePages pages(m_controller);
-    CPageTab tab(qml, setsUp);
+    CPageTab tab(qml, "News", setsUp);
     if (lost) {
         tab.loseThePage();
     }

@@ -102,6 +102,7 @@ void CNerixWelcomeController::start()
 void CNerixWelcomeController::show()
 {
     setVisible(true);
+    Q_EMIT showRequested();
 }
 
 bool CNerixWelcomeController::showTab(const INerixWelcomeTab *tab)
@@ -111,7 +112,7 @@ bool CNerixWelcomeController::showTab(const INerixWelcomeTab *tab)
         return false;
     }
     setCurrentIndex(index);
-    setVisible(true);
+    show();
     return true;
 }
 

@@ -75,6 +75,9 @@ Q_SIGNALS:
     void tabsChanged();
     void currentIndexChanged();
     void visibleChanged();
+
+    /// Somebody wants to see the screen, which may be there already, behind others.
+    void showRequested();
     void applyFromTabsIsNeededChanged();
     void showAtStartupChanged();
 

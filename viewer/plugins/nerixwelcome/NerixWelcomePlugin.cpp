@@ -3,11 +3,13 @@
 
 #include "plugins/nerixwelcome/NerixWelcomePlugin.h"
 
+#include "plugins/nerixviewer/IMainWindowService.h"
 #include "plugins/nerixwelcome/CNerixWelcomeController.h"
 #include "plugins/nerixwelcome/CNerixWelcomeService.h"
+#include "plugins/nerixwelcome/CWelcomeWindow.h"
+#include "windows/MenuEntry.h"
 
 #include <Core/Plugin/ServiceLookup.h>
-#include <Plugin/AppCore/IActionContainer.h>
 #include <Plugin/AppCore/IMenuService.h>
 
 #include <QAction>
@@ -21,7 +23,10 @@ CNerixWelcomePlugin::CNerixWelcomePlugin(QObject *parent)
     , m_service(QSharedPointer<CNerixWelcomeService>::create(m_controller))
 {}
 
-CNerixWelcomePlugin::~CNerixWelcomePlugin() = default;
+CNerixWelcomePlugin::~CNerixWelcomePlugin()
+{
+    delete m_window;
+}
 
 bool CNerixWelcomePlugin::preInitialize(
     const QPointer<Core::Plugin::IPluginInitializer> &initializer)
@@ -37,12 +42,14 @@ bool CNerixWelcomePlugin::preInitialize(
 bool CNerixWelcomePlugin::initialize()
 {
     addMenuEntry();
+    addWindow();
     return true;
 }
 
 bool CNerixWelcomePlugin::uninitialize(
     const QPointer<Core::Plugin::IPluginInitializer> &initializer)
 {
+    delete m_window;
     delete m_showAction;
     m_showAction = nullptr;
     initializer->removeService(m_controller);
@@ -52,14 +59,20 @@ bool CNerixWelcomePlugin::uninitialize(
 
 void CNerixWelcomePlugin::addMenuEntry()
 {
-    using Core::AppCoreComponents::CContext;
-    const auto menuService = Core::Plugin::findService<AppCore::IMenuService>(m_initializer);
-    m_showAction = new QAction(tr("&Welcome Screen"), this);
+    const auto menus = Core::Plugin::findService<AppCore::IMenuService>(m_initializer);
+    m_showAction = Windows::addMenuEntry(
+        *menus,
+        {"NerixWelcome.Action.Show", "NerixViewer.Menu.View", "NerixViewer.Group.View.Screens"},
+        [] { return tr("&Welcome Screen"); }, this);
     connect(m_showAction, &QAction::triggered, m_controller.data(), &CNerixWelcomeController::show);
-    auto *command = menuService->registerAction(m_showAction, Core::CId("NerixWelcome.Action.Show"),
-                                                CContext(Core::CId("AppCore.Global.Context")));
-    menuService->findActionContainer(Core::CId("NerixViewer.Menu.View"))
-        ->addCommand(command, Core::CId("NerixViewer.Group.View.Screens"));
+}
+
+void CNerixWelcomePlugin::addWindow()
+{
+    const auto windows = Core::Plugin::findService<NerixViewer::IMainWindowService>(m_initializer);
+    if (windows) {
+        m_window = new CWelcomeWindow(*m_controller, windows->window());
+    }
 }
 
 } // namespace NerixWelcome

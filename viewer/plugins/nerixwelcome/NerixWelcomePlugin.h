@@ -13,15 +13,18 @@ namespace NerixWelcome {
 
 class CNerixWelcomeController;
 class CNerixWelcomeService;
+class CWelcomeWindow;
 
 /// The built-in plug-in "NerixWelcome": the welcome screen with the tabs of other plug-ins, and the
-/// entry of the View menu that brings it up.
+/// entry of the View menu that brings it up. In a run without windows it has all but the window.
 class CNerixWelcomePlugin : public Core::Plugin::IPlugin
 {
     Q_OBJECT
 
 public:
     explicit CNerixWelcomePlugin(QObject *parent = nullptr);
+
+    /// The window goes while the tabs of the other plug-ins are still there.
     ~CNerixWelcomePlugin() override;
 
     bool preInitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
@@ -30,10 +33,12 @@ public:
 
 private:
     void addMenuEntry();
+    void addWindow();
 
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
     QSharedPointer<CNerixWelcomeController> m_controller;
     QSharedPointer<CNerixWelcomeService> m_service;
+    QPointer<CWelcomeWindow> m_window;
     QAction *m_showAction = nullptr;
 };
 

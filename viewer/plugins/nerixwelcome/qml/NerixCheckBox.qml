@@ -24,6 +24,25 @@ T.CheckBox {
     font: Constants.font
     hoverEnabled: true
 
+    Keys.onReturnPressed: control.flip()
+    Keys.onEnterPressed: control.flip()
+
+    // As a click and the space bar do.
+    function flip() {
+        control.toggle();
+        control.toggled();
+        control.clicked();
+    }
+
+    // Where the keyboard is; the indicator alone looks alike with and without it once checked.
+    background: Rectangle {
+        radius: 2
+        color: "transparent"
+        border.color: control.accent
+        border.width: 1
+        visible: control.visualFocus
+    }
+
     indicator: Rectangle {
         implicitWidth: 20
         implicitHeight: 20

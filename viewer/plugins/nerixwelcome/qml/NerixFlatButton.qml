@@ -16,6 +16,9 @@ T.Button {
     font: Constants.font
     hoverEnabled: true
 
+    Keys.onReturnPressed: control.clicked()
+    Keys.onEnterPressed: control.clicked()
+
     contentItem: Text {
         text: control.text
         font: control.font

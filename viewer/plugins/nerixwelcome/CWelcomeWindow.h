@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "plugins/nerixwelcome/CWelcomePages.h"
+
+#include <vector>
+
+#include <QDialog>
+
+class QLabel;
+class QStackedWidget;
+class QTabBar;
+
+namespace Plugin {
+namespace NerixWelcome {
+
+class CNerixWelcomeController;
+class CWelcomePageView;
+class INerixWelcomeTab;
+
+/// The welcome screen: a row of tabs and the page of the current one. GUI thread.
+///
+/// It is there exactly while the controller says that the screen is visible. Shown while a tab
+/// holds a question, it blocks the other windows, and Esc and the close box only say why it stays.
+class CWelcomeWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// \a controller must outlive the window. \a parent is over what it stands.
+    explicit CWelcomeWindow(CNerixWelcomeController &controller, QWidget *parent = nullptr);
+
+    /// The pages go while the tabs are still there.
+    ~CWelcomeWindow() override;
+
+    /// Every way in which a user closes the window.
+    void done(int result) override;
+
+private:
+    struct Tab
+    {
+        INerixWelcomeTab *tab;
+        CWelcomePageView *view; ///< null until the tab is current
+    };
+
+    void setTexts();
+    void connectController();
+    void layOut();
+    void updateTabs();
+    void removeTab(int index);
+    void insertTab(int index, INerixWelcomeTab *tab);
+    void showCurrentPage();
+    void followVisibility();
+    void followQuestion();
+    void bringUp();
+    void comeToTheFront();
+    void fitToScreen();
+    void sayWhyItStays();
+
+    CNerixWelcomeController &m_controller;
+    CWelcomePages m_pages;
+    std::vector<Tab> m_tabs;
+    QTabBar *m_tabBar;
+    QStackedWidget *m_views;
+    QLabel *m_notice;
+};
+
+} // namespace NerixWelcome
+} // namespace Plugin
