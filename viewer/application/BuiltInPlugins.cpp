@@ -9,6 +9,7 @@
 #include "plugins/camerapool/CameraPoolPlugin.h"
 #include "plugins/cameraselector/CameraSelectorPlugin.h"
 #include "plugins/featuretree/FeatureTreePlugin.h"
+#include "plugins/grabbing/GrabbingPlugin.h"
 #include "plugins/help/HelpPlugin.h"
 #include "plugins/localization/LocalizationPlugin.h"
 #include "plugins/nerixviewer/NerixViewerPlugin.h"
@@ -95,6 +96,13 @@ void addCameras(CPluginManager &manager)
         factory<FeatureTree::CFeatureTreePlugin>());
 }
 
+void addImages(CPluginManager &manager)
+{
+    manager.addBuiltIn(
+        metaData("Grabbing", "Grabs with the selected camera.", {"CameraSelector", "NerixViewer"}),
+        factory<Grabbing::CGrabbingPlugin>());
+}
+
 } // namespace
 
 void addBuiltInPlugins(CPluginManager &manager, const CommandLine &commandLine)
@@ -102,6 +110,7 @@ void addBuiltInPlugins(CPluginManager &manager, const CommandLine &commandLine)
     addFoundations(manager, commandLine);
     addApplication(manager, commandLine);
     addCameras(manager);
+    addImages(manager);
 }
 
 } // namespace Application

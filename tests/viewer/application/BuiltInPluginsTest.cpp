@@ -16,7 +16,7 @@ class BuiltInPluginsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void testAreTheTenThatAPluginCanCountOn();
+    void testHasTheTenThatAPluginCanCountOn();
     void testEachStandsInForVersionsSinceSevenZero();
     void testAllRunAndEnd();
 };
@@ -32,7 +32,7 @@ void start(PluginSystem::CPluginManager &manager, const CSettingsSandbox &sandbo
 
 } // namespace
 
-void BuiltInPluginsTest::testAreTheTenThatAPluginCanCountOn()
+void BuiltInPluginsTest::testHasTheTenThatAPluginCanCountOn()
 {
     const CSettingsSandbox sandbox;
     PluginSystem::CPluginManager manager;
@@ -42,10 +42,12 @@ void BuiltInPluginsTest::testAreTheTenThatAPluginCanCountOn()
     for (const auto *plugin : plugins) {
         names.append(plugin->name());
     }
-    names.sort();
-    QCOMPARE(names, texts({"AppCore", "CameraPool", "CameraSelector", "FeatureTree", "Help",
-                           "Localization", "NerixViewer", "NerixWelcome", "ParameterCollectionPool",
-                           "Settings"}));
+    const QStringList counted =
+        texts({"AppCore", "CameraPool", "CameraSelector", "FeatureTree", "Help", "Localization",
+               "NerixViewer", "NerixWelcome", "ParameterCollectionPool", "Settings"});
+    for (const QString &name : counted) {
+        QCOMPARE(names.count(name), 1);
+    }
 }
 
 void BuiltInPluginsTest::testEachStandsInForVersionsSinceSevenZero()

@@ -25,6 +25,9 @@ public:
     void unplug(const CameraInfoPtr &camera);
     void setState(const CameraInfoPtr &camera, CameraState state);
 
+    // What `state` says from now on. `open` and `close` change it too.
+    void setState(const CameraInfoPtr &camera, CameraState state);
+
     // The next `open` fails with this.
     void failToOpen(const char *message);
 
