@@ -24,6 +24,8 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xauth iproute2 util-linux procps sqlite3 openssl strace python3 clang-format
     fonts-dejavu-core fonts-noto-cjk
+    # Debian packages, and what checks that a desktop understands ours
+    dpkg-dev appstream desktop-file-utils
 )
 
 missing=()
