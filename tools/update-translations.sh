@@ -3,8 +3,9 @@
 # SPDX-License-Identifier: MIT
 #
 # update-translations.sh [FOLDER]: brings the catalogues in FOLDER (without one: translation/) up to
-# date with the texts of the plug-in. A new text stands there without a translation, a text that is
-# gone is removed. The English catalogue stays empty: the texts in the source are English.
+# date with the texts of the plug-in and of the viewer. A new text stands there without a
+# translation, a text that is gone is removed. The English catalogues stay empty: the texts in the
+# source are English.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 folder=$(cd "${1:-$root/translation}" && pwd)
@@ -15,15 +16,23 @@ lupdate=/usr/lib/qt5/bin/lupdate
     exit 1
 }
 
-catalogues=()
-for language in ja ko zh; do
-    file=$folder/UsageTracking_$language.ts
-    [[ ! -e $file ]] || catalogues+=("$file")
-done
-if [[ ${#catalogues[@]} -eq 0 ]]; then
-    echo "update-translations: $folder has no UsageTracking_ja.ts, _ko.ts or _zh.ts" >&2
+found=0
+# update NAME SOURCES: the catalogues that are there of those with this name
+update() {
+    local name=$1 sources=$2 catalogues=() language
+    for language in ja ko zh; do
+        [[ ! -e $folder/${name}_$language.ts ]] || catalogues+=("$folder/${name}_$language.ts")
+    done
+    [[ ${#catalogues[@]} -gt 0 ]] || return 0
+    found=1
+    "$lupdate" -silent -locations none -no-obsolete -source-language en "$sources" \
+        -ts "${catalogues[@]}"
+}
+
+cd "$root"
+update UsageTracking usagetracking
+update NerixViewer viewer
+if [[ $found -eq 0 ]]; then
+    echo "update-translations: $folder has no UsageTracking_*.ts or NerixViewer_*.ts to update" >&2
     exit 1
 fi
-cd "$root"
-exec "$lupdate" -silent -locations none -no-obsolete -source-language en usagetracking \
-    -ts "${catalogues[@]}"

@@ -29,6 +29,9 @@ private Q_SLOTS:
     void testLanguageOfTheSettingsIsSetBeforeOthersMakeTheirTexts();
     void testNewLanguageTakesEffectAtOnceAndIsKept();
     void testEmptyLanguageFollowsTheSystemAgain();
+    void testChoiceIsEmptyWhileTheSystemIsFollowed();
+    void testTextsOfQtFollow_data();
+    void testTextsOfQtFollow();
 
 private:
     void start();
@@ -100,6 +103,37 @@ void LocalizationPluginTest::testEmptyLanguageFollowsTheSystemAgain()
     m_service->setLanguage({});
     QCOMPARE(m_languages, texts({"ko", "en"}));
     QVERIFY(!QSettings().contains(languageKey));
+}
+
+void LocalizationPluginTest::testChoiceIsEmptyWhileTheSystemIsFollowed()
+{
+    start();
+    QCOMPARE(m_service->choice(), QString());
+    m_service->setLanguage(QStringLiteral("en"));
+    QCOMPARE(m_service->choice(), QStringLiteral("en"));
+}
+
+void LocalizationPluginTest::testTextsOfQtFollow_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("cancel");
+    QTest::newRow("ja") << "ja" << QStringLiteral(u"\u30ad\u30e3\u30f3\u30bb\u30eb");
+    QTest::newRow("ko") << "ko" << QStringLiteral(u"\ucde8\uc18c");
+    QTest::newRow("zh") << "zh" << QStringLiteral(u"\u53d6\u6d88");
+    QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral(u"\u53d6\u6d88");
+}
+
+// They are Qt's own catalogues, a package beside Qt.
+void LocalizationPluginTest::testTextsOfQtFollow()
+{
+    QFETCH(QString, language);
+    start();
+    const auto cancel = [] { return QCoreApplication::translate("QPlatformTheme", "Cancel"); };
+    QCOMPARE(cancel(), QStringLiteral("Cancel"));
+    m_service->setLanguage(language);
+    QTEST(cancel(), "cancel");
+    m_service->setLanguage(QStringLiteral("en"));
+    QCOMPARE(cancel(), QStringLiteral("Cancel"));
 }
 
 int main(int argc, char **argv)

@@ -484,13 +484,13 @@ void WelcomeWindowTest::testTextsFollowTheLanguage()
     makeWindow();
     m_controller->start();
     close(Way::Escape);
-    QCOMPARE(m_window->windowTitle(), QStringLiteral("Welcome to the nerix Viewer"));
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("Welcome to the Nerix Viewer"));
     CTranslator translator;
     QCoreApplication::installTranslator(&translator);
     QCOMPARE(m_window->windowTitle(), QStringLiteral("translated %1"));
     QCOMPARE(notice()->text(), QStringLiteral("translated Privacy"));
     QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(m_window->windowTitle(), QStringLiteral("Welcome to the nerix Viewer"));
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("Welcome to the Nerix Viewer"));
 }
 
 QTEST_MAIN(WelcomeWindowTest)

@@ -33,8 +33,13 @@ CLanguageService::~CLanguageService() = default;
 
 QString CLanguageService::language() const
 {
-    const QString chosen = QSettings().value(languageKey).toString();
+    const QString chosen = choice();
     return chosen.isEmpty() ? systemLanguage() : chosen;
+}
+
+QString CLanguageService::choice() const
+{
+    return QSettings().value(languageKey).toString();
 }
 
 void CLanguageService::setLanguage(const QString &language)
@@ -51,6 +56,7 @@ void CLanguageService::setLanguage(const QString &language)
 void CLanguageService::apply()
 {
     const QString current = language();
+    m_qtTexts.setLanguage(current);
     m_switchPlugins(current);
     Q_EMIT languageChanged(current);
 }

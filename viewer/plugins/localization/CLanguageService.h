@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "plugins/localization/CQtTexts.h"
 #include "plugins/localization/ILanguageService.h"
 
 #include <functional>
@@ -22,13 +23,15 @@ public:
     ~CLanguageService() override;
 
     QString language() const override;
+    QString choice() const override;
     void setLanguage(const QString &language) override;
 
-    /// Switches every plug-in to `language()`.
+    /// Switches every plug-in, and Qt's own texts, to `language()`.
     void apply();
 
 private:
     Switch m_switchPlugins;
+    CQtTexts m_qtTexts;
 };
 
 } // namespace Localization

@@ -19,6 +19,9 @@ public:
     /// The language in use: the user's choice if there is one, else the system's.
     virtual QString language() const = 0;
 
+    /// What the user has chosen; empty while the system's language is followed.
+    virtual QString choice() const = 0;
+
     /// Switches the viewer and every plug-in to \a language at once and remembers it. An empty
     /// text forgets the choice and follows the system.
     virtual void setLanguage(const QString &language) = 0;

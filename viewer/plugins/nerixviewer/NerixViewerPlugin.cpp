@@ -4,6 +4,7 @@
 #include "plugins/nerixviewer/NerixViewerPlugin.h"
 
 #include "plugins/appcore/IMenuControlService.h"
+#include "plugins/localization/ILanguageService.h"
 #include "plugins/nerixviewer/CAppearance.h"
 #include "plugins/nerixviewer/CApplicationService.h"
 #include "plugins/nerixviewer/CMainWindow.h"
@@ -22,15 +23,22 @@
 #include <QDockWidget>
 #include <QMenu>
 
+// The resource is in a static library, so nothing else asks the linker for it.
+static void initCatalogues()
+{
+    Q_INIT_RESOURCE(catalogues);
+}
+
 namespace Plugin {
 namespace NerixViewer {
 
 CNerixViewerPlugin::CNerixViewerPlugin(WindowMode mode, QObject *parent)
-    : IPlugin(parent)
+    : ALocalizedPlugin(parent)
     , m_applicationService(QSharedPointer<CApplicationService>::create())
     , m_messageService(QSharedPointer<CMessageService>::create())
     , m_entries(std::make_unique<QObject>())
 {
+    initCatalogues();
     if (mode == WindowMode::WithWindows) {
         m_windowService = QSharedPointer<CMainWindowService>::create(
             [this](QDockWidget &panel) { addPanelEntry(panel); });
@@ -64,6 +72,7 @@ bool CNerixViewerPlugin::initialize()
     createQuitEntry(*menuService);
     if (m_windowService) {
         createOptions(*menuService);
+        createLanguageMenu(*menuService);
         m_windowService->addPanel(QStringLiteral("NerixViewer.Messages"),
                                   new CMessagePanel(m_messageService->model()),
                                   IMainWindowService::Side::Bottom);
@@ -143,6 +152,30 @@ void CNerixViewerPlugin::createOptions(AppCore::IMenuControlService &menuService
          "NerixViewer.Group.View.Options"},
         [] { return tr("&Reset Layout"); }, m_entries.get());
     connect(reset, &QAction::triggered, &m_windowService->mainWindow(), &CMainWindow::resetLayout);
+}
+
+// Each language by its own name, so that it is found by whoever does not read the present one.
+void CNerixViewerPlugin::createLanguageMenu(AppCore::IMenuControlService &menuService)
+{
+    const auto languages = Core::Plugin::findService<Localization::ILanguageService>(m_initializer);
+    if (!languages) {
+        return;
+    }
+    const auto language = [](const char *code, const QString &name) {
+        return Windows::Choice{QByteArrayLiteral("NerixViewer.Action.Language.") + code,
+                               [name] { return name; }, QString::fromLatin1(code)};
+    };
+    Windows::addChoiceMenu(
+        menuService,
+        {"NerixViewer.Action.Language", "NerixViewer.Menu.View", "NerixViewer.Group.View.Options"},
+        [] { return tr("&Language"); },
+        {{"NerixViewer.Action.Language.System", [] { return tr("As the &System"); }, QString()},
+         language("en", QStringLiteral("English")),
+         language("ja", QStringLiteral(u"\u65e5\u672c\u8a9e")),
+         language("ko", QStringLiteral(u"\ud55c\uad6d\uc5b4")),
+         language("zh", QStringLiteral(u"\u4e2d\u6587"))},
+        [languages] { return languages->choice(); },
+        [languages](const QString &choice) { languages->setLanguage(choice); }, m_entries.get());
 }
 
 void CNerixViewerPlugin::addPanelEntry(QDockWidget &panel)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <Core/Plugin/IPlugin.h>
+#include <Core/Plugin/ALocalizedPlugin.h>
 
 #include <memory>
 
@@ -25,7 +25,8 @@ class CMessageService;
 enum class WindowMode { WithWindows, WithoutWindows };
 
 /// The built-in plug-in "NerixViewer": the application itself, with its main window, its messages
-/// and the menus that every other plug-in may count on.
+/// and the menus that every other plug-in may count on. It brings the translations of all built-in
+/// plug-ins.
 ///
 /// | menu                      | groups "NerixViewer.Group.<menu>.<group>"         |
 /// |---------------------------|---------------------------------------------------|
@@ -33,7 +34,7 @@ enum class WindowMode { WithWindows, WithoutWindows };
 /// | "NerixViewer.Menu.Camera" | Device, Grab                                      |
 /// | "NerixViewer.Menu.View"   | Image, Screens, Panels, Options                   |
 /// | "NerixViewer.Menu.Help"   | Contents, Support, About                          |
-class CNerixViewerPlugin : public Core::Plugin::IPlugin
+class CNerixViewerPlugin : public Core::Plugin::ALocalizedPlugin
 {
     Q_OBJECT
 
@@ -49,6 +50,7 @@ private:
     void createMenus(AppCore::IMenuControlService &menuService);
     void createQuitEntry(AppCore::IMenuControlService &menuService);
     void createOptions(AppCore::IMenuControlService &menuService);
+    void createLanguageMenu(AppCore::IMenuControlService &menuService);
     void addPanelEntry(QDockWidget &panel);
     void showWindow();
     void leaveWindow();

@@ -70,7 +70,7 @@ void CWelcomeWindow::done(int result)
 
 void CWelcomeWindow::setTexts()
 {
-    setWindowTitle(tr("Welcome to the nerix Viewer"));
+    setWindowTitle(tr("Welcome to the Nerix Viewer"));
     m_tabBar->setAccessibleName(tr("Pages"));
     if (!m_notice->text().isEmpty()) {
         sayWhyItStays();

@@ -1,0 +1,170 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>CameraSelector::CCameraCommands</name>
+    <message>
+        <source>&amp;Open Camera</source>
+        <translation>カメラを開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Close Camera</source>
+        <translation>カメラを閉じる(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSelector::CCameraListModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSelector::CCameraPanel</name>
+    <message>
+        <source>Cameras</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Looking for cameras. Plug one in, and check its power and that its address is in a network of this computer.</source>
+        <translation>カメラを探しています。カメラを接続し、電源が入っていること、およびアドレスがこのコンピューターのネットワーク内にあることを確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSelector::CameraState</name>
+    <message>
+        <source>Free</source>
+        <translation>使用可能</translation>
+    </message>
+    <message>
+        <source>In use elsewhere</source>
+        <translation>ほかで使用中</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>オープン</translation>
+    </message>
+    <message>
+        <source>Grabbing</source>
+        <translation>取り込み中</translation>
+    </message>
+    <message>
+        <source>Gone</source>
+        <translation>切断</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixViewer::CMainWindow</name>
+    <message>
+        <source>Nerix Viewer</source>
+        <translation>Nerix Viewer</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>ツールバー</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixViewer::CMessageModel</name>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>回数</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>メッセージ</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixViewer::CMessagePanel</name>
+    <message>
+        <source>Messages</source>
+        <translation>メッセージ</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>クリア(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixViewer::CNerixViewerPlugin</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation>カメラ(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>外観(&amp;A)</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>システムに合わせる(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>ライト(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>ダーク(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>レイアウトをリセット(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>言語(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixWelcome::CNerixWelcomePlugin</name>
+    <message>
+        <source>&amp;Welcome Screen</source>
+        <translation>ようこそ画面(&amp;W)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixWelcome::CWelcomeWindow</name>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Please answer the question on &quot;%1&quot; first, then choose Apply. This window can be closed then.</source>
+        <translation>先に「%1」の質問に回答して「適用」を選んでください。その後、このウィンドウを閉じることができます。</translation>
+    </message>
+    <message>
+        <source>Welcome to the Nerix Viewer</source>
+        <translation>Nerix Viewer へようこそ</translation>
+    </message>
+</context>
+</TS>

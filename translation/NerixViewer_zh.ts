@@ -1,0 +1,170 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh" sourcelanguage="en">
+<context>
+    <name>CameraSelector::CCameraCommands</name>
+    <message>
+        <source>&amp;Open Camera</source>
+        <translation>打开相机(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Close Camera</source>
+        <translation>关闭相机(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSelector::CCameraListModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSelector::CCameraPanel</name>
+    <message>
+        <source>Cameras</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>Looking for cameras. Plug one in, and check its power and that its address is in a network of this computer.</source>
+        <translation>正在查找相机。请连接相机，并确认其已通电，且地址位于本计算机所在的网络中。</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSelector::CameraState</name>
+    <message>
+        <source>Free</source>
+        <translation>空闲</translation>
+    </message>
+    <message>
+        <source>In use elsewhere</source>
+        <translation>被其他程序占用</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <source>Grabbing</source>
+        <translation>采集中</translation>
+    </message>
+    <message>
+        <source>Gone</source>
+        <translation>已断开</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixViewer::CMainWindow</name>
+    <message>
+        <source>Nerix Viewer</source>
+        <translation>Nerix Viewer</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>工具栏</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixViewer::CMessageModel</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>次数</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixViewer::CMessagePanel</name>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>清除(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixViewer::CNerixViewerPlugin</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation>相机(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>外观(&amp;A)</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>跟随系统(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>浅色(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>深色(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>重置布局(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixWelcome::CNerixWelcomePlugin</name>
+    <message>
+        <source>&amp;Welcome Screen</source>
+        <translation>欢迎屏幕(&amp;W)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::NerixWelcome::CWelcomeWindow</name>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Please answer the question on &quot;%1&quot; first, then choose Apply. This window can be closed then.</source>
+        <translation>请先回答“%1”中的问题，然后选择“应用”。之后即可关闭此窗口。</translation>
+    </message>
+    <message>
+        <source>Welcome to the Nerix Viewer</source>
+        <translation>欢迎使用 Nerix Viewer</translation>
+    </message>
+</context>
+</TS>
