@@ -91,9 +91,9 @@ void addCameras(CPluginManager &manager)
     manager.addBuiltIn(
         metaData("CameraSelector", "Which device is selected.", {"CameraPool", "NerixViewer"}),
         factory<CameraSelector::CCameraSelectorPlugin>());
-    manager.addBuiltIn(
-        metaData("FeatureTree", "Which feature is current.", {"ParameterCollectionPool"}),
-        factory<FeatureTree::CFeatureTreePlugin>());
+    manager.addBuiltIn(metaData("FeatureTree", "The features of the selected camera.",
+                                {"ParameterCollectionPool", "CameraSelector", "NerixViewer"}),
+                       factory<FeatureTree::CFeatureTreePlugin>());
 }
 
 void addImages(CPluginManager &manager)

@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/featuretree/CFeatureController.h"
+
+#include "plugins/featuretree/CFeatureTexts.h"
+#include "plugins/featuretree/IFeatureSelectionService.h"
+#include "plugins/nerixviewer/IMessageService.h"
+
+#include <ParameterCollectionPool/IParameterService.h>
+
+#include <chrono>
+
+namespace FeatureTree {
+
+namespace {
+
+// Often enough for a temperature, seldom enough not to be in the way of who works with the device.
+constexpr std::chrono::milliseconds quietInterval(1000);
+
+// The news come before the device takes the value; several of them lead to one refresh.
+constexpr std::chrono::milliseconds afterChange(100);
+
+} // namespace
+
+CFeatureController::CFeatureController(const CFeatureServices &services)
+    : m_services(services)
+    , m_device(services.deviceSelection, services.control, services.status)
+{
+    m_refresh.setSingleShot(true);
+    m_refresh.setInterval(quietInterval);
+    m_refreshSoon.setSingleShot(true);
+    m_refreshSoon.setInterval(afterChange);
+    connect(&m_device, &CShownDevice::changed, this, &CFeatureController::showDevice);
+    connect(&m_model, &CFeatureModel::changeWanted, this, &CFeatureController::onChangeWanted);
+    connect(&m_access, &CFeatureAccess::described, this, &CFeatureController::onDescribed);
+    connect(&m_access, &CFeatureAccess::notDescribed, this, &CFeatureController::onNotDescribed);
+    connect(&m_access, &CFeatureAccess::stateRead, &m_model, &CFeatureModel::setState);
+    connect(&m_access, &CFeatureAccess::allRead, this, &CFeatureController::onAllRead);
+    connect(&m_access, &CFeatureAccess::written, this, &CFeatureController::onWritten);
+    connect(&m_access, &CFeatureAccess::setBySomebody, this, [this] {
+        if (!m_refreshSoon.isActive()) {
+            m_refreshSoon.start();
+        }
+    });
+    connect(&m_refresh, &QTimer::timeout, this, &CFeatureController::refresh);
+    connect(&m_refreshSoon, &QTimer::timeout, this, &CFeatureController::onSomethingSet);
+    if (services.featureSelection) {
+        connect(services.featureSelection.data(), &IFeatureSelectionService::currentChanged, this,
+                [this](const QSharedPointer<ParameterCollection::IParameter> &parameter) {
+                    const int feature = m_model.featureNamed(parameter->fullName());
+                    if (feature >= 0 && m_access.parameter(feature) == parameter) {
+                        Q_EMIT selected(feature);
+                    }
+                });
+    }
+    showDevice();
+}
+
+CFeatureController::~CFeatureController() = default;
+
+QString CFeatureController::notice() const
+{
+    const auto camera = m_device.camera();
+    const QString name = camera ? camera->displayName() : QString();
+    switch (m_device.condition()) {
+    case CShownDevice::Condition::None:
+        return tr("Select a camera to see its features.");
+    case CShownDevice::Condition::Gone:
+        return tr("%1 is not connected.\nConnect and open it to see its features.").arg(name);
+    case CShownDevice::Condition::Closed:
+        return tr("%1 is closed.\nOpen it to see its features.").arg(name);
+    case CShownDevice::Condition::Open:
+        break;
+    }
+    if (m_isDescribed) {
+        return {};
+    }
+    return m_describeFailure.isNull()
+               ? tr("Reading the features of %1...").arg(name)
+               : tr("The features of %1 cannot be read.\nClose it and open it again.").arg(name)
+                     + QLatin1Char('\n') + m_describeFailure;
+}
+
+void CFeatureController::dismissProblem()
+{
+    setProblem(QString());
+}
+
+void CFeatureController::explainRefusal(int feature)
+{
+    const CFeatureState &state = m_model.state(feature);
+    const QString name = m_model.description(feature).displayName;
+    if (!state.isKnown) {
+        return;
+    }
+    if (state.canBeSet()) {
+        if (m_model.description(feature).type == ParameterCollection::InterfaceRegister) {
+            setProblem(tr("%1: its bytes can only be set by a script").arg(name));
+        }
+    } else if (!state.isOffered()) {
+        setProblem(tr("%1: the camera does not offer it now").arg(name));
+    } else if (state.isLocked()) {
+        setProblem(tr("%1: it is locked now; stop the grab, then set it").arg(name));
+    } else {
+        setProblem(tr("%1: it can only be read").arg(name));
+    }
+}
+
+void CFeatureController::keepUpToDate(const QVector<int> &features)
+{
+    m_inSight = features;
+    refresh();
+}
+
+void CFeatureController::select(int feature)
+{
+    const auto parameter = m_access.parameter(feature);
+    if (parameter && m_services.featureSelection) {
+        m_services.featureSelection->select(parameter);
+    }
+}
+
+void CFeatureController::setRefreshInterval(std::chrono::milliseconds interval)
+{
+    m_refresh.setInterval(interval);
+}
+
+void CFeatureController::showDevice()
+{
+    m_isDescribed = false;
+    m_describeFailure = QString();
+    m_inSight.clear();
+    m_refresh.stop();
+    m_access.close();
+    m_model.setFeatures({});
+    dismissProblem();
+    if (m_device.condition() == CShownDevice::Condition::Open && m_services.parameters) {
+        m_access.open([parameters = m_services.parameters, camera = m_device.camera()] {
+            return parameters->parameterCollection(camera);
+        });
+    }
+    Q_EMIT noticeChanged();
+}
+
+void CFeatureController::onDescribed(const QVector<CFeatureDescription> &features)
+{
+    m_isDescribed = true;
+    m_model.setFeatures(features);
+    Q_EMIT noticeChanged();
+}
+
+void CFeatureController::onNotDescribed(const QString &reason)
+{
+    m_describeFailure = reason.isNull() ? QStringLiteral("") : CFeatureTexts::withoutTree(reason);
+    Q_EMIT noticeChanged();
+}
+
+void CFeatureController::onChangeWanted(int feature, const QString &text)
+{
+    dismissProblem();
+    m_model.expect(feature, text);
+    m_access.write(feature, text);
+}
+
+void CFeatureController::onWritten(int feature, const QString &failure)
+{
+    if (failure.isEmpty()) {
+        m_model.confirm(feature);
+    } else {
+        m_model.refuse(feature);
+        tell(CFeatureTexts::withoutTree(failure));
+    }
+    // First itself, then what may depend on it.
+    m_inSight.removeAll(feature);
+    m_inSight.prepend(feature);
+    refresh();
+}
+
+void CFeatureController::refresh()
+{
+    if (m_isDescribed && !m_inSight.isEmpty()) {
+        m_access.read(m_inSight);
+    }
+}
+
+// To begin anew each time would leave the last ones unread as long as somebody sets something.
+void CFeatureController::onSomethingSet()
+{
+    if (m_access.isReading()) {
+        m_isOutdated = true;
+    } else {
+        refresh();
+    }
+}
+
+void CFeatureController::onAllRead()
+{
+    if (m_isOutdated) {
+        m_isOutdated = false;
+        m_refreshSoon.start();
+    } else {
+        m_refresh.start();
+    }
+}
+
+void CFeatureController::tell(const QString &problem)
+{
+    setProblem(problem);
+    if (m_services.messages) {
+        m_services.messages->add(Plugin::NerixViewer::IMessageService::Severity::Warning,
+                                 m_device.camera()->displayName() + QStringLiteral(": ") + problem);
+    }
+}
+
+void CFeatureController::setProblem(const QString &problem)
+{
+    if (problem != m_problem) {
+        m_problem = problem;
+        Q_EMIT problemChanged();
+    }
+}
+
+} // namespace FeatureTree

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPersistentModelIndex>
+#include <QStyledItemDelegate>
+
+namespace FeatureTree {
+
+/// Draws the values of a `CFeatureModel`, commands as buttons, and makes the editor that fits a
+/// feature's kind. An editor that is open learns of new limits and entries, and keeps what the user
+/// has typed.
+class CFeatureDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit CFeatureDelegate(QObject *parent = nullptr);
+    ~CFeatureDelegate() override;
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+    void setModelData(QWidget *editor, QAbstractItemModel *model,
+                      const QModelIndex &index) const override;
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+                     const QModelIndex &index) override;
+
+private:
+    QWidget *createChoice(QWidget *parent) const;
+
+    QPersistentModelIndex m_pressed; // the command whose button is held down
+};
+
+} // namespace FeatureTree

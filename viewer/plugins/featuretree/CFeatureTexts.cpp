@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/featuretree/CFeatureTexts.h"
+
+#include "plugins/parametercollectionpool/ValueText.h"
+
+namespace FeatureTree {
+using namespace ParameterCollection;
+using ParameterCollectionPool::ValueText::fromFloat;
+
+namespace {
+
+QString withUnit(const QString &text, const CFeatureDescription &description)
+{
+    return description.unit.isEmpty() ? text : text + QLatin1Char(' ') + description.unit;
+}
+
+QString range(const QString &minimum, const QString &maximum,
+              const CFeatureDescription &description)
+{
+    return withUnit(CFeatureTexts::tr("%1 to %2").arg(minimum, maximum), description);
+}
+
+QString paragraph(const QString &text)
+{
+    return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+}
+
+QString onOrOff(const CFeatureState &state)
+{
+    return state.text == QLatin1String("true") ? CFeatureTexts::tr("on") : CFeatureTexts::tr("off");
+}
+
+} // namespace
+
+QString CFeatureTexts::value(const CFeatureDescription &description, const CFeatureState &state)
+{
+    if (description.isCategory() || !state.isKnown) {
+        return {};
+    }
+    if (!state.isOffered()) {
+        return tr("not available");
+    }
+    if (description.type == InterfaceCommand) {
+        return tr("Execute");
+    }
+    if (!state.failure.isEmpty()) {
+        return tr("not readable");
+    }
+    if (state.text.isNull()) {
+        return tr("can only be set");
+    }
+    return description.type == InterfaceBoolean ? QString() : withUnit(state.text, description);
+}
+
+QString CFeatureTexts::limits(const CFeatureDescription &description, const CFeatureState &state)
+{
+    if (state.floatLimits) {
+        return range(fromFloat(state.floatLimits->minimum), fromFloat(state.floatLimits->maximum),
+                     description);
+    }
+    if (!state.integerLimits) {
+        return {};
+    }
+    const CIntegerLimits &limits = *state.integerLimits;
+    const QString fromTo =
+        range(QString::number(limits.minimum), QString::number(limits.maximum), description);
+    return limits.increment > 1 ? tr("%1 in steps of %2").arg(fromTo).arg(limits.increment)
+                                : fromTo;
+}
+
+QString CFeatureTexts::toolTip(const CFeatureDescription &description, const CFeatureState &state)
+{
+    QString text = QStringLiteral("<b>%1</b>").arg(description.displayName.toHtmlEscaped());
+    if (!description.toolTip.isEmpty()) {
+        text += paragraph(description.toolTip);
+    }
+    const QString allowed = limits(description, state);
+    if (!allowed.isEmpty()) {
+        text += paragraph(tr("Allowed: %1").arg(allowed));
+    }
+    if (state.isLocked()) {
+        text += paragraph(tr("It is locked now."));
+    }
+    if (!state.failure.isEmpty()) {
+        text += paragraph(withoutTree(state.failure));
+    }
+    return text + paragraph(tr("Name: %1").arg(description.name));
+}
+
+QString CFeatureTexts::spoken(const CFeatureDescription &description, const CFeatureState &state)
+{
+    const bool isSwitch = description.type == InterfaceBoolean && !state.text.isNull();
+    const QString text = isSwitch ? onOrOff(state) : value(description, state);
+    return state.isLocked() ? tr("%1, locked").arg(text) : text;
+}
+
+QString CFeatureTexts::withoutTree(QString message)
+{
+    return message.remove(QStringLiteral("@CameraDevice/"));
+}
+
+} // namespace FeatureTree

@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/featuretree/CFeatureView.h"
+
+#include "plugins/featuretree/CFeatureDelegate.h"
+#include "plugins/featuretree/CFeatureModel.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTimer>
+
+namespace FeatureTree {
+
+namespace {
+
+int featureOf(const QModelIndex &index)
+{
+    const QVariant feature = index.data(CFeatureModel::FeatureRole);
+    const bool isCategory =
+        index.data(CFeatureModel::TypeRole).toInt() == ParameterCollection::InterfaceCategory;
+    return feature.isValid() && !isCategory ? feature.toInt() : -1;
+}
+
+bool isActivation(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_F2:
+        return event.modifiers() == Qt::NoModifier || event.modifiers() == Qt::KeypadModifier;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+CFeatureView::CFeatureView(QWidget *parent)
+    : QTreeView(parent)
+    , m_sightTimer(new QTimer(this))
+{
+    setItemDelegate(new CFeatureDelegate(this));
+    setEditTriggers(NoEditTriggers); // see `activate`
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
+    setSelectionBehavior(SelectRows);
+    setTabKeyNavigation(false);
+    m_sightTimer->setSingleShot(true);
+    connect(m_sightTimer, &QTimer::timeout, this, &CFeatureView::sightChanged);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, m_sightTimer,
+            QOverload<>::of(&QTimer::start));
+    connect(this, &QTreeView::clicked, this, &CFeatureView::onClicked);
+    connect(this, &QTreeView::doubleClicked, this, &CFeatureView::onDoubleClicked);
+    connect(this, &QTreeView::expanded, this,
+            [this](const QModelIndex &index) { noteOpen(index, true); });
+    connect(this, &QTreeView::collapsed, this,
+            [this](const QModelIndex &index) { noteOpen(index, false); });
+}
+
+CFeatureView::~CFeatureView() = default;
+
+QVector<int> CFeatureView::featuresInSight() const
+{
+    QVector<int> features;
+    if (!isVisible() || !model()) {
+        return features;
+    }
+    const int bottom = viewport()->height();
+    for (QModelIndex index = indexAt({0, 0}); index.isValid(); index = indexBelow(index)) {
+        if (visualRect(index).top() > bottom) {
+            break;
+        }
+        const int feature = featureOf(index);
+        if (feature >= 0) {
+            features.append(feature);
+        }
+    }
+    return features;
+}
+
+void CFeatureView::quietly(const std::function<void()> &work)
+{
+    const QScopedValueRollback<bool> quiet(m_isQuiet, true);
+    work();
+}
+
+void CFeatureView::showRow(const QModelIndex &index)
+{
+    if (index.isValid() && index.siblingAtColumn(0) != currentIndex().siblingAtColumn(0)) {
+        const QScopedValueRollback<bool> quiet(m_isQuiet, true);
+        setCurrentIndex(index);
+        scrollTo(index);
+    }
+}
+
+void CFeatureView::setEverythingOpen(bool open)
+{
+    m_isEverythingOpen = open;
+    applyOpen();
+}
+
+void CFeatureView::setModel(QAbstractItemModel *model)
+{
+    QTreeView::setModel(model);
+    header()->setSectionResizeMode(QHeaderView::Interactive);
+    header()->setStretchLastSection(true);
+    applyOpen();
+}
+
+void CFeatureView::reset()
+{
+    QTreeView::reset();
+    applyOpen();
+}
+
+void CFeatureView::applyOpen()
+{
+    if (!model()) {
+        return;
+    }
+    const QScopedValueRollback<bool> quiet(m_isQuiet, true);
+    expandAll();
+    if (!m_isEverythingOpen) {
+        forEachCategory([this](const QModelIndex &index) {
+            if (m_closed.contains(index.data(CFeatureModel::FullNameRole).toString())) {
+                collapse(index);
+            }
+        });
+    }
+    m_sightTimer->start();
+}
+
+void CFeatureView::noteOpen(const QModelIndex &index, bool isOpen)
+{
+    m_sightTimer->start();
+    if (m_isQuiet || m_isEverythingOpen) {
+        return;
+    }
+    const QString name = index.data(CFeatureModel::FullNameRole).toString();
+    if (isOpen) {
+        m_closed.remove(name);
+    } else {
+        m_closed.insert(name);
+    }
+}
+
+void CFeatureView::forEachCategory(const std::function<void(const QModelIndex &)> &work) const
+{
+    const std::function<void(const QModelIndex &)> walk = [&](const QModelIndex &parent) {
+        for (int row = 0; row < model()->rowCount(parent); ++row) {
+            const QModelIndex index = model()->index(row, 0, parent);
+            if (model()->hasChildren(index)) {
+                walk(index);
+                work(index);
+            }
+        }
+    };
+    walk(rootIndex());
+}
+
+void CFeatureView::onClicked(const QModelIndex &index)
+{
+    if (index.column() == CFeatureModel::ValueColumn
+        && index.flags().testFlag(Qt::ItemIsEditable)) {
+        activate(index);
+    }
+}
+
+void CFeatureView::onDoubleClicked(const QModelIndex &index)
+{
+    const int feature = featureOf(index);
+    if (feature >= 0) {
+        Q_EMIT cannotBeChanged(feature);
+    }
+}
+
+void CFeatureView::activate(const QModelIndex &row)
+{
+    const QModelIndex value = row.siblingAtColumn(CFeatureModel::ValueColumn);
+    const int feature = featureOf(row);
+    if (feature < 0) {
+        setExpanded(row.siblingAtColumn(0), !isExpanded(row.siblingAtColumn(0)));
+    } else if (value.flags().testFlag(Qt::ItemIsEditable)) {
+        edit(value);
+    } else if (value.flags().testFlag(Qt::ItemIsUserCheckable)) {
+        const bool isOn = value.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        model()->setData(value, isOn ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    } else if (!model()->setData(value, QStringLiteral("Execute"), Qt::EditRole)) {
+        Q_EMIT cannotBeChanged(feature);
+    }
+}
+
+void CFeatureView::keyPressEvent(QKeyEvent *event)
+{
+    if (state() != EditingState && isActivation(*event) && currentIndex().isValid()) {
+        activate(currentIndex());
+        event->accept();
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void CFeatureView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTreeView::currentChanged(current, previous);
+    const int feature = featureOf(current);
+    if (!m_isQuiet) {
+        Q_EMIT picked(feature);
+    }
+}
+
+void CFeatureView::updateGeometries()
+{
+    QTreeView::updateGeometries();
+    m_sightTimer->start();
+}
+
+void CFeatureView::showEvent(QShowEvent *event)
+{
+    QTreeView::showEvent(event);
+    m_sightTimer->start();
+}
+
+void CFeatureView::hideEvent(QHideEvent *event)
+{
+    QTreeView::hideEvent(event);
+    m_sightTimer->start();
+}
+
+void CFeatureView::focusInEvent(QFocusEvent *event)
+{
+    // Qt makes the first row current if there is none.
+    quietly([this, event] { QTreeView::focusInEvent(event); });
+}
+
+} // namespace FeatureTree

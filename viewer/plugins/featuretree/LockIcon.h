@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QIcon>
+
+namespace FeatureTree {
+
+/// A closed lock in the colour of text that is disabled, sharp at every scale.
+QIcon lockIcon();
+
+} // namespace FeatureTree
