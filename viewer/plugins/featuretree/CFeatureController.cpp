@@ -171,10 +171,11 @@ void CFeatureController::onWritten(int feature, const QString &failure)
         m_model.refuse(feature);
         tell(CFeatureTexts::withoutTree(failure));
     }
-    // First itself, then what may depend on it.
-    m_inSight.removeAll(feature);
-    m_inSight.prepend(feature);
-    refresh();
+    // First itself, in sight or not, then what may depend on it.
+    QVector<int> affected = m_inSight;
+    affected.removeAll(feature);
+    affected.prepend(feature);
+    m_access.read(affected);
 }
 
 void CFeatureController::refresh()

@@ -5,6 +5,7 @@
 #include <ParameterCollection/InterfaceType.h>
 #include <ParameterCollection/Visibility.h>
 
+#include <QMetaType>
 #include <QString>
 
 namespace FeatureTree {
@@ -28,3 +29,5 @@ struct CFeatureDescription
 };
 
 } // namespace FeatureTree
+
+Q_DECLARE_METATYPE(FeatureTree::CFeatureDescription)
