@@ -23,7 +23,6 @@ public:
     CameraInfoPtr plugIn(const char *identity, const char *model = "XQZ-2000",
                          const char *displayName = nullptr);
     void unplug(const CameraInfoPtr &camera);
-    void setState(const CameraInfoPtr &camera, CameraState state);
 
     // What `state` says from now on. `open` and `close` change it too.
     void setState(const CameraInfoPtr &camera, CameraState state);
