@@ -182,8 +182,8 @@ void FeatureModelTest::testToolTipExplainsTheFeature()
     state.integerLimits = CIntegerLimits{16, 2048, 4};
     model.setState(0, state);
     QCOMPARE(model.indexOf(0, CFeatureModel::NameColumn).data(Qt::ToolTipRole).toString(),
-             QString("<b>Image Width</b><p>Width of the image.</p>"
-                     "<p>Allowed: 16 to 2048 px in steps of 4</p><p>Name: Width</p>"));
+             QString("<b>Image Width</b><br>Width of the image."
+                     "<br>Allowed: 16 to 2048 px in steps of 4<br>Name: Width"));
 }
 
 void FeatureModelTest::testDescriptionOfTheDeviceIsNoMarkup()
@@ -193,7 +193,7 @@ void FeatureModelTest::testDescriptionOfTheDeviceIsNoMarkup()
     odd.toolTip = "a<b";
     model.setFeatures({odd});
     QCOMPARE(model.indexOf(0, CFeatureModel::NameColumn).data(Qt::ToolTipRole).toString(),
-             QString("<b>X</b><p>a&lt;b</p><p>Name: X</p>"));
+             QString("<b>X</b><br>a&lt;b<br>Name: X"));
 }
 
 void FeatureModelTest::testLockIsShownAndSpoken()

@@ -238,8 +238,8 @@ void FeaturePanelTest::testCurrentFeatureIsExplained()
     QVERIFY(m_rig->open());
     const auto *text = m_rig->panel().findChild<QLabel *>("FeatureTree.Explanation");
     QVERIFY(m_rig->goTo("Width"));
-    QTRY_COMPARE(text->text(), QString("<b>Image Width</b><p>Width of the image.</p>"
-                                       "<p>Allowed: 0 to 100</p><p>Name: Width</p>"));
+    QTRY_COMPARE(text->text(), QString("<b>Image Width</b><br>Width of the image."
+                                       "<br>Allowed: 0 to 100<br>Name: Width"));
     QVERIFY(m_rig->features.closeCamera());
     QCOMPARE(text->text(), QString());
 }

@@ -47,12 +47,7 @@ CFeatureController::CFeatureController(const CFeatureServices &services)
     connect(&m_refreshSoon, &QTimer::timeout, this, &CFeatureController::onSomethingSet);
     if (services.featureSelection) {
         connect(services.featureSelection.data(), &IFeatureSelectionService::currentChanged, this,
-                [this](const QSharedPointer<ParameterCollection::IParameter> &parameter) {
-                    const int feature = m_model.featureNamed(parameter->fullName());
-                    if (feature >= 0 && m_access.parameter(feature) == parameter) {
-                        Q_EMIT selected(feature);
-                    }
-                });
+                &CFeatureController::showCurrent);
     }
     showDevice();
 }
@@ -148,6 +143,20 @@ void CFeatureController::onDescribed(const QVector<CFeatureDescription> &feature
     m_isDescribed = true;
     m_model.setFeatures(features);
     Q_EMIT noticeChanged();
+    showCurrent();
+}
+
+// The current feature may be one of another camera, or of this one before it was opened anew.
+void CFeatureController::showCurrent()
+{
+    if (!m_services.featureSelection) {
+        return;
+    }
+    const auto current = m_services.featureSelection->current();
+    const int feature = current ? m_model.featureNamed(current->fullName()) : -1;
+    if (feature >= 0 && m_access.parameter(feature) == current) {
+        Q_EMIT selected(feature);
+    }
 }
 
 void CFeatureController::onNotDescribed(const QString &reason)

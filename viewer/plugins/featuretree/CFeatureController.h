@@ -86,6 +86,7 @@ private:
     void onChangeWanted(int feature, const QString &text);
     void onWritten(int feature, const QString &failure);
     void refresh();
+    void showCurrent();
     void onSomethingSet();
     void onAllRead();
     void tell(const QString &problem);

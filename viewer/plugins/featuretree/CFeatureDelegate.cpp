@@ -38,7 +38,7 @@ CFeatureState stateOf(const QModelIndex &index)
 bool isButton(const QModelIndex &index)
 {
     return index.column() == CFeatureModel::ValueColumn && typeOf(index) == InterfaceCommand
-           && stateOf(index).isKnown;
+           && stateOf(index).isOffered();
 }
 
 QString textOf(const QWidget *editor)

@@ -5,6 +5,7 @@
 
 #include "plugins/featuretree/CFeatureTexts.h"
 #include "plugins/featuretree/LockIcon.h"
+#include "plugins/featuretree/MutedText.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -180,14 +181,14 @@ bool CFeatureModel::canBeSet(int feature) const
            && type != InterfaceRegister;
 }
 
-// What is not there is grey as a whole; of what can only be read now, the value is.
+// What is not there is grey as a whole; of what is locked, the value is.
 bool CFeatureModel::isGrey(int feature, int column) const
 {
     const CFeatureState &state = m_values.at(feature).state;
     if (!state.isKnown || m_features.at(feature).isCategory()) {
         return false;
     }
-    return !state.isOffered() || (column == ValueColumn && !canBeSet(feature));
+    return !state.isOffered() || (column == ValueColumn && state.isLocked());
 }
 
 Qt::ItemFlags CFeatureModel::flags(const QModelIndex &index) const
@@ -237,7 +238,7 @@ QVariant CFeatureModel::data(const QModelIndex &index, int role) const
         return CFeatureTexts::toolTip(m_features.at(node.feature), m_values.at(node.feature).state);
     case Qt::ForegroundRole:
         return isGrey(node.feature, index.column())
-                   ? QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text)
+                   ? QVariant(mutedText(QGuiApplication::palette()))
                    : QVariant();
     default:
         return index.column() == NameColumn ? nameData(node, role) : valueData(node.feature, role);

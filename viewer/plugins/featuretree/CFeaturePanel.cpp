@@ -30,6 +30,9 @@ constexpr const char *levelKey = "FeatureTree/Level";
 // In widths of an average letter, so that it grows with the font: a display name fits.
 constexpr int nameColumnLetters = 26;
 
+// So that the tree does not jump with each row that is explained; most explanations fit.
+constexpr int explanationLines = 6;
+
 QLabel *createText(const char *name)
 {
     auto *label = new QLabel;
@@ -69,9 +72,12 @@ void CFeaturePanel::createWidgets()
     m_stack->addWidget(m_notice);
     m_explanation = createText("FeatureTree.Explanation");
     m_explanation->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    m_explanation->setMargin(fontMetrics().height() / 3);
+    m_explanation->setMinimumHeight(fontMetrics().lineSpacing() * explanationLines);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(createSearchRow());
     layout->addWidget(m_stack, 1);
     layout->addWidget(createProblemRow());
@@ -90,7 +96,6 @@ QWidget *CFeaturePanel::createSearchRow()
     }
     auto *row = new QWidget;
     auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_search, 1);
     layout->addWidget(m_level);
     return row;
@@ -107,7 +112,6 @@ QWidget *CFeaturePanel::createProblemRow()
     m_dismiss->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     m_problemRow = new QWidget;
     auto *layout = new QHBoxLayout(m_problemRow);
-    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(icon);
     layout->addWidget(m_problem, 1);
     layout->addWidget(m_dismiss);
@@ -197,6 +201,7 @@ void CFeaturePanel::showNotice()
     }
     m_notice->setText(notice);
     m_stack->setCurrentWidget(notice.isEmpty() ? static_cast<QWidget *>(m_view) : m_notice);
+    m_explanation->setVisible(notice.isEmpty());
 }
 
 void CFeaturePanel::showProblem()
@@ -212,7 +217,6 @@ void CFeaturePanel::explain(int feature)
     m_explanation->setText(
         feature < 0 ? QString()
                     : CFeatureTexts::toolTip(model.description(feature), model.state(feature)));
-    m_explanation->setVisible(feature >= 0);
 }
 
 void CFeaturePanel::onSelected(int feature)

@@ -22,9 +22,9 @@ QString range(const QString &minimum, const QString &maximum,
     return withUnit(CFeatureTexts::tr("%1 to %2").arg(minimum, maximum), description);
 }
 
-QString paragraph(const QString &text)
+QString line(const QString &text)
 {
-    return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+    return QStringLiteral("<br>") + text.toHtmlEscaped();
 }
 
 QString onOrOff(const CFeatureState &state)
@@ -74,19 +74,19 @@ QString CFeatureTexts::toolTip(const CFeatureDescription &description, const CFe
 {
     QString text = QStringLiteral("<b>%1</b>").arg(description.displayName.toHtmlEscaped());
     if (!description.toolTip.isEmpty()) {
-        text += paragraph(description.toolTip);
+        text += line(description.toolTip);
     }
     const QString allowed = limits(description, state);
     if (!allowed.isEmpty()) {
-        text += paragraph(tr("Allowed: %1").arg(allowed));
+        text += line(tr("Allowed: %1").arg(allowed));
     }
     if (state.isLocked()) {
-        text += paragraph(tr("It is locked now."));
+        text += line(tr("It is locked now."));
     }
     if (!state.failure.isEmpty()) {
-        text += paragraph(withoutTree(state.failure));
+        text += line(withoutTree(state.failure));
     }
-    return text + paragraph(tr("Name: %1").arg(description.name));
+    return text + line(tr("Name: %1").arg(description.name));
 }
 
 QString CFeatureTexts::spoken(const CFeatureDescription &description, const CFeatureState &state)

@@ -125,13 +125,13 @@ void CFeatureView::applyOpen()
     }
     const QScopedValueRollback<bool> quiet(m_isQuiet, true);
     expandAll();
-    if (!m_isEverythingOpen) {
-        forEachCategory([this](const QModelIndex &index) {
-            if (m_closed.contains(index.data(CFeatureModel::FullNameRole).toString())) {
-                collapse(index);
-            }
-        });
-    }
+    forEachCategory([this](const QModelIndex &index) {
+        setFirstColumnSpanned(index.row(), index.parent(), true);
+        if (!m_isEverythingOpen
+            && m_closed.contains(index.data(CFeatureModel::FullNameRole).toString())) {
+            collapse(index);
+        }
+    });
     m_sightTimer->start();
 }
 

@@ -3,6 +3,8 @@
 
 #include "plugins/featuretree/LockIcon.h"
 
+#include "plugins/featuretree/MutedText.h"
+
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -18,9 +20,9 @@ class CLockEngine : public QIconEngine
 public:
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
-        const auto group = mode == QIcon::Selected ? QPalette::Active : QPalette::Disabled;
-        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::Text;
-        const QColor colour = QGuiApplication::palette().color(group, role);
+        const QPalette palette = QGuiApplication::palette();
+        const QColor colour =
+            mode == QIcon::Selected ? palette.color(QPalette::HighlightedText) : mutedText(palette);
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(rect.topLeft());

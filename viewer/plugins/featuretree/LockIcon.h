@@ -6,7 +6,7 @@
 
 namespace FeatureTree {
 
-/// A closed lock in the colour of text that is disabled, sharp at every scale.
+/// A closed lock in the colour of muted text, sharp at every scale.
 QIcon lockIcon();
 
 } // namespace FeatureTree
