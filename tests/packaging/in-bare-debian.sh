@@ -36,15 +36,17 @@ inside id tester >/dev/null 2>&1 || inside useradd --create-home tester
 cp "$here/smoke.js" "$root/tmp/smoke.js"
 cat >"$root/tmp/smoke.sh" <<'END'
 set -eu
-export HOME=/home/tester QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/home/tester
-cd "$HOME"
-rm -rf .config .local
+export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/home/tester/runtime
+cd /home/tester
+rm -rf first second
+mkdir -p -m 700 runtime
 nerix-camera-simulator >ready &
-trap 'kill %1' EXIT
+simulator=$!
+trap 'kill "$simulator"' EXIT
 nerix-viewer --version
-nerix-viewer --script /tmp/smoke.js
-nerix-viewer --show-windows --script /tmp/smoke.js
-rui-events --raw .local/share/Ostrand/nerix-viewer | cut -f 1,2 | sort | uniq -c
+HOME=$PWD/first nerix-viewer --script /tmp/smoke.js
+HOME=$PWD/second nerix-viewer --show-windows --script /tmp/smoke.js
+rui-events --raw first/.local/share/Ostrand/nerix-viewer | cut -f 1,2 | sort | uniq -c
 END
 # A network of its own: no camera of a real one is touched.
 unshare --net bash -c '
