@@ -28,7 +28,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void testPrivacyStatementIsHelpTypeFive();
+    void testEachTypeHasItsDocument_data();
+    void testEachTypeHasItsDocument();
     void testDocumentThatIsMissingIsOneWarning();
     void testTypeWithoutADocumentIsOneWarning();
     void testWebAddressIsNamedWithoutADisplay();
@@ -65,14 +66,28 @@ QString HelpPluginTest::document(const char *name) const
     return m_folder->path() + QLatin1Char('/') + QString::fromLatin1(name);
 }
 
-void HelpPluginTest::testPrivacyStatementIsHelpTypeFive()
+void HelpPluginTest::testEachTypeHasItsDocument_data()
 {
-    QFile file(document("privacy.md"));
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QByteArray>("fileName");
+    QTest::newRow("contents") << 0 << QByteArray("help.md");
+    QTest::newRow("cameras") << 1 << QByteArray("cameras.md");
+    QTest::newRow("features") << 2 << QByteArray("features.md");
+    QTest::newRow("grabbing") << 3 << QByteArray("grabbing.md");
+    QTest::newRow("licences") << 4 << QByteArray("licenses.md");
+    QTest::newRow("privacy statement") << 5 << QByteArray("privacy.md");
+}
+
+void HelpPluginTest::testEachTypeHasItsDocument()
+{
+    QFETCH(int, type);
+    QFETCH(QByteArray, fileName);
+    QFile file(document(fileName));
     QVERIFY(file.open(QIODevice::WriteOnly));
     const QSignalSpy shown(m_service.data(), &IHelpViewService::shown);
     QTest::ignoreMessage(QtInfoMsg,
                          qPrintable(QStringLiteral("help document: %1").arg(file.fileName())));
-    QVERIFY(CHelpHelper::showHelp(static_cast<CHelpHelper::HelpType>(5)));
+    QVERIFY(CHelpHelper::showHelp(static_cast<CHelpHelper::HelpType>(type)));
     QCOMPARE(m_service->lastShown(), file.fileName());
     QCOMPARE(shown.count(), 1);
 }
@@ -89,8 +104,8 @@ void HelpPluginTest::testDocumentThatIsMissingIsOneWarning()
 
 void HelpPluginTest::testTypeWithoutADocumentIsOneWarning()
 {
-    QTest::ignoreMessage(QtWarningMsg, "there is no help document of type 4");
-    QVERIFY(!CHelpHelper::showHelp(CHelpHelper::HelpLicenses));
+    QTest::ignoreMessage(QtWarningMsg, "there is no help document of type 6");
+    QVERIFY(!CHelpHelper::showHelp(static_cast<CHelpHelper::HelpType>(6)));
 }
 
 void HelpPluginTest::testWebAddressIsNamedWithoutADisplay()

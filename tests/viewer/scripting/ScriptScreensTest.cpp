@@ -194,7 +194,8 @@ void ScriptScreensTest::testWelcomeRemembersWhetherToShowAtStartup()
 void ScriptScreensTest::testHelpTellsWhatWasShown()
 {
     CScriptRun run;
-    const auto help = QSharedPointer<Plugin::Help::CHelpViewService>::create(QString());
+    const auto help = QSharedPointer<Plugin::Help::CHelpViewService>::create(
+        Plugin::Help::CHelpDocuments(QString()));
     help->showAddress(QUrl(QStringLiteral("https://ostrand.example/")));
     run.addService(help);
     QCOMPARE(run.run("print(help.lastShown());"), QString());

@@ -3,9 +3,9 @@
 
 #include "plugins/help/CHelpViewService.h"
 
+#include <utility>
+
 #include <QDesktopServices>
-#include <QDir>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QUrl>
@@ -17,19 +17,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(log, "nerix.help", QtInfoMsg)
 
-/// Empty where we have no document.
-QString fileNameOf(CHelpHelper::HelpType type)
-{
-    switch (type) {
-    case CHelpHelper::HelpContents:
-        return QStringLiteral("README.md");
-    case CHelpHelper::HelpPrivacyStatement:
-        return QStringLiteral("privacy.md");
-    default:
-        return {};
-    }
-}
-
 bool hasDisplay()
 {
     const QString platform = QGuiApplication::platformName();
@@ -38,9 +25,9 @@ bool hasDisplay()
 
 } // namespace
 
-CHelpViewService::CHelpViewService(const QString &folder, QObject *parent)
+CHelpViewService::CHelpViewService(const CHelpDocuments &documents, QObject *parent)
     : IHelpViewService(parent)
-    , m_folder(folder)
+    , m_documents(documents)
 {}
 
 CHelpViewService::~CHelpViewService() = default;
@@ -50,20 +37,28 @@ QString CHelpViewService::lastShown() const
     return m_lastShown;
 }
 
+void CHelpViewService::setViewer(Viewer viewer)
+{
+    m_viewer = std::move(viewer);
+}
+
 bool CHelpViewService::showDocument(CHelpHelper::HelpType type)
 {
-    const QString fileName = fileNameOf(type);
-    if (fileName.isEmpty()) {
+    const QString path = m_documents.path(type);
+    if (path.isEmpty()) {
         qCWarning(log).noquote() << "there is no help document of type" << int(type);
         return false;
     }
-    const QString path = QDir::cleanPath(QDir(m_folder).absoluteFilePath(fileName));
-    if (!QFileInfo(path).isReadable()) {
+    if (!m_documents.has(type)) {
         qCWarning(log).noquote().nospace()
             << "help document " << path << " cannot be read: install the viewer's documents again";
         return false;
     }
-    qCInfo(log).noquote() << "help document:" << path;
+    if (m_viewer) {
+        m_viewer(path);
+    } else {
+        qCInfo(log).noquote() << "help document:" << path;
+    }
     remember(path);
     return true;
 }

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "plugins/help/CHelpDocuments.h"
 #include "plugins/help/IHelpViewService.h"
 
 #include <CHelpHelper.h>
+
+#include <functional>
 
 class QUrl;
 
@@ -13,18 +16,24 @@ namespace Help {
 
 /// Shows the documents that are installed with the viewer, and web addresses. GUI thread.
 ///
-/// A document is named in the log with its path. Web addresses go to the system's browser; without
-/// a display they are named in the log as well.
+/// A document is shown by the viewer of `setViewer`, without one it is named in the log with its
+/// path. Web addresses go to the system's browser; without a display they are named in the log as
+/// well.
 class CHelpViewService : public IHelpViewService
 {
     Q_OBJECT
 
 public:
-    /// \a folder holds the documents.
-    explicit CHelpViewService(const QString &folder, QObject *parent = nullptr);
+    /// Shows the document at a path.
+    using Viewer = std::function<void(const QString &path)>;
+
+    explicit CHelpViewService(const CHelpDocuments &documents, QObject *parent = nullptr);
     ~CHelpViewService() override;
 
     QString lastShown() const override;
+
+    /// An empty function withdraws it.
+    void setViewer(Viewer viewer);
 
     /// @return false if there is no such document.
     bool showDocument(CHelpHelper::HelpType type);
@@ -35,7 +44,8 @@ public:
 private:
     void remember(const QString &pathOrAddress);
 
-    QString m_folder;
+    CHelpDocuments m_documents;
+    Viewer m_viewer;
     QString m_lastShown;
 };
 

@@ -3,11 +3,17 @@
 
 #include "plugins/help/HelpPlugin.h"
 
+#include "plugins/help/CHelpEntries.h"
 #include "plugins/help/CHelpViewService.h"
+#include "plugins/help/CHelpWindow.h"
+#include "plugins/nerixviewer/IMainWindowService.h"
 
 #include <CHelpHelper.h>
+#include <Core/Plugin/ServiceLookup.h>
 #include <DocumentationHelper.h>
+#include <Plugin/AppCore/IMenuService.h>
 
+#include <QApplication>
 #include <QUrl>
 
 namespace Plugin {
@@ -15,13 +21,18 @@ namespace Help {
 
 CHelpPlugin::CHelpPlugin(const QString &documentFolder, QObject *parent)
     : IPlugin(parent)
-    , m_service(QSharedPointer<CHelpViewService>::create(documentFolder))
+    , m_documents(documentFolder)
+    , m_service(QSharedPointer<CHelpViewService>::create(m_documents))
 {}
 
-CHelpPlugin::~CHelpPlugin() = default;
+CHelpPlugin::~CHelpPlugin()
+{
+    delete m_window;
+}
 
 bool CHelpPlugin::preInitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer)
 {
+    m_initializer = initializer;
     initializer->addService(m_service);
     return true;
 }
@@ -33,6 +44,10 @@ bool CHelpPlugin::initialize()
         [service](CHelpHelper::HelpType type) { return service->showDocument(type); });
     DocumentationHelper::setHandler(
         [service](const QUrl &url, bool /*inViewer*/) { return service->showAddress(url); });
+    addWindow();
+    if (const auto menus = Core::Plugin::findService<AppCore::IMenuService>(m_initializer)) {
+        m_entries = std::make_unique<CHelpEntries>(*menus, m_documents, m_mainWindow);
+    }
     return true;
 }
 
@@ -40,8 +55,30 @@ bool CHelpPlugin::uninitialize(const QPointer<Core::Plugin::IPluginInitializer> 
 {
     CHelpHelper::setHandler({});
     DocumentationHelper::setHandler({});
+    m_service->setViewer({});
+    m_entries.reset();
+    delete m_window;
     initializer->removeService(m_service);
     return true;
+}
+
+void CHelpPlugin::addWindow()
+{
+    const auto windows = Core::Plugin::findService<NerixViewer::IMainWindowService>(m_initializer);
+    if (windows) {
+        m_mainWindow = windows->window();
+        m_service->setViewer([this](const QString &path) { showInWindow(path); });
+    }
+}
+
+void CHelpPlugin::showInWindow(const QString &path)
+{
+    if (!m_window) {
+        m_window = new CHelpWindow(m_documents);
+    }
+    // The link of a page that blocks the other windows should still be readable.
+    const QWidget *blocking = QApplication::activeModalWidget();
+    m_window->showDocument(path, blocking ? blocking->windowHandle() : nullptr);
 }
 
 } // namespace Help

@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "plugins/help/CHelpDocuments.h"
+
 #include <Core/Plugin/IPlugin.h>
+
+#include <memory>
 
 #include <QSharedPointer>
 #include <QString>
@@ -10,10 +14,12 @@
 namespace Plugin {
 namespace Help {
 
+class CHelpEntries;
 class CHelpViewService;
+class CHelpWindow;
 
 /// The built-in plug-in "Help": shows documents and web addresses for `CHelpHelper` and
-/// `DocumentationHelper`.
+/// `DocumentationHelper`, and has the entries of the Help menu for them.
 class CHelpPlugin : public Core::Plugin::IPlugin
 {
     Q_OBJECT
@@ -28,7 +34,15 @@ public:
     bool uninitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
 
 private:
+    void addWindow();
+    void showInWindow(const QString &path);
+
+    CHelpDocuments m_documents;
+    QPointer<Core::Plugin::IPluginInitializer> m_initializer;
     QSharedPointer<CHelpViewService> m_service;
+    std::unique_ptr<CHelpEntries> m_entries;
+    QPointer<QWidget> m_mainWindow; // null in a run without windows
+    QPointer<CHelpWindow> m_window; // null until it is needed
 };
 
 } // namespace Help
