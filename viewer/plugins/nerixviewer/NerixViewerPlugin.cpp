@@ -21,12 +21,15 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QDockWidget>
+#include <QGuiApplication>
+#include <QIcon>
 #include <QMenu>
 
-// The resource is in a static library, so nothing else asks the linker for it.
-static void initCatalogues()
+// The resources are in a static library, so nothing else asks the linker for them.
+static void initResources()
 {
     Q_INIT_RESOURCE(catalogues);
+    Q_INIT_RESOURCE(icon);
 }
 
 namespace Plugin {
@@ -38,7 +41,7 @@ CNerixViewerPlugin::CNerixViewerPlugin(WindowMode mode, QObject *parent)
     , m_messageService(QSharedPointer<CMessageService>::create())
     , m_entries(std::make_unique<QObject>())
 {
-    initCatalogues();
+    initResources();
     if (mode == WindowMode::WithWindows) {
         m_windowService = QSharedPointer<CMainWindowService>::create(
             [this](QDockWidget &panel) { addPanelEntry(panel); });
@@ -199,6 +202,7 @@ void CNerixViewerPlugin::showWindow()
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
             &CNerixViewerPlugin::leaveWindow);
     m_appearance->apply();
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/nerixviewer/icon.svg")));
     window.setMenus(menuService->menus());
     window.restoreLayout();
     window.show();
