@@ -40,8 +40,9 @@ public:
     virtual QSharedPointer<IEnumerationParameter>
     enumerationParameter(const QString &fullName) const = 0;
 
-    /// The values of a whole tree as one text, which can be loaded again.
-    /// @throws CParameterException if the device cannot be read.
+    /// The values of a whole tree as one text, which can be loaded again. What cannot be read is
+    /// left out and counted in the first line: everything, if the device is gone or closed.
+    /// @throws CParameterException if there is no such tree.
     virtual QString featureStream(const QString &treeName) const = 0;
 };
 

@@ -27,7 +27,11 @@ private Q_SLOTS:
     void openCameraThatVanishesIsClosedAndThenDisconnected();
     void openCameraCanBeOpenedAgainWhenItIsBack();
     void everyParameterOfALostCameraIsUnavailableAndThrows();
-    void featureStreamOfALostCameraThrowsDuringClosing();
+    void featureStreamOfALostCameraLeavesEverythingOutDuringClosing();
+    void openingACameraThatHasJustVanishedFailsWithItsNameAndTheRemedy();
+    void openingACameraWhoseClosingHangsFailsWithItsNameAndTheRemedy();
+    void openingACameraThatVanishesMeanwhileEnds();
+    void cameraThatIsBackIsThereOnceItCanBeOpened();
     void threadsThatReadWhileTheCameraVanishesAreAllRefused();
     void closingACameraThatVanishedEndsWithClosed();
     void closeAllEndsWhenACameraHasVanished();
@@ -50,6 +54,15 @@ QString readUntilRefused(IParameter &parameter)
     } catch (const CParameterException &exception) {
         return exception.message();
     }
+}
+
+// A pool that does not notice what is gone by looking for it.
+CPoolTiming searchOnce()
+{
+    CPoolTiming timing;
+    timing.firstSearchDelay = 0;
+    timing.searchPause = 1000000;
+    return timing;
 }
 
 const QString &goneMessage()
@@ -131,7 +144,7 @@ void LossTest::everyParameterOfALostCameraIsUnavailableAndThrows()
     QVERIFY(count > 40);
 }
 
-void LossTest::featureStreamOfALostCameraThrowsDuringClosing()
+void LossTest::featureStreamOfALostCameraLeavesEverythingOutDuringClosing()
 {
     COpenCamera camera;
     QVERIFY(camera.isOpen());
@@ -139,22 +152,74 @@ void LossTest::featureStreamOfALostCameraThrowsDuringClosing()
     QObject receiver;
     receiver.moveToThread(&otherThread);
     otherThread.start();
-    QString message;
+    QString stream;
     connect(
         camera.rig().pool().status().get(), &CCameraStatus::deviceClosing, &receiver,
-        [&] {
-            try {
-                camera.parameters().featureStream(QStringLiteral("@CameraDevice"));
-            } catch (const CParameterException &exception) {
-                message = exception.message();
-            }
-        },
+        [&] { stream = camera.parameters().featureStream(QStringLiteral("@CameraDevice")); },
         Qt::BlockingQueuedConnection);
     camera.simulator().kill();
     QVERIFY(camera.rig().waitFor(QStringLiteral("disconnected A1")));
     otherThread.quit();
     otherThread.wait();
-    QCOMPARE(message, goneMessage());
+    QCOMPARE(stream, QStringLiteral("# nerix feature stream 1: 0 features, 39 not readable\n"));
+}
+
+void LossTest::openingACameraWhoseClosingHangsFailsWithItsNameAndTheRemedy()
+{
+    CSimulatorProcess simulator({QStringLiteral("--serial"), QStringLiteral("A1")});
+    QVERIFY(simulator.start());
+    CPoolRig rig(searchOnce());
+    QVERIFY(rig.search());
+    const auto camera = rig.camera(QStringLiteral("A1"));
+    QVERIFY(rig.open(camera));
+    simulator.kill();
+    QVERIFY(rig.close(camera));
+    QVERIFY(!rig.open(camera));
+    QCOMPARE(rig.lastFailure(),
+             QStringLiteral("Ostrand-XQZ-2000-A1 is still being closed, since it has not answered "
+                            "for a while: open it again in some seconds"));
+}
+
+void LossTest::openingACameraThatHasJustVanishedFailsWithItsNameAndTheRemedy()
+{
+    CSimulatorProcess simulator({QStringLiteral("--serial"), QStringLiteral("A1")});
+    QVERIFY(simulator.start());
+    CPoolRig rig(searchOnce());
+    QVERIFY(rig.search());
+    const auto camera = rig.camera(QStringLiteral("A1"));
+    simulator.kill();
+    QVERIFY(!rig.open(camera));
+    QCOMPARE(rig.lastFailure(),
+             QStringLiteral("Ostrand-XQZ-2000-A1 does not answer: check its cable and power, then "
+                            "open it again"));
+}
+
+void LossTest::openingACameraThatVanishesMeanwhileEnds()
+{
+    CSimulatorProcess simulator({QStringLiteral("--serial"), QStringLiteral("A1")});
+    QVERIFY(simulator.start());
+    CPoolRig rig;
+    QVERIFY(rig.search());
+    rig.pool().control()->open(rig.camera(QStringLiteral("A1")));
+    simulator.kill();
+    QVERIFY(rig.waitFor(QStringLiteral("disconnected A1")));
+    QCOMPARE(rig.log().count(QStringLiteral("opened A1")),
+             rig.log().count(QStringLiteral("closing A1")));
+    QCOMPARE(rig.log().count(QStringLiteral("opened A1"))
+                 + rig.log().count(QStringLiteral("openFailed A1")),
+             1);
+}
+
+void LossTest::cameraThatIsBackIsThereOnceItCanBeOpened()
+{
+    COpenCamera camera;
+    QVERIFY(camera.isOpen());
+    camera.simulator().kill();
+    QVERIFY(camera.rig().waitFor(QStringLiteral("disconnected A1")));
+    QVERIFY(camera.simulator().start());
+    QVERIFY(camera.rig().waitFor(QStringLiteral("connected A1"), 2));
+    QVERIFY(camera.rig().open(camera.rig().camera(QStringLiteral("A1"))));
+    QCOMPARE(camera.rig().log().count(QStringLiteral("openFailed A1")), 0);
 }
 
 void LossTest::threadsThatReadWhileTheCameraVanishesAreAllRefused()

@@ -6,6 +6,7 @@
 
 #include <ParameterCollection/CParameterException.h>
 
+#include <thread>
 #include <utility>
 
 namespace CameraPool {
@@ -18,12 +19,32 @@ constexpr std::chrono::milliseconds Patience(2500);
 // How often a waiting thread looks whether the device was lost meanwhile.
 constexpr std::chrono::milliseconds LookInterval(50);
 
+// How long a device may keep a thread waiting before it is asked whether it is there, once: a
+// device that works answers in some milliseconds.
+constexpr std::chrono::milliseconds Suspicion(500);
+
+// Longer than any signal of Aravis is on its way.
+constexpr std::chrono::milliseconds SignalPatience(2000);
+
+// Aravis' heartbeat thread (0.8.26) holds a reference while it emits "control-lost". Were that the
+// last one, the thread would end the device and with it wait for its own end, which GLib answers by
+// ending the program.
+void waitForLastReference(ArvDevice *device)
+{
+    const auto deadline = std::chrono::steady_clock::now() + SignalPatience;
+    while (g_atomic_int_get(&G_OBJECT(device)->ref_count) > 1
+           && std::chrono::steady_clock::now() < deadline) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+}
+
 } // namespace
 
 CDevice::CDevice(Core::CameraPoolComponents::CameraInfoPtr info, GObjectPtr<ArvDevice> device,
-                 std::function<void()> onLost)
+                 std::function<void()> onLost, std::function<bool()> isAnswering)
     : m_info(std::move(info))
     , m_onLost(std::move(onLost))
+    , m_isAnswering(std::move(isAnswering))
     , m_device(std::move(device))
     , m_counters(CStreamCounters::none(ARV_IS_GV_DEVICE(m_device.get())))
 {
@@ -59,12 +80,15 @@ void CDevice::throwIfUnusable() const
 
 void CDevice::waitFor(const std::function<bool(std::chrono::milliseconds)> &isDone)
 {
-    const auto deadline = std::chrono::steady_clock::now() + Patience;
+    const auto begin = std::chrono::steady_clock::now();
+    bool wasAsked = false;
     do {
         throwIfUnusable();
-        if (std::chrono::steady_clock::now() > deadline) {
+        const auto waited = std::chrono::steady_clock::now() - begin;
+        if (waited > Patience || (!wasAsked && waited > Suspicion && !m_isAnswering())) {
             markLost();
         }
+        wasAsked = wasAsked || waited > Suspicion;
     } while (!isDone(LookInterval));
 }
 
@@ -89,8 +113,12 @@ void CDevice::close()
         const std::lock_guard<CDeviceLock> lock(m_lock);
         device = std::move(m_device);
     }
+    if (device) {
+        g_signal_handlers_disconnect_by_data(device.get(), this);
+        waitForLastReference(device.get());
+    }
     // Given back without the lock: of a dead device this takes seconds, which nobody shall wait
-    // for. It also ends Aravis' heartbeat thread, so that onControlLost is not called any more.
+    // for. It also ends Aravis' heartbeat thread.
     device.reset();
 }
 

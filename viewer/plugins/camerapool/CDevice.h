@@ -39,9 +39,10 @@ class CDevice
 {
 public:
     /// \a onLost is called at most once, in whichever thread notices the loss, possibly while the
-    /// device is locked: it must do no more than post an event.
+    /// device is locked: it must do no more than post an event. \a isAnswering asks the device by
+    /// another way whether it is still there; it is called in any thread that waits for the device.
     CDevice(Core::CameraPoolComponents::CameraInfoPtr info, GObjectPtr<ArvDevice> device,
-            std::function<void()> onLost);
+            std::function<void()> onLost, std::function<bool()> isAnswering);
     ~CDevice();
 
     Q_DISABLE_COPY_MOVE(CDevice)
@@ -69,8 +70,9 @@ public:
     /// Does \a work, which takes a `const CDeviceAccess &`, in the device's thread, and gives its
     /// result. Where the caller gives up waiting, \a work goes on: it must own all that it uses.
     /// @throws ParameterCollection::CParameterException at once if the device is closed or lost,
-    /// as soon as it is lost meanwhile, and after two and a half seconds; then it is lost. Also
-    /// whatever \a work throws.
+    /// as soon as it is lost meanwhile, and after two and a half seconds; then it is lost. It is
+    /// so earlier if it keeps others waiting and gives no answer to the question whether it is
+    /// there. Also whatever \a work throws.
     template <class Work>
     auto call(Work work);
 
@@ -98,6 +100,7 @@ private:
 
     const Core::CameraPoolComponents::CameraInfoPtr m_info;
     const std::function<void()> m_onLost;
+    const std::function<bool()> m_isAnswering;
     std::atomic<bool> m_isOpen{true};
     std::atomic<bool> m_isLost{false};
     CDeviceLock m_lock;

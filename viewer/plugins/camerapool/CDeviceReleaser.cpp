@@ -55,14 +55,26 @@ CDeviceReleaser::~CDeviceReleaser()
 
 void CDeviceReleaser::release(const QSharedPointer<CDevice> &device)
 {
-    const QString identity = device->info()->identity();
+    run(
+        device->info()->identity(), [device] { device->close(); },
+        device->isLost() ? std::chrono::milliseconds(0) : PatienceForOne);
+}
+
+void CDeviceReleaser::await(const QString &identity, std::function<void()> work)
+{
+    run(identity, std::move(work), std::chrono::milliseconds(0));
+}
+
+void CDeviceReleaser::run(const QString &identity, std::function<void()> work,
+                          std::chrono::milliseconds patience)
+{
     std::unique_lock<std::mutex> lock(m_state->mutex);
     m_state->underWay.insert(identity);
-    std::thread([state = m_state, device, identity] {
-        device->close();
+    std::thread([state = m_state, work = std::move(work), identity]() mutable {
+        work();
+        work = nullptr;
         state->end(identity);
     }).detach();
-    const auto patience = device->isLost() ? std::chrono::milliseconds(0) : PatienceForOne;
     const bool isDone = m_state->changed.wait_for(
         lock, patience, [&] { return !m_state->underWay.contains(identity); });
     if (!isDone) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -33,12 +34,19 @@ public:
     /// under way.
     void release(const QSharedPointer<CDevice> &device);
 
+    /// Does \a work, the end of a connection to the camera \a identity, in a thread of its own.
+    /// Returns at once.
+    void await(const QString &identity, std::function<void()> work);
+
     /// True while a device of this camera is still being closed. It should not be opened then: the
     /// end of the old connection could take the new one's control away.
     bool isReleasing(const QString &identity) const;
 
 private:
     struct State;
+
+    void run(const QString &identity, std::function<void()> work,
+             std::chrono::milliseconds patience);
 
     // Shared with the threads, which may live longer.
     const std::shared_ptr<State> m_state;

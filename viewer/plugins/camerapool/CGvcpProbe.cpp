@@ -68,8 +68,7 @@ bool CGvcpProbe::ask(CFoundCamera *camera)
 {
     CFoundCamera found = *camera;
     const quint16 discoveryId = nextRequestId();
-    if (!GvcpMessage::parseDiscoveryAnswer(
-            exchange(GvcpMessage::discovery(discoveryId), discoveryId), discoveryId, &found)) {
+    if (!GvcpMessage::parseDiscoveryAnswer(discover(discoveryId), discoveryId, &found)) {
         return false;
     }
     const quint16 privilegeId = nextRequestId();
@@ -78,6 +77,16 @@ bool CGvcpProbe::ask(CFoundCamera *camera)
     found.openId = m_address;
     *camera = found;
     return true;
+}
+
+bool CGvcpProbe::isAnswering()
+{
+    return !discover(nextRequestId()).isEmpty() || !discover(nextRequestId()).isEmpty();
+}
+
+QByteArray CGvcpProbe::discover(quint16 requestId) const
+{
+    return exchange(GvcpMessage::discovery(requestId), requestId);
 }
 
 QByteArray CGvcpProbe::exchange(const QByteArray &question, quint16 requestId) const

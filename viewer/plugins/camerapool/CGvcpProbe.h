@@ -26,7 +26,12 @@ public:
     /// @return false, with \a camera unchanged, if there is no camera or it does not answer.
     bool ask(CFoundCamera *camera);
 
+    /// Whether the camera answers at all. Asks again before it says no, since the network may lose
+    /// a datagram.
+    bool isAnswering();
+
 private:
+    QByteArray discover(quint16 requestId) const;
     QByteArray exchange(const QByteArray &question, quint16 requestId) const;
     QByteArray receive(quint16 requestId) const;
 

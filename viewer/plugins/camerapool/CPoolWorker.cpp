@@ -8,9 +8,16 @@
 #include "DeviceOpener.h"
 #include "Logging.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace CameraPool {
+namespace {
+
+// How long an opening waits for the end of the camera's last connection, besides a search or two.
+constexpr std::chrono::milliseconds ReleasePatience(1000);
+
+} // namespace
 
 CPoolWorker::CPoolWorker(const Outlets &outlets, std::unique_ptr<ICameraSearch> search,
                          const CPoolTiming &timing)
@@ -38,7 +45,7 @@ void CPoolWorker::beginSearching()
 
 void CPoolWorker::searchOnce()
 {
-    const QVector<CFoundCamera> found = m_search->search();
+    const QVector<CFoundCamera> found = search();
     const QList<QString> open = m_open.keys();
     const auto changes = m_table.update(found, QSet<QString>(open.begin(), open.end()));
     publish();
@@ -49,11 +56,25 @@ void CPoolWorker::searchOnce()
     }
 }
 
+// A camera that was lost and is back is there once its lost connection is given back, which takes
+// some seconds: whoever sees it can open it.
+QVector<CFoundCamera> CPoolWorker::search()
+{
+    QVector<CFoundCamera> found = m_search->search();
+    const auto isHeld = [this](const CFoundCamera &camera) {
+        return !m_table.find(camera.identity()) && m_releaser.isReleasing(camera.identity());
+    };
+    found.erase(std::remove_if(found.begin(), found.end(), isHeld), found.end());
+    return found;
+}
+
 void CPoolWorker::report(const CCameraTable::Changes &changes)
 {
     for (const CameraInfoPtr &camera : changes.gone) {
         qCInfo(lcCameraPool, "%s is gone", qUtf8Printable(camera->identity()));
         Q_EMIT m_outlets.status->deviceDisconnected(camera);
+        failWaiting(camera->identity(),
+                    QStringLiteral("is not connected: check its cable and power, then open it"));
     }
     for (const CameraInfoPtr &camera : changes.connected) {
         qCInfo(lcCameraPool, "%s is there", qUtf8Printable(camera->identity()));
@@ -88,16 +109,36 @@ void CPoolWorker::open(const CameraInfoPtr &camera)
         return;
     }
     const CFoundCamera *found = m_table.find(identity);
-    if (!m_isEnding && m_releaser.isReleasing(identity)) {
-        m_waiting.insert(identity, camera);
-    } else if (m_isEnding) {
+    if (m_isEnding) {
         fail(camera, QStringLiteral("%1 is not opened: the viewer is closing; start it again")
                          .arg(camera->displayName()));
     } else if (!found) {
         fail(camera, QStringLiteral("%1 is not connected: check its cable and power, then open it")
                          .arg(camera->displayName()));
+    } else if (m_releaser.isReleasing(identity)) {
+        waitForRelease(camera);
     } else {
         connectDevice(*found, camera);
+    }
+}
+
+void CPoolWorker::waitForRelease(const CameraInfoPtr &camera)
+{
+    const QString identity = camera->identity();
+    const quint64 request = ++m_lastSession;
+    m_waiting.insert(identity, {camera, request});
+    QTimer::singleShot(ReleasePatience, this, [this, identity, request] {
+        if (m_waiting.value(identity).second == request) {
+            failWaiting(identity, QStringLiteral("is still being closed, since it has not answered "
+                                                 "for a while: open it again in some seconds"));
+        }
+    });
+}
+
+void CPoolWorker::failWaiting(const QString &identity, const QString &reason)
+{
+    if (const CameraInfoPtr camera = m_waiting.take(identity).first) {
+        fail(camera, QStringLiteral("%1 %2").arg(camera->displayName(), reason));
     }
 }
 
@@ -110,7 +151,7 @@ void CPoolWorker::connectDevice(const CFoundCamera &found, const CameraInfoPtr &
             this, [=] { onDeviceLost(identity, session); }, Qt::QueuedConnection);
     };
     try {
-        const auto device = openDevice(found, camera, postLoss);
+        const auto device = openDevice(found, camera, postLoss, m_releaser);
         m_open.insert(identity, device);
         m_sessions.insert(identity, session);
         m_outlets.devices->put(device);
@@ -220,8 +261,7 @@ void CPoolWorker::onDeviceLost(const QString &identity, quint64 session)
 
 void CPoolWorker::onDeviceReleased(const QString &identity)
 {
-    const CameraInfoPtr camera = m_waiting.take(identity);
-    if (camera) {
+    if (const CameraInfoPtr camera = m_waiting.take(identity).first) {
         open(camera);
     }
 }

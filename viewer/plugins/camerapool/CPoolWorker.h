@@ -61,6 +61,9 @@ public:
 
 private:
     void searchOnce();
+    QVector<CFoundCamera> search();
+    void waitForRelease(const CameraInfoPtr &camera);
+    void failWaiting(const QString &identity, const QString &reason);
     void report(const CCameraTable::Changes &changes);
     void reportEnumeration();
     void connectDevice(const CFoundCamera &found, const CameraInfoPtr &camera);
@@ -81,7 +84,8 @@ private:
     QHash<QString, quint64> m_sessions;            // by identity: which opening it is
     quint64 m_lastSession = 0;
     QMap<QString, QSharedPointer<CGrab>> m_grabs; // by identity; some may have ended
-    QHash<QString, CameraInfoPtr> m_waiting;      // to be opened when their last device is released
+    // To be opened when their last device is released, by identity, with the number of the request.
+    QHash<QString, QPair<CameraInfoPtr, quint64>> m_waiting;
     CDeviceReleaser m_releaser;
     QSet<QString> m_reported; // identities at the last enumerationChanged
     bool m_hasReported = false;

@@ -2,10 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "DeviceOpener.h"
 
+#include "CDeviceReleaser.h"
+#include "CGvcpProbe.h"
+
+#include <chrono>
+#include <future>
+#include <memory>
+#include <thread>
 #include <utility>
 
 namespace CameraPool {
 namespace {
+
+// How long an opening may take before the camera is asked whether it is still there, and then from
+// time to time.
+constexpr std::chrono::milliseconds Suspicion(500);
 
 [[noreturn]] void throwInUse(const QString &name)
 {
@@ -45,16 +56,55 @@ ArvDevice *openAny(const CFoundCamera &found, GError **error)
                         : arv_open_device(found.openId.toUtf8().constData(), error);
 }
 
+struct Outcome
+{
+    GObjectPtr<ArvDevice> device;
+    CGError error;
+};
+
+using Opening = std::shared_future<std::shared_ptr<Outcome>>;
+
+Opening beginOpening(const CFoundCamera &found)
+{
+    std::packaged_task<std::shared_ptr<Outcome>()> task([found] {
+        auto outcome = std::make_shared<Outcome>();
+        outcome->device.reset(openAny(found, outcome->error.out()));
+        return outcome;
+    });
+    const Opening opening = task.get_future().share();
+    std::thread(std::move(task)).detach();
+    return opening;
+}
+
+// Aravis knows of no other way to ask a camera that is not GigE than by its connection.
+std::function<bool()> questionTo(const CFoundCamera &found)
+{
+    if (!found.isGigE) {
+        return [] { return true; };
+    }
+    return [address = found.openId] { return CGvcpProbe(address).isAnswering(); };
+}
+
 } // namespace
 
 QSharedPointer<CDevice> openDevice(const CFoundCamera &found,
                                    const Core::CameraPoolComponents::CameraInfoPtr &info,
-                                   std::function<void()> onLost)
+                                   std::function<void()> onLost, CDeviceReleaser &releaser)
 {
-    CGError error;
-    GObjectPtr<ArvDevice> device(openAny(found, error.out()));
+    const Opening opening = beginOpening(found);
+    const auto isAnswering = questionTo(found);
+    while (opening.wait_for(Suspicion) != std::future_status::ready) {
+        if (!isAnswering()) {
+            releaser.await(found.identity(), [opening] { opening.get()->device.reset(); });
+            throw COpenException(COpenException::Other,
+                                 QStringLiteral("%1 does not answer: check its cable and power, "
+                                                "then open it again")
+                                     .arg(info->displayName()));
+        }
+    }
+    GObjectPtr<ArvDevice> device = std::move(opening.get()->device);
     if (!device) {
-        throwFailed(info->displayName(), error);
+        throwFailed(info->displayName(), opening.get()->error);
     }
     // A second program gets a connection too, but one that may only read.
     if (ARV_IS_GV_DEVICE(device.get())
@@ -69,7 +119,7 @@ QSharedPointer<CDevice> openDevice(const CFoundCamera &found,
     }
     arv_device_set_range_check_policy(device.get(), ARV_RANGE_CHECK_POLICY_ENABLE);
     arv_device_set_access_check_policy(device.get(), ARV_ACCESS_CHECK_POLICY_ENABLE);
-    return QSharedPointer<CDevice>::create(info, std::move(device), std::move(onLost));
+    return QSharedPointer<CDevice>::create(info, std::move(device), std::move(onLost), isAnswering);
 }
 
 } // namespace CameraPool

@@ -13,6 +13,8 @@
 
 namespace CameraPool {
 
+class CDeviceReleaser;
+
 /// A camera could not be opened. The message is one line that names the camera and the remedy.
 class COpenException : public std::runtime_error
 {
@@ -35,11 +37,13 @@ private:
 
 /// Opens the camera that was found as \a found, takes control of it and switches the checks on that
 /// refuse values out of range and writes to what is read-only. In the camera pool's thread; takes
-/// some milliseconds, and some seconds if the camera does not answer.
+/// some milliseconds. A camera that stops answering meanwhile is given up, which is noticed after
+/// half a second, or two and a half where the network does not say that nobody listens; \a releaser
+/// then waits for what Aravis goes on trying.
 /// @param onLost see `CDevice`.
 /// @throws COpenException
 QSharedPointer<CDevice> openDevice(const CFoundCamera &found,
                                    const Core::CameraPoolComponents::CameraInfoPtr &info,
-                                   std::function<void()> onLost);
+                                   std::function<void()> onLost, CDeviceReleaser &releaser);
 
 } // namespace CameraPool

@@ -120,7 +120,7 @@ QSharedPointer<Interface> CParameterCollection::typed(const QString &fullName) c
     return found ? found : QSharedPointer<Null>::create(fullName);
 }
 
-// A feature that fails is left out, unless the reason is that the device is gone.
+// A feature that fails is left out and counted. Of a device that is gone each fails at once.
 QString CParameterCollection::cameraStream() const
 {
     QVector<FeatureStream::Line> lines;
@@ -132,9 +132,6 @@ QString CParameterCollection::cameraStream() const
         try {
             lines.append({feature.name(), CFeatureQuestions(feature).readText()});
         } catch (const CParameterException &) {
-            if (!m_device->isOpen()) {
-                throw;
-            }
             ++notReadable;
         }
     }
