@@ -111,6 +111,9 @@ void TwoCamerasTest::testEveryEventIsStoredOnce()
         done.insert(line.section(' ', 1, 2), line.section(' ', 3).toInt());
     }
     QVERIFY(!done.isEmpty());
+    for (auto what = done.cbegin(); what != done.cend(); ++what) {
+        qInfo("%s: %d in %d s", qPrintable(what.key()), what.value(), loadSeconds());
+    }
     // A camera's number is the place in which it was first seen.
     QStringList byNumber{"Ostrand-XQZ-2000-1", "Ostrand-XQZ-2000-2"};
     QMap<QString, int> stored = countsOf(viewer.storedEvents(), byNumber);
