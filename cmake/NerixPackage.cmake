@@ -27,7 +27,8 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
     "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}" "${CMAKE_BINARY_DIR}/${NERIX_PLUGIN_DIR}")
 string(JOIN ", " CPACK_DEBIAN_UNSPECIFIED_PACKAGE_DEPENDS
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2
-    qml-module-qtquick-templates2 qml-module-qtgraphicaleffects libqt5svg5)
+    qml-module-qtquick-templates2 qml-module-qtgraphicaleffects libqt5svg5
+    qt5-image-formats-plugins)
 set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_RECOMMENDS "fonts-noto-cjk, qttranslations5-l10n")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME nerix-viewer-dev)

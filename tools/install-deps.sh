@@ -12,6 +12,8 @@ packages=(
     # Qt 5.15: libraries, tools, the modules of the consent page
     qtbase5-dev qtbase5-dev-tools qtdeclarative5-dev qtdeclarative5-dev-tools
     qttools5-dev qttools5-dev-tools qtquickcontrols2-5-dev libqt5svg5
+    # TIFF files
+    qt5-image-formats-plugins
     # the translations of Qt's own dialogs
     qttranslations5-l10n
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2

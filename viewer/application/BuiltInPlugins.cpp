@@ -11,6 +11,7 @@
 #include "plugins/featuretree/FeatureTreePlugin.h"
 #include "plugins/grabbing/GrabbingPlugin.h"
 #include "plugins/help/HelpPlugin.h"
+#include "plugins/imageview/ImageViewPlugin.h"
 #include "plugins/localization/LocalizationPlugin.h"
 #include "plugins/nerixviewer/NerixViewerPlugin.h"
 #include "plugins/nerixwelcome/NerixWelcomePlugin.h"
@@ -101,6 +102,9 @@ void addImages(CPluginManager &manager)
     manager.addBuiltIn(
         metaData("Grabbing", "Grabs with the selected camera.", {"CameraSelector", "NerixViewer"}),
         factory<Grabbing::CGrabbingPlugin>());
+    manager.addBuiltIn(
+        metaData("ImageView", "The images of open cameras.", {"CameraSelector", "NerixViewer"}),
+        factory<ImageView::CImageViewPlugin>());
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <Nerix/CGrabResultData.h>
 
 #include <cstdint>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -18,4 +19,17 @@ inline Nerix::CImage testImage(int width, int height, std::uint32_t pixelFormat,
     image.pixelFormat = pixelFormat;
     image.data = std::move(data);
     return image;
+}
+
+// A result that succeeded: one pixel of Mono8, or as many in a row as there are values.
+inline Nerix::CGrabResultPtr greyResult(std::vector<std::uint8_t> values)
+{
+    const int width = int(values.size());
+    return std::make_shared<Nerix::CGrabResultData>(
+        testImage(width, 1, 0x01080001, std::move(values)));
+}
+
+inline Nerix::CGrabResultPtr failedResult(std::uint32_t code, const char *description)
+{
+    return std::make_shared<Nerix::CGrabResultData>(code, description);
 }

@@ -21,7 +21,9 @@ Q_SIGNALS:
     ///
     /// Connect directly, keep at most the newest result, and return at once: the grab waits
     /// meanwhile. A queued connection would keep every image in memory until its receiver has time,
-    /// without a limit.
+    /// without a limit. Do not disconnect while a grab may run, not even by deleting the receiver:
+    /// Qt 5.15 would free the connection under the grab's feet. A functor with the service itself
+    /// as its context stays connected until the end, when no grab runs.
     void resultArrived(const Core::CameraPoolComponents::CameraInfoPtr &camera,
                        const Nerix::CGrabResultPtr &result);
 

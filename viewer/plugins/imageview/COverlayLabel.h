@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+namespace ImageView {
+
+/// Words over an image view: light, and over an image on a dark, translucent ground, so that they
+/// are read on every image and in every palette. The mouse goes through it. GUI thread.
+class COverlayLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    enum class Ground { None, Dark };
+
+    explicit COverlayLabel(Ground ground, QWidget *parent = nullptr);
+    ~COverlayLabel() override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    Ground m_ground;
+};
+
+} // namespace ImageView
