@@ -17,6 +17,7 @@
 #include "plugins/nerixwelcome/NerixWelcomePlugin.h"
 #include "plugins/parametercollectionpool/ParameterCollectionPoolPlugin.h"
 #include "plugins/settings/SettingsPlugin.h"
+#include "plugins/usagedatalog/UsageDataLogPlugin.h"
 
 #include <pluginsystem/CPluginManager.h>
 
@@ -80,6 +81,9 @@ void addApplication(CPluginManager &manager, const CommandLine &commandLine)
                        factory<NerixWelcome::CNerixWelcomePlugin>());
     manager.addBuiltIn(metaData("Help", "Documents and web addresses.", {"NerixViewer"}),
                        factory<Help::CHelpPlugin>(documentFolder()));
+    manager.addBuiltIn(
+        metaData("UsageDataLog", "What is recorded of how the viewer is used.", {"NerixWelcome"}),
+        factory<UsageDataLog::CUsageDataLogPlugin>(eventsTool()));
 }
 
 void addCameras(CPluginManager &manager)

@@ -27,4 +27,9 @@ QString documentFolder()
     return besideProgram(QStringLiteral("../share/doc/nerix-viewer"));
 }
 
+QString eventsTool()
+{
+    return besideProgram(QStringLiteral("rui-events"));
+}
+
 } // namespace Application

@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/usagedatalog/CEventModel.h"
+
+#include "windows/OnLanguageChange.h"
+
+#include <algorithm>
+
+#include <QSet>
+
+namespace Plugin {
+namespace UsageDataLog {
+
+namespace {
+
+// A record may have a hundred thousand characters; a cell shows these.
+constexpr int shownOfRecord = 300;
+
+QString begin(const QByteArray &text)
+{
+    // A character has up to four bytes; one that is cut is left out.
+    const QString shown = QString::fromUtf8(text.left(4 * shownOfRecord)).left(shownOfRecord);
+    return shown.simplified();
+}
+
+} // namespace
+
+CEventModel::CEventModel(QObject *parent)
+    : QAbstractTableModel(parent)
+{
+    Windows::onLanguageChange(this, [this] { retranslate(); });
+}
+
+CEventModel::~CEventModel() = default;
+
+void CEventModel::append(const CStoredEvent &event)
+{
+    if (!m_events.isEmpty() && event.number <= m_events.constLast().number) {
+        return;
+    }
+    beginInsertRows({}, m_events.size(), m_events.size());
+    m_events.append(event);
+    endInsertRows();
+}
+
+void CEventModel::setEvents(const CStoredEvents &events)
+{
+    removeMissing(events);
+    for (int row = 0; row < m_events.size(); ++row) {
+        if (m_events.at(row).isDelivered != events.at(row).isDelivered) {
+            m_events[row] = events.at(row);
+            Q_EMIT dataChanged(index(row, StateColumn), index(row, StateColumn));
+        }
+    }
+    for (int row = m_events.size(); row < events.size(); ++row) {
+        append(events.at(row));
+    }
+}
+
+int CEventModel::deliveredCount() const
+{
+    return int(std::count_if(m_events.begin(), m_events.end(),
+                             [](const CStoredEvent &event) { return event.isDelivered; }));
+}
+
+int CEventModel::waitingCount() const
+{
+    return m_events.size() - deliveredCount();
+}
+
+int CEventModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_events.size();
+}
+
+int CEventModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant CEventModel::data(const QModelIndex &index, int role) const
+{
+    const CStoredEvent &event = m_events.at(index.row());
+    if (role == WholeTextRole) {
+        return event.text;
+    }
+    if (role == Qt::ToolTipRole && index.column() == TimeColumn) {
+        return event.time.toString(Qt::ISODateWithMs);
+    }
+    if (role != Qt::DisplayRole) {
+        return {};
+    }
+    switch (index.column()) {
+    case TimeColumn:
+        return event.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    case CategoryColumn:
+        return event.category;
+    case NameColumn:
+        return event.name;
+    case RecordColumn:
+        return begin(event.text);
+    case StateColumn:
+        return event.isDelivered ? tr("Delivered") : tr("Waiting");
+    default:
+        return {};
+    }
+}
+
+QVariant CEventModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return QAbstractTableModel::headerData(section, orientation, role);
+    }
+    switch (section) {
+    case TimeColumn:
+        return tr("Time");
+    case CategoryColumn:
+        return tr("Category");
+    case NameColumn:
+        return tr("Name");
+    case RecordColumn:
+        return tr("Record");
+    case StateColumn:
+        return tr("State");
+    default:
+        return {};
+    }
+}
+
+// Afterwards the rows are the first ones of \a events.
+void CEventModel::removeMissing(const CStoredEvents &events)
+{
+    QSet<qint64> numbers;
+    for (const CStoredEvent &event : events) {
+        numbers.insert(event.number);
+    }
+    for (int last = m_events.size() - 1; last >= 0; --last) {
+        int first = last;
+        while (first >= 0 && !numbers.contains(m_events.at(first).number)) {
+            --first;
+        }
+        if (first != last) {
+            beginRemoveRows({}, first + 1, last);
+            m_events.remove(first + 1, last - first);
+            endRemoveRows();
+        }
+        last = first;
+    }
+    const auto same = [](const CStoredEvent &one, const CStoredEvent &other) {
+        return one.number == other.number && one.time == other.time;
+    };
+    const bool isBeginning = m_events.size() <= events.size()
+                             && std::equal(m_events.begin(), m_events.end(), events.begin(), same);
+    if (!isBeginning) {
+        beginResetModel();
+        m_events.clear();
+        endResetModel();
+    }
+}
+
+void CEventModel::retranslate()
+{
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+    if (!m_events.isEmpty()) {
+        Q_EMIT dataChanged(index(0, StateColumn), index(m_events.size() - 1, StateColumn));
+    }
+}
+
+} // namespace UsageDataLog
+} // namespace Plugin

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/usagedatalog/CEventStore.h"
+
+#include <chrono>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace Plugin {
+namespace UsageDataLog {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto compareEvery = 1s;
+
+// All events may be 50 MiB.
+constexpr std::chrono::milliseconds readAllAtMostEvery = 4s;
+
+const QLatin1String noStore("no usage events are stored here");
+
+CStoredEvents eventsOf(const QByteArray &lines)
+{
+    CStoredEvents events;
+    int begin = 0;
+    for (int end = lines.indexOf('\n'); end >= 0; end = lines.indexOf('\n', begin)) {
+        const CStoredEvent event = CStoredEvent::fromJson(lines.mid(begin, end - begin));
+        if (event.number > 0) {
+            events.append(event);
+        }
+        begin = end + 1;
+    }
+    return events;
+}
+
+} // namespace
+
+CEventStore::CEventStore(const QString &program, const QString &directory, QObject *parent)
+    : QObject(parent)
+    , m_tool(program, directory)
+{
+    m_timer.setInterval(compareEvery);
+    connect(&m_timer, &QTimer::timeout, this, &CEventStore::compare);
+    connect(&m_model, &QAbstractItemModel::rowsInserted, this, &CEventStore::changed);
+    connect(&m_model, &QAbstractItemModel::rowsRemoved, this, &CEventStore::changed);
+    connect(&m_model, &QAbstractItemModel::dataChanged, this, &CEventStore::changed);
+    connect(&m_model, &QAbstractItemModel::modelReset, this, &CEventStore::changed);
+}
+
+CEventStore::~CEventStore() = default;
+
+void CEventStore::watch()
+{
+    if (m_watch) {
+        return;
+    }
+    m_watch = std::make_unique<QObject>();
+    m_tool.listen({QStringLiteral("--follow"), QStringLiteral("--json")}, m_watch.get(),
+                  [this](const QByteArray &line) {
+                      const CStoredEvent event = CStoredEvent::fromJson(line);
+                      if (event.number > 0) {
+                          m_model.append(event);
+                          setState(State::Ready);
+                      }
+                  });
+    m_timer.start();
+    compare();
+}
+
+void CEventStore::stopWatching()
+{
+    m_timer.stop();
+    m_watch.reset();
+}
+
+bool CEventStore::isWatching() const
+{
+    return bool(m_watch);
+}
+
+CEventModel &CEventStore::model()
+{
+    return m_model;
+}
+
+CEventStore::State CEventStore::state() const
+{
+    return m_state;
+}
+
+QString CEventStore::error() const
+{
+    return m_error;
+}
+
+void CEventStore::exportTo(const QString &file, Format format)
+{
+    const QString option =
+        format == Format::Csv ? QStringLiteral("--csv") : QStringLiteral("--json");
+    m_tool.runInto(file, {option}, [this, file](const CEventsTool::Result &result) {
+        if (result.succeeded) {
+            Q_EMIT exported(file);
+        } else {
+            Q_EMIT failed(result.error);
+        }
+    });
+}
+
+void CEventStore::deleteAll()
+{
+    m_tool.run({QStringLiteral("purge")}, [this](const CEventsTool::Result &result) {
+        if (!result.succeeded) {
+            Q_EMIT failed(result.error);
+        }
+        readAll();
+    });
+}
+
+void CEventStore::compare()
+{
+    if (m_isComparing) {
+        return;
+    }
+    m_isComparing = true;
+    m_tool.run({QStringLiteral("--stats"), QStringLiteral("--json")},
+               [this](const CEventsTool::Result &result) { compareWith(result); });
+}
+
+// What is being followed may come a moment later than its number, so the numbers must differ twice.
+void CEventStore::compareWith(const CEventsTool::Result &statistics)
+{
+    m_isComparing = false;
+    if (!statistics.succeeded) {
+        m_model.setEvents({});
+        const bool isMissing = statistics.error.endsWith(noStore);
+        setState(isMissing ? State::NothingStored : State::Failed,
+                 isMissing ? QString() : statistics.error);
+        return;
+    }
+    setState(State::Ready);
+    const QJsonObject numbers = QJsonDocument::fromJson(statistics.output).object();
+    const bool differs =
+        numbers.value(QLatin1String("pending")).toInt() != m_model.waitingCount()
+        || numbers.value(QLatin1String("delivered")).toInt() != m_model.deliveredCount();
+    const bool mayRead = !m_lastRead.isValid() || m_lastRead.hasExpired(readAllAtMostEvery.count());
+    if (differs && m_differed && mayRead) {
+        m_differed = false;
+        readAll();
+    } else {
+        m_differed = differs;
+    }
+}
+
+void CEventStore::readAll()
+{
+    m_lastRead.start();
+    m_tool.run({QStringLiteral("--json")}, [this](const CEventsTool::Result &result) {
+        if (result.succeeded) {
+            m_model.setEvents(eventsOf(result.output));
+        }
+    });
+}
+
+void CEventStore::setState(State state, const QString &error)
+{
+    if (state != m_state || error != m_error) {
+        m_state = state;
+        m_error = error;
+        Q_EMIT changed();
+    }
+}
+
+} // namespace UsageDataLog
+} // namespace Plugin

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QTableView;
+
+namespace Plugin {
+namespace UsageDataLog {
+
+class CConsentWatch;
+class CEventFilter;
+class CEventStore;
+
+/// Help > "Usage Data Log": everything that is kept of how the viewer is used, as it comes, and
+/// what can be done with it. GUI thread. It watches the store while it is shown.
+class CUsageDataLogWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// \a store and \a consent must outlive the window.
+    CUsageDataLogWindow(CEventStore &store, CConsentWatch &consent, QWidget *parent = nullptr);
+    ~CUsageDataLogWindow() override;
+
+    /// Writes all events to \a file, as the Export button does once a file is chosen: a name that
+    /// ends with ".csv" means CSV, any other JSON lines.
+    void exportTo(const QString &file);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    void makeTable();
+    void makeButtons();
+    void layOut();
+    void setTexts();
+    void updateConsent();
+    void updateState();
+    void updateRecord();
+    void chooseExport();
+    void askToDelete();
+    QString stateText() const;
+    void say(const QString &text);
+
+    CEventStore &m_store;
+    CConsentWatch &m_consent;
+    CEventFilter *m_filter;
+    QLabel *m_consentText;
+    QPushButton *m_consentButton;
+    QLineEdit *m_search;
+    QTableView *m_table;
+    QPlainTextEdit *m_record;
+    QLabel *m_stateText;
+    QLabel *m_notice;
+    QPushButton *m_exportButton;
+    QPushButton *m_deleteButton;
+    QPushButton *m_closeButton;
+    QTimer m_stateTimer;  // many events that come at once are counted once
+    QTimer m_searchTimer; // the store may hold megabytes
+};
+
+} // namespace UsageDataLog
+} // namespace Plugin
