@@ -55,6 +55,9 @@ CViewerProcess::CViewerProcess()
     }
     QFile::setPermissions(path("runtime"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_environment.insert("XDG_RUNTIME_DIR", path("runtime"));
+#ifdef NERIX_TSAN_PRELOAD
+    m_environment.insert("LD_PRELOAD", NERIX_TSAN_PRELOAD);
+#endif
     connect(m_process, &QProcess::readyReadStandardOutput, this, &CViewerProcess::onOutput);
 }
 

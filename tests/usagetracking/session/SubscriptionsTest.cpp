@@ -38,6 +38,14 @@ public:
         listen(*tracking.host.enumeration, "enumeration");
     }
 
+    /// The provider notes its end in the journal too, behind what was taken from it here.
+    ~Subscriptions()
+    {
+        tracking.settle();
+    }
+
+    Q_DISABLE_COPY_MOVE(Subscriptions)
+
     /// The receivers of every signal, in the order of `everySignal`.
     QList<int> receiverCounts() const
     {

@@ -77,8 +77,7 @@ void CGrab::grab()
     Q_EMIT m_listeners.status->cameraGrabStarted(m_info);
     receive(&stream, &figures);
     stream.stop();
-    drain(&stream, &figures);
-    m_device->noteCounters(stream.counters());
+    m_device->noteCounters(drain(&stream, &figures));
     tellFigures(figures.total(now()));
     m_hasEnded = true;
     m_listeners.onStopping();
@@ -110,19 +109,24 @@ void CGrab::receive(CStream *stream, CGrabFigures *figures)
 }
 
 // The camera may send the image to its end that it had begun when it was told to stop. That image
-// counts; of a single grab, a camera that does not know the mode may have begun one too many.
-void CGrab::drain(CStream *stream, CGrabFigures *figures)
+// counts; of a single grab, a camera that does not know the mode may have begun one too many. The
+// stream counts an image before it hands it out, so the counters that agree with what was told are
+// those from before the wait in which none came.
+CStreamCounters CGrab::drain(CStream *stream, CGrabFigures *figures)
 {
+    CStreamCounters counters = stream->counters();
     const auto deadline = now() + LastImageLimit;
     while (m_device->isOpen() && now() < deadline) {
         const Nerix::CGrabResultPtr result = stream->next(LastImagePatience);
         if (!result) {
-            return;
+            break;
         }
         if (m_mode == GrabContinuous) {
             tell(result, figures);
         }
+        counters = stream->counters();
     }
+    return counters;
 }
 
 bool CGrab::isOver() const

@@ -65,7 +65,7 @@ private:
     void run();
     void grab();
     void receive(CStream *stream, CGrabFigures *figures);
-    void drain(CStream *stream, CGrabFigures *figures);
+    CStreamCounters drain(CStream *stream, CGrabFigures *figures);
     bool isOver() const;
     void tell(const Nerix::CGrabResultPtr &result, CGrabFigures *figures);
     void tellFigures(const CGrabFigures::Figures &figures);
