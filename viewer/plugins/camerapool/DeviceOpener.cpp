@@ -8,6 +8,7 @@
 #include <chrono>
 #include <future>
 #include <memory>
+#include <string>
 #include <thread>
 #include <utility>
 
@@ -40,20 +41,18 @@ constexpr std::chrono::milliseconds Suspicion(500);
 
 // By address and not by id: what Aravis knows of an id may come from an interface that is gone.
 // Directly, without Aravis' own search, which would broadcast.
-ArvDevice *openGigE(const QString &address, GError **error)
+ArvDevice *openGigE(const std::string &address, GError **error)
 {
-    const QByteArray bytes = address.toLatin1();
-    const GObjectPtr<GInetAddress> target(g_inet_address_new_from_string(bytes.constData()));
+    const GObjectPtr<GInetAddress> target(g_inet_address_new_from_string(address.c_str()));
     if (target && g_inet_address_get_is_loopback(target.get())) {
         return arv_gv_device_new(target.get(), target.get(), error);
     }
-    return arv_open_device(bytes.constData(), error);
+    return arv_open_device(address.c_str(), error);
 }
 
-ArvDevice *openAny(const CFoundCamera &found, GError **error)
+ArvDevice *openAny(bool isGigE, const std::string &id, GError **error)
 {
-    return found.isGigE ? openGigE(found.openId, error)
-                        : arv_open_device(found.openId.toUtf8().constData(), error);
+    return isGigE ? openGigE(id, error) : arv_open_device(id.c_str(), error);
 }
 
 struct Outcome
@@ -66,11 +65,12 @@ using Opening = std::shared_future<std::shared_ptr<Outcome>>;
 
 Opening beginOpening(const CFoundCamera &found)
 {
-    std::packaged_task<std::shared_ptr<Outcome>()> task([found] {
-        auto outcome = std::make_shared<Outcome>();
-        outcome->device.reset(openAny(found, outcome->error.out()));
-        return outcome;
-    });
+    std::packaged_task<std::shared_ptr<Outcome>()> task(
+        [isGigE = found.isGigE, id = found.openId.toStdString()] {
+            auto outcome = std::make_shared<Outcome>();
+            outcome->device.reset(openAny(isGigE, id, outcome->error.out()));
+            return outcome;
+        });
     const Opening opening = task.get_future().share();
     std::thread(std::move(task)).detach();
     return opening;
