@@ -8,6 +8,7 @@
 #include "plugins/appcore/AppCorePlugin.h"
 #include "plugins/camerapool/CameraPoolPlugin.h"
 #include "plugins/cameraselector/CameraSelectorPlugin.h"
+#include "plugins/featurefiles/FeatureFilesPlugin.h"
 #include "plugins/featuretree/FeatureTreePlugin.h"
 #include "plugins/grabbing/GrabbingPlugin.h"
 #include "plugins/help/HelpPlugin.h"
@@ -99,6 +100,9 @@ void addCameras(CPluginManager &manager)
     manager.addBuiltIn(metaData("FeatureTree", "The features of the selected camera.",
                                 {"ParameterCollectionPool", "CameraSelector", "NerixViewer"}),
                        factory<FeatureTree::CFeatureTreePlugin>());
+    manager.addBuiltIn(
+        metaData("FeatureFiles", "Saves and loads the features of a camera.", {"FeatureTree"}),
+        factory<FeatureFiles::CFeatureFilesPlugin>());
 }
 
 void addImages(CPluginManager &manager)

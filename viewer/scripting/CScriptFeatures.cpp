@@ -3,6 +3,7 @@
 
 #include "scripting/CScriptFeatures.h"
 
+#include "plugins/featurefiles/CFeatureFile.h"
 #include "plugins/featuretree/IFeatureSelectionService.h"
 
 #include <ParameterCollectionPool/IParameterService.h>
@@ -31,6 +32,21 @@ QVariantMap describe(const IParameter &parameter)
         {QStringLiteral("type"), int(parameter.interfaceType())},
         {QStringLiteral("isUnavailable"), parameter.isUnavailable()},
         {QStringLiteral("isUserSettable"), parameter.isUserSettable()},
+    };
+}
+
+QVariantMap describe(const FeatureFiles::CLoadReport &report)
+{
+    QVariantList refused;
+    for (const auto &feature : report.refused) {
+        refused.append(QVariantMap{{QStringLiteral("name"), feature.name},
+                                   {QStringLiteral("reason"), feature.reason}});
+    }
+    return {
+        {QStringLiteral("set"), report.set},
+        {QStringLiteral("unchanged"), report.unchanged},
+        {QStringLiteral("readOnly"), report.readOnly},
+        {QStringLiteral("refused"), refused},
     };
 }
 
@@ -93,6 +109,24 @@ QString CScriptFeatures::stream(const QJSValue &camera)
         });
     }
     return *text;
+}
+
+void CScriptFeatures::save(const QJSValue &camera, const QString &file)
+{
+    if (const auto parameters = parametersOf(camera)) {
+        access([parameters, file] { FeatureFiles::CFeatureFile(file).save(*parameters); });
+    }
+}
+
+QVariantMap CScriptFeatures::load(const QJSValue &camera, const QString &file)
+{
+    const auto report = std::make_shared<FeatureFiles::CLoadReport>();
+    if (const auto parameters = parametersOf(camera)) {
+        access([parameters, file, report] {
+            *report = FeatureFiles::CFeatureFile(file).load(*parameters);
+        });
+    }
+    return describe(*report);
 }
 
 QSharedPointer<IParameterCollection> CScriptFeatures::parametersOf(const QJSValue &camera)

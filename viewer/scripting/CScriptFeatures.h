@@ -40,6 +40,13 @@ public:
     /// Every value of the camera as one text.
     Q_INVOKABLE QString stream(const QJSValue &camera);
 
+    /// Saves every value of the camera in \a file.
+    Q_INVOKABLE void save(const QJSValue &camera, const QString &file);
+
+    /// Sets the features to what \a file says. @return "set", "unchanged" and "readOnly" as
+    /// numbers, and "refused", a list of "name" and "reason".
+    Q_INVOKABLE QVariantMap load(const QJSValue &camera, const QString &file);
+
 private:
     QSharedPointer<ParameterCollection::IParameterCollection> parametersOf(const QJSValue &camera);
     QSharedPointer<ParameterCollection::IParameter> find(const QJSValue &camera,

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void testDeviceThatHasNoFeaturesIsTold();
     void testReasonWhyNothingCanBeReadIsTold();
     void testStateTellsWhatAnEditorNeeds();
+    void testEmptyTextIsAValue();
     void testValueThatCannotBeReadIsTold();
     void testValueIsSetOnceAndBeforeWhatIsStillToBeRead();
     void testRefusalIsTold();
@@ -109,6 +110,16 @@ void FeatureAccessTest::testStateTellsWhatAnEditorNeeds()
     QVERIFY(state.isKnown && state.canBeSet());
     QCOMPARE(state.text, QString("640"));
     QVERIFY((state.integerLimits == CIntegerLimits{16, 2048, 4}));
+}
+
+void FeatureAccessTest::testEmptyTextIsAValue()
+{
+    m_label->change([](CLiveState &state) { state.text = QString(); });
+    open();
+    QSignalSpy stateRead(m_access.data(), &CFeatureAccess::stateRead);
+    m_access->read({2});
+    QVERIFY(stateRead.wait());
+    QVERIFY(!stateRead.first().last().value<CFeatureState>().text.isNull());
 }
 
 void FeatureAccessTest::testValueThatCannotBeReadIsTold()

@@ -26,9 +26,6 @@ private Q_SLOTS:
     void cameraStreamHoldsEveryReadableFeatureInTreeOrder();
     void counterStreamHoldsTheCounters();
     void unknownTreeIsRefused();
-    void streamCanBeLoadedAgain();
-    void whatIsRefusedAtLoadingIsNamed();
-    void loadingTriesAgainWhatDependsOnALaterValue();
     void streamOf840FeaturesIsWhole();
     void threadsThatReadAtOnceGetRightValues();
 };
@@ -146,50 +143,6 @@ void FeatureStreamTest::unknownTreeIsRefused()
     QVERIFY(camera.isOpen());
     QVERIFY_EXCEPTION_THROWN(camera.parameters().featureStream(QStringLiteral("@Nowhere")),
                              CParameterException);
-}
-
-void FeatureStreamTest::streamCanBeLoadedAgain()
-{
-    COpenCamera camera;
-    QVERIFY(camera.isOpen());
-    camera.feature("Width")->setValueText(QStringLiteral("640"));
-    camera.feature("QmzLabel")->setValueText(QStringLiteral("a\tb\\c"));
-    const QString stream = camera.parameters().featureStream(cameraTree);
-    camera.feature("Width")->setValueText(QStringLiteral("320"));
-    camera.feature("QmzLabel")->setValueText(QString());
-    camera.feature("ExposureTime")->setValueText(QStringLiteral("77"));
-    QCOMPARE(FeatureStream::load(stream, cameraTree, camera.parameters()), QStringList());
-    QCOMPARE(camera.parameters().featureStream(cameraTree), stream);
-}
-
-void FeatureStreamTest::whatIsRefusedAtLoadingIsNamed()
-{
-    COpenCamera camera;
-    QVERIFY(camera.isOpen());
-    const QString stream = QStringLiteral("# nerix feature stream 1: 4 features, 0 not readable\n"
-                                          "DeviceModelName\tother\n"
-                                          "NoSuchFeature\t1\n"
-                                          "Width\t99999\n"
-                                          "Height\t100\n");
-    QCOMPARE(
-        FeatureStream::load(stream, cameraTree, camera.parameters()),
-        (QStringList{QStringLiteral("@CameraDevice/NoSuchFeature: there is no such parameter"),
-                     QStringLiteral("@CameraDevice/Width: 99999 is out of range: give a number "
-                                    "from 16 to 2048 in steps of 4")}));
-    QCOMPARE(camera.feature("Height")->valueText(), QStringLiteral("100"));
-}
-
-void FeatureStreamTest::loadingTriesAgainWhatDependsOnALaterValue()
-{
-    COpenCamera camera;
-    QVERIFY(camera.isOpen());
-    camera.feature("Width")->setValueText(QStringLiteral("2048"));
-    // The offset may be 1024 only once the width is smaller.
-    const QString stream = QStringLiteral("# nerix feature stream 1: 2 features, 0 not readable\n"
-                                          "OffsetX\t1024\n"
-                                          "Width\t512\n");
-    QCOMPARE(FeatureStream::load(stream, cameraTree, camera.parameters()), QStringList());
-    QCOMPARE(camera.feature("OffsetX")->valueText(), QStringLiteral("1024"));
 }
 
 void FeatureStreamTest::streamOf840FeaturesIsWhole()

@@ -9,6 +9,8 @@
 #include "support/Texts.h"
 
 #include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 
 class ScriptFeaturesTest : public QObject
@@ -25,6 +27,8 @@ private Q_SLOTS:
     void testSetAnnouncesTheValueInAnotherThread();
     void testSelectMakesTheFeatureCurrent();
     void testStreamIsTheWholeTree();
+    void testFeaturesAreSavedAndLoadedWithAReport();
+    void testFileOfAnotherKindThrows();
     void testFailureSaysWhatToDo_data();
     void testFailureSaysWhatToDo();
 
@@ -122,6 +126,35 @@ void ScriptFeaturesTest::testStreamIsTheWholeTree()
     QCOMPARE(m_run->run("print(features.stream('A-1').length);"), QString());
     QCOMPARE(m_run->printed(), texts({"7"}));
     QCOMPARE(m_parameters->streamsRead, QList<QString>({"@CameraDevice"}));
+}
+
+void ScriptFeaturesTest::testFeaturesAreSavedAndLoadedWithAReport()
+{
+    const QTemporaryDir folder;
+    m_parameters->add<FakeInteger>("@CameraDevice/Broken")->throwing.insert("setValueText");
+    m_parameters->stream = "# nerix feature stream 1: 2 features, 0 not readable\n"
+                           "Gain\t8\nBroken\t1\n";
+    const QString file = folder.filePath("a.features");
+    QCOMPARE(m_run->run(QStringLiteral("features.save('A-1', '%1');"
+                                       "var report = features.load('A-1', '%1');"
+                                       "print(report.set, report.unchanged, report.readOnly,"
+                                       "      JSON.stringify(report.refused));")
+                            .arg(file)
+                            .toUtf8()),
+             QString());
+    QCOMPARE(m_run->printed(),
+             QStringList{"1 0 0 [{\"name\":\"Broken\",\"reason\":\"setValueText failed\"}]"});
+    QCOMPARE(m_gain->stateText, QStringLiteral("8"));
+}
+
+void ScriptFeaturesTest::testFileOfAnotherKindThrows()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    QCOMPARE(m_run->run("features.load('A-1', '" + file.fileName().toUtf8() + "');"),
+             "test.js:1: file " + file.fileName()
+                 + " holds no features: this is no feature stream of version 1: its first line "
+                   "must begin with \"# nerix feature stream 1:\"");
 }
 
 void ScriptFeaturesTest::testFailureSaysWhatToDo_data()

@@ -111,6 +111,14 @@ void CFeatureModel::changed(int feature)
     Q_EMIT dataChanged(indexOf(feature, NameColumn), indexOf(feature, ValueColumn));
 }
 
+void CFeatureModel::retranslate()
+{
+    Q_EMIT headerDataChanged(Qt::Horizontal, NameColumn, ValueColumn);
+    for (int i = 0; i < m_features.size(); ++i) {
+        changed(i);
+    }
+}
+
 int CFeatureModel::featureNamed(const QString &fullName) const
 {
     const int node = m_named.value(fullName, -1);

@@ -45,6 +45,9 @@ public:
     void confirm(int feature);
     void refuse(int feature);
 
+    /// Shows its words in the language of the moment.
+    void retranslate();
+
     /// The place of the feature; -1 if there is none with this name.
     int featureNamed(const QString &fullName) const;
     const CFeatureDescription &description(int feature) const;

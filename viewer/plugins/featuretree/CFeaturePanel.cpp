@@ -160,6 +160,7 @@ void CFeaturePanel::setTexts()
     m_level->setAccessibleName(tr("Level of the features"));
     m_level->setToolTip(tr("Which features are shown"));
     m_view->setAccessibleName(tr("Features"));
+    m_controller.model().retranslate();
     m_explanation->setAccessibleName(tr("Explanation of the feature"));
     m_dismiss->setToolTip(tr("Dismiss"));
     m_dismiss->setAccessibleName(tr("Dismiss the message"));

@@ -35,7 +35,7 @@ void readValue(const IParameter &parameter, CFeatureState &state)
 {
     try {
         if (hasValue(parameter)) {
-            state.text = parameter.valueText();
+            state.text = QStringLiteral("") + parameter.valueText(); // empty, but never null
         }
     } catch (const std::exception &exception) {
         state.failure = QString::fromUtf8(exception.what());

@@ -5,6 +5,7 @@
 #include <ParameterCollection/CParameterException.h>
 
 #include <QRegularExpression>
+#include <QStringList>
 
 namespace ParameterCollectionPool {
 namespace FeatureStream {
@@ -86,30 +87,6 @@ Line parseLine(const QString &text, int lineNumber)
     return {text.left(tab), unescaped(text.mid(tab + 1), lineNumber)};
 }
 
-// What is left of \a lines after one attempt at each; \a refusals says why.
-QVector<Line> attempt(const QVector<Line> &lines, const QString &treeName,
-                      const IParameterCollection &collection, QStringList *refusals)
-{
-    QVector<Line> left;
-    refusals->clear();
-    for (const Line &line : lines) {
-        try {
-            const auto parameter = collection.parameter(treeName + QLatin1Char('/') + line.first);
-            const bool isDone =
-                !parameter->isNull()
-                && (!parameter->isUserSettable()
-                    || (parameter->isReadable() && parameter->valueText() == line.second));
-            if (!isDone) {
-                parameter->setValueText(line.second);
-            }
-        } catch (const CParameterException &exception) {
-            left.append(line);
-            refusals->append(exception.message());
-        }
-    }
-    return left;
-}
-
 } // namespace
 
 QString format(const QVector<Line> &lines, int notReadable)
@@ -138,19 +115,6 @@ QVector<Line> parse(const QString &stream)
         lines.append(parseLine(texts.at(i), i + 2));
     }
     return lines;
-}
-
-QStringList load(const QString &stream, const QString &treeName,
-                 const IParameterCollection &collection)
-{
-    QVector<Line> left = parse(stream);
-    QStringList refusals;
-    int before = 0;
-    do {
-        before = left.size();
-        left = attempt(left, treeName, collection, &refusals);
-    } while (!left.isEmpty() && left.size() < before);
-    return refusals;
 }
 
 } // namespace FeatureStream

@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <ParameterCollection/IParameterCollection.h>
-
 #include <QPair>
 #include <QString>
-#include <QStringList>
 #include <QVector>
 
 namespace ParameterCollectionPool {
@@ -28,15 +25,6 @@ QString format(const QVector<Line> &lines, int notReadable);
 /// @throws ParameterCollection::CParameterException if it is no feature stream of version 1, or a
 /// line is damaged; the message names the line.
 QVector<Line> parse(const QString &stream);
-
-/// Sets the parameters of the tree \a treeName in \a collection to what \a stream says. A value
-/// that depends on another one (an offset on a width, for example) may stand before it: what is
-/// refused is tried again as long as that helps. What a user cannot set and what has its value
-/// already is passed over.
-/// @return one line for each value that was refused in the end.
-/// @throws ParameterCollection::CParameterException as `parse` does; nothing is set then.
-QStringList load(const QString &stream, const QString &treeName,
-                 const ParameterCollection::IParameterCollection &collection);
 
 } // namespace FeatureStream
 } // namespace ParameterCollectionPool

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+
+#include "plugins/featurefiles/CLoadReport.h"
+
+namespace FeatureFiles {
+
+QString CLoadReport::summary() const
+{
+    const QString counts = tr("%1 set, %2 unchanged, %3 read-only, %4 not set")
+                               .arg(set)
+                               .arg(unchanged)
+                               .arg(readOnly)
+                               .arg(refused.size());
+    return isCancelled ? tr("%1; cancelled").arg(counts) : counts;
+}
+
+} // namespace FeatureFiles
