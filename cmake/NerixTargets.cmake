@@ -68,8 +68,8 @@ function(nerix_add_test name)
     endif()
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests/bin")
     if(arg_ISOLATED_NETWORK)
-        add_test(NAME ${name}
-            COMMAND "${CMAKE_SOURCE_DIR}/tools/in-network-namespace.sh" $<TARGET_FILE:${name}>)
+        add_test(NAME ${name} COMMAND "${CMAKE_SOURCE_DIR}/tools/in-network-namespace.sh"
+            ${arg_COMMAND} $<TARGET_FILE:${name}>)
         if(NOT NERIX_UNSHARE_RESULT EQUAL 0)
             set_tests_properties(${name} PROPERTIES RESOURCE_LOCK loopback)
         endif()

@@ -30,6 +30,8 @@ packages=(
     fonts-dejavu-core fonts-noto-cjk
     # Debian packages, and what checks that a desktop understands ours
     dpkg-dev appstream desktop-file-utils
+    # a desktop for the tests: a window manager, and keys that come from outside
+    openbox xdotool
 )
 
 missing=()

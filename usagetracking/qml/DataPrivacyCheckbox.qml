@@ -30,6 +30,9 @@ T.RadioButton {
     checked: false
     hoverEnabled: true
 
+    Accessible.name: control.text
+    Accessible.role: Accessible.RadioButton
+
     background: buttonBackground
     contentItem: textItem
 

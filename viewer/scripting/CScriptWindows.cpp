@@ -3,7 +3,9 @@
 
 #include "scripting/CScriptWindows.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QMenu>
 #include <QPixmap>
 #include <QWidget>
 
@@ -36,6 +38,20 @@ void CScriptWindows::save(const QString &title, const QString &file)
         fail(QStringLiteral("%1 cannot be written: name a file that can, with the suffix .png")
                  .arg(file));
     }
+}
+
+QString CScriptWindows::focus()
+{
+    if (const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget())) {
+        const QAction *entry = menu->activeAction();
+        return entry ? entry->text().remove(QLatin1Char('&')) : QString();
+    }
+    QAccessible::setActive(true); // else the pages do not say what they are
+    const QAccessibleInterface *thing =
+        QAccessible::queryAccessibleInterface(QGuiApplication::focusObject());
+    const QAccessibleInterface *part = thing ? thing->focusChild() : nullptr;
+    thing = part ? part : thing;
+    return thing ? thing->text(QAccessible::Name) : QString();
 }
 
 QWidget *CScriptWindows::find(const QString &title)

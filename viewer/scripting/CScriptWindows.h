@@ -27,6 +27,9 @@ public:
     /// Saves a picture of the window \a title; the suffix of \a file says in which format.
     Q_INVOKABLE void save(const QString &title, const QString &file);
 
+    /// What a screen reader says of the thing that has the keyboard; empty if nothing has.
+    Q_INVOKABLE QString focus();
+
 private:
     QWidget *find(const QString &title);
 };

@@ -3,6 +3,8 @@
 
 #include "plugins/nerixwelcome/CPageWidget.h"
 
+#include "plugins/nerixwelcome/PageAccessibility.h"
+
 #include <QFocusEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -14,6 +16,7 @@ CPageWidget::CPageWidget(QQmlEngine &engine, QQuickItem &page, QWidget *parent)
     : QQuickWidget(&engine, parent)
     , m_page(&page)
 {
+    installPageAccessibility();
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(QSizeF(page.implicitWidth(), page.implicitHeight()).toSize());
     page.setParentItem(quickWindow()->contentItem());
@@ -21,6 +24,11 @@ CPageWidget::CPageWidget(QQmlEngine &engine, QQuickItem &page, QWidget *parent)
 }
 
 CPageWidget::~CPageWidget() = default;
+
+QQuickItem *CPageWidget::page() const
+{
+    return m_page;
+}
 
 void CPageWidget::resizeEvent(QResizeEvent *event)
 {

@@ -20,6 +20,9 @@ public:
     CPageWidget(QQmlEngine &engine, QQuickItem &page, QWidget *parent = nullptr);
     ~CPageWidget() override;
 
+    /// Null once the page is gone.
+    QQuickItem *page() const;
+
 Q_SIGNALS:
     /// The keyboard is now at \a area of the page.
     void focusMoved(const QRect &area);

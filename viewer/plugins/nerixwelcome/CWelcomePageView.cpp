@@ -32,6 +32,7 @@ CWelcomePageView::CWelcomePageView(CWelcomePages &pages, INerixWelcomeTab &tab, 
     } else {
         showError(m_page.error);
     }
+    nameAfter(tab);
 }
 
 CWelcomePageView::~CWelcomePageView() = default;
@@ -64,6 +65,13 @@ void CWelcomePageView::showError(const QString &error)
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setWidget(label);
     setFocusProxy(label);
+}
+
+void CWelcomePageView::nameAfter(const INerixWelcomeTab &tab)
+{
+    const auto setName = [this, &tab] { widget()->setAccessibleName(tab.tabTitle()); };
+    connect(&tab, &INerixWelcomeTab::titleChanged, this, setName);
+    setName();
 }
 
 } // namespace NerixWelcome

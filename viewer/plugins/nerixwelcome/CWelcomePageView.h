@@ -26,6 +26,7 @@ public:
 private:
     void showPage(CWelcomePages &pages);
     void showError(const QString &error);
+    void nameAfter(const INerixWelcomeTab &tab);
 
     CWelcomePages::Page m_page;
 };

@@ -24,6 +24,9 @@ T.CheckBox {
     font: Constants.font
     hoverEnabled: true
 
+    Accessible.name: control.text
+    Accessible.role: Accessible.CheckBox
+
     Keys.onReturnPressed: control.flip()
     Keys.onEnterPressed: control.flip()
 

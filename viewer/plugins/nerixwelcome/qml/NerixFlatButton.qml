@@ -16,6 +16,9 @@ T.Button {
     font: Constants.font
     hoverEnabled: true
 
+    Accessible.name: control.text
+    Accessible.role: Accessible.Button
+
     Keys.onReturnPressed: control.clicked()
     Keys.onEnterPressed: control.clicked()
 
