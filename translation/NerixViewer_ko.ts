@@ -58,6 +58,448 @@
     </message>
 </context>
 <context>
+    <name>FeatureTree::CFeatureController</name>
+    <message>
+        <source>Select a camera to see its features.</source>
+        <translation>카메라를 선택하면 해당 기능이 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected.
+Connect and open it to see its features.</source>
+        <translation>%1이(가) 연결되어 있지 않습니다.
+기능을 보려면 연결한 다음 여세요.</translation>
+    </message>
+    <message>
+        <source>%1 is closed.
+Open it to see its features.</source>
+        <translation>%1이(가) 닫혀 있습니다.
+기능을 보려면 여세요.</translation>
+    </message>
+    <message>
+        <source>Reading the features of %1...</source>
+        <translation>%1의 기능을 읽는 중...</translation>
+    </message>
+    <message>
+        <source>The features of %1 cannot be read.
+Close it and open it again.</source>
+        <translation>%1의 기능을 읽을 수 없습니다.
+닫았다가 다시 여세요.</translation>
+    </message>
+    <message>
+        <source>%1: its bytes can only be set by a script</source>
+        <translation>%1: 바이트 값은 스크립트로만 설정할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>%1: the camera does not offer it now</source>
+        <translation>%1: 현재 카메라에서 제공하지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1: it is locked now; stop the grab, then set it</source>
+        <translation>%1: 현재 잠겨 있습니다. 획득을 중지한 다음 설정하세요</translation>
+    </message>
+    <message>
+        <source>%1: it can only be read</source>
+        <translation>%1: 읽기 전용입니다</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTree::CFeatureModel</name>
+    <message>
+        <source>Feature</source>
+        <translation>기능</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>값</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTree::CFeaturePanel</name>
+    <message>
+        <source>Features</source>
+        <translation>기능</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>Search features</source>
+        <translation>기능 검색</translation>
+    </message>
+    <message>
+        <source>Words in the name of a feature</source>
+        <translation>기능 이름에 포함된 단어</translation>
+    </message>
+    <message>
+        <source>Beginner</source>
+        <translation>초급</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>고급</translation>
+    </message>
+    <message>
+        <source>Guru</source>
+        <translation>전문가</translation>
+    </message>
+    <message>
+        <source>Level of the features</source>
+        <translation>기능 수준</translation>
+    </message>
+    <message>
+        <source>Which features are shown</source>
+        <translation>표시할 기능</translation>
+    </message>
+    <message>
+        <source>Explanation of the feature</source>
+        <translation>기능 설명</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Dismiss the message</source>
+        <translation>메시지 닫기</translation>
+    </message>
+    <message>
+        <source>There is no feature at this level.</source>
+        <translation>이 수준의 기능이 없습니다.</translation>
+    </message>
+    <message>
+        <source>No feature at this level has &quot;%1&quot; in its name.</source>
+        <translation>이 수준에는 이름에 &quot;%1&quot;이(가) 포함된 기능이 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTree::CFeatureTexts</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 ~ %2</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>켜짐</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>꺼짐</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>사용할 수 없음</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>실행</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>읽을 수 없음</translation>
+    </message>
+    <message>
+        <source>can only be set</source>
+        <translation>설정만 가능</translation>
+    </message>
+    <message>
+        <source>%1 in steps of %2</source>
+        <translation>%1 (%2 단위)</translation>
+    </message>
+    <message>
+        <source>Allowed: %1</source>
+        <translation>허용 값: %1</translation>
+    </message>
+    <message>
+        <source>It is locked now.</source>
+        <translation>현재 잠겨 있습니다.</translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation>이름: %1</translation>
+    </message>
+    <message>
+        <source>%1, locked</source>
+        <translation>%1 (잠김)</translation>
+    </message>
+</context>
+<context>
+    <name>Grabbing::CFiguresBar</name>
+    <message>
+        <source>Figures of the grab</source>
+        <translation>획득 통계</translation>
+    </message>
+</context>
+<context>
+    <name>Grabbing::CGrabEntries</name>
+    <message>
+        <source>Grab Single &amp;Image</source>
+        <translation>한 장 획득(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Grab Continuously</source>
+        <translation>연속 획득(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop Grabbing</source>
+        <translation>획득 중지(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>Grabbing::Figures</name>
+    <message>
+        <source>Images: %1</source>
+        <translation>이미지: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>실패: %1</translation>
+    </message>
+    <message>
+        <source>%1 images/s</source>
+        <translation>%1장/초</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/초</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CImageArea</name>
+    <message>
+        <source>Images</source>
+        <translation>이미지</translation>
+    </message>
+    <message>
+        <source>Images of your cameras appear here</source>
+        <translation>여기에 카메라 이미지가 표시됩니다</translation>
+    </message>
+    <message>
+        <source>Open a camera: double-click it in the list of cameras, or choose it there and press Enter.
+Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
+        <translation>카메라 열기: 카메라 목록에서 두 번 클릭하거나, 선택한 다음 Enter 키를 누르세요.
+그런 다음 획득: F5 키는 중지할 때까지 계속, F6 키는 한 장만 획득합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CImagePane</name>
+    <message>
+        <source>Image of %1</source>
+        <translation>%1의 이미지</translation>
+    </message>
+    <message>
+        <source>Pixel under the pointer</source>
+        <translation>포인터 위치의 픽셀</translation>
+    </message>
+    <message>
+        <source>Size, format and scale of the image</source>
+        <translation>이미지의 크기, 형식, 배율</translation>
+    </message>
+    <message>
+        <source>Failed images: %1. The last one: %2</source>
+        <translation>실패한 이미지: %1. 마지막 실패: %2</translation>
+    </message>
+    <message>
+        <source>No image yet</source>
+        <translation>아직 이미지가 없습니다</translation>
+    </message>
+    <message>
+        <source>Grab to see an image</source>
+        <translation>획득하면 이미지가 표시됩니다</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CImageSaving</name>
+    <message>
+        <source>Save Image</source>
+        <translation>이미지 저장</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>PNG 이미지 (*.png)</translation>
+    </message>
+    <message>
+        <source>TIFF image (*.tif *.tiff)</source>
+        <translation>TIFF 이미지 (*.tif *.tiff)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CImageViewPlugin</name>
+    <message>
+        <source>Image saved: %1</source>
+        <translation>이미지를 저장했습니다: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CViewEntries</name>
+    <message>
+        <source>&amp;Save Image...</source>
+        <translation>이미지 저장(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Image</source>
+        <translation>이미지 맞춤(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>100 %(&amp;1)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>확대(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>축소(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::Failure</name>
+    <message>
+        <source>The image failed with the code %1.</source>
+        <translation>이미지 획득에 실패했습니다(코드 %1).</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::File</name>
+    <message>
+        <source>%1 cannot be written (%2): choose another folder, or make room</source>
+        <translation>%1에 쓸 수 없습니다(%2). 다른 폴더를 선택하거나 공간을 확보하세요</translation>
+    </message>
+    <message>
+        <source>%1 has no format: give it a name that ends with .png or .tif</source>
+        <translation>%1의 형식을 알 수 없습니다. .png 또는 .tif로 끝나는 이름을 지정하세요</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::Problem</name>
+    <message>
+        <source>What the camera sends is not an image: choose image data in its features.</source>
+        <translation>카메라가 보내는 데이터는 이미지가 아닙니다. 카메라 기능에서 이미지 데이터를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>The pixel format %1 cannot be shown: choose another one in the camera&apos;s features, such as Mono8, BayerRG8 or RGB8.</source>
+        <translation>픽셀 형식 %1은(는) 표시할 수 없습니다. 카메라 기능에서 Mono8, BayerRG8, RGB8 등 다른 형식을 선택하세요.</translation>
+    </message>
+    <message>
+        <source>The image has fewer bytes than its size and its pixel format %1 ask for: stop the grab and start it again.</source>
+        <translation>이미지의 바이트 수가 크기와 픽셀 형식 %1에 필요한 것보다 적습니다. 획득을 중지했다가 다시 시작하세요.</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::Help::CAboutDialog</name>
+    <message>
+        <source>About Nerix Viewer</source>
+        <translation>Nerix Viewer 정보</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Versions</source>
+        <translation>버전 복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Licences</source>
+        <translation>라이선스(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Configures industrial cameras and grabs images from them.</source>
+        <translation>산업용 카메라를 설정하고 이미지를 획득합니다.</translation>
+    </message>
+    <message>
+        <source>Copyright 2026 Ostrand. Free software under the MIT licence, without warranty of any kind.</source>
+        <translation>Copyright 2026 Ostrand. MIT 라이선스에 따른 자유 소프트웨어이며, 어떠한 보증도 제공하지 않습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::Help::CHelpEntries</name>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>목차(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Features</source>
+        <translation>기능(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Grabbing</source>
+        <translation>획득(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Privacy Statement</source>
+        <translation>개인정보 보호정책(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Licences</source>
+        <translation>라이선스(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;About Nerix Viewer</source>
+        <translation>Nerix Viewer 정보(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Ca&amp;meras</source>
+        <translation>카메라(&amp;M)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::Help::CHelpWindow</name>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>앞으로</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>목차</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>축소</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>확대</translation>
+    </message>
+    <message>
+        <source>Usual Size</source>
+        <translation>기본 크기</translation>
+    </message>
+    <message>
+        <source>Find in this document</source>
+        <translation>이 문서에서 찾기</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>이전 찾기</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>다음 찾기</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>도구 모음</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>도움말</translation>
+    </message>
+    <message>
+        <source>%1 - Help</source>
+        <translation>%1 - 도움말</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1을(를) 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in this document</source>
+        <translation>이 문서에 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+</context>
+<context>
     <name>Plugin::NerixViewer::CMainWindow</name>
     <message>
         <source>Nerix Viewer</source>
@@ -153,6 +595,21 @@
     </message>
 </context>
 <context>
+    <name>Plugin::NerixWelcome::CWelcomePages</name>
+    <message>
+        <source>The page &quot;%1&quot; cannot be shown: %2</source>
+        <translation>&quot;%1&quot; 페이지를 표시할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>its plug-in did not set it up</source>
+        <translation>플러그인이 페이지를 준비하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>%1 is not an Item</source>
+        <translation>%1은(는) Item이 아닙니다</translation>
+    </message>
+</context>
+<context>
     <name>Plugin::NerixWelcome::CWelcomeWindow</name>
     <message>
         <source>Pages</source>
@@ -165,6 +622,162 @@
     <message>
         <source>Welcome to the Nerix Viewer</source>
         <translation>Nerix Viewer 시작 화면</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::UsageDataLog::CEventModel</name>
+    <message>
+        <source>Delivered</source>
+        <translation>전송됨</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>대기 중</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>시각</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>범주</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>기록 내용</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>상태</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::UsageDataLog::CEventsTool</name>
+    <message>
+        <source>%1 cannot be started: install the viewer again</source>
+        <translation>%1을(를) 시작할 수 없습니다. 뷰어를 다시 설치하세요</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1에 쓸 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced: choose another name</source>
+        <translation>%1을(를) 바꿀 수 없습니다. 다른 이름을 선택하세요</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::UsageDataLog::CUsageDataLogPlugin</name>
+    <message>
+        <source>&amp;Usage Data Log</source>
+        <translation>사용 데이터 로그(&amp;U)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::UsageDataLog::CUsageDataLogWindow</name>
+    <message>
+        <source>All events are written to %1</source>
+        <translation>모든 이벤트를 %1에 저장했습니다</translation>
+    </message>
+    <message>
+        <source>Usage Data Log</source>
+        <translation>사용 데이터 로그</translation>
+    </message>
+    <message>
+        <source>&amp;Data Privacy</source>
+        <translation>개인정보 보호(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>이벤트</translation>
+    </message>
+    <message>
+        <source>Record of the selected event</source>
+        <translation>선택한 이벤트의 기록 내용</translation>
+    </message>
+    <message>
+        <source>Select an event to read the whole of its record.</source>
+        <translation>이벤트를 선택하면 기록 내용 전체가 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>내보내기(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>De&amp;lete All...</source>
+        <translation>모두 삭제(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>닫기(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded: the plug-in that records is not there.</source>
+        <translation>아무것도 기록되지 않습니다. 기록하는 플러그인이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded: you have not been asked yet, or have not answered.</source>
+        <translation>아무것도 기록되지 않습니다. 아직 질문을 받지 않았거나 답하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>You have agreed: how you use the viewer is recorded.</source>
+        <translation>동의하셨습니다. 뷰어 사용 방식이 기록됩니다.</translation>
+    </message>
+    <message>
+        <source>You have not agreed: nothing is recorded.</source>
+        <translation>동의하지 않으셨습니다. 아무것도 기록되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>읽는 중...</translation>
+    </message>
+    <message>
+        <source>Nothing was ever recorded on this computer.</source>
+        <translation>이 컴퓨터에는 아무것도 기록된 적이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The events cannot be read: %1</source>
+        <translation>이벤트를 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Events: %1. Waiting: %2. Delivered: %3.</source>
+        <translation>이벤트: %1. 대기 중: %2. 전송됨: %3.</translation>
+    </message>
+    <message>
+        <source>%1 Found: %2.</source>
+        <translation>%1 검색 결과: %2.</translation>
+    </message>
+    <message>
+        <source>Export All Events</source>
+        <translation>모든 이벤트 내보내기</translation>
+    </message>
+    <message>
+        <source>JSON lines (*.jsonl)</source>
+        <translation>JSON Lines (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>CSV for spreadsheets (*.csv)</source>
+        <translation>스프레드시트용 CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Delete All Events</source>
+        <translation>모든 이벤트 삭제</translation>
+    </message>
+    <message>
+        <source>Delete all %1 events? Those that wait will never be delivered. If you have agreed to recording, it goes on.</source>
+        <translation>%1개의 이벤트를 모두 삭제하시겠습니까? 대기 중인 이벤트는 전송되지 않습니다. 기록에 동의한 경우 기록은 계속됩니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>삭제(&amp;D)</translation>
     </message>
 </context>
 </TS>

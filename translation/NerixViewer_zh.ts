@@ -58,6 +58,448 @@
     </message>
 </context>
 <context>
+    <name>FeatureTree::CFeatureController</name>
+    <message>
+        <source>Select a camera to see its features.</source>
+        <translation>选择相机即可查看其功能。</translation>
+    </message>
+    <message>
+        <source>%1 is not connected.
+Connect and open it to see its features.</source>
+        <translation>%1 未连接。
+请连接并打开相机以查看其功能。</translation>
+    </message>
+    <message>
+        <source>%1 is closed.
+Open it to see its features.</source>
+        <translation>%1 已关闭。
+请打开相机以查看其功能。</translation>
+    </message>
+    <message>
+        <source>Reading the features of %1...</source>
+        <translation>正在读取 %1 的功能...</translation>
+    </message>
+    <message>
+        <source>The features of %1 cannot be read.
+Close it and open it again.</source>
+        <translation>无法读取 %1 的功能。
+请关闭后重新打开。</translation>
+    </message>
+    <message>
+        <source>%1: its bytes can only be set by a script</source>
+        <translation>%1：其字节只能通过脚本设置</translation>
+    </message>
+    <message>
+        <source>%1: the camera does not offer it now</source>
+        <translation>%1：相机当前不提供此功能</translation>
+    </message>
+    <message>
+        <source>%1: it is locked now; stop the grab, then set it</source>
+        <translation>%1：当前已锁定，请停止采集后再设置</translation>
+    </message>
+    <message>
+        <source>%1: it can only be read</source>
+        <translation>%1：只能读取</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTree::CFeatureModel</name>
+    <message>
+        <source>Feature</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTree::CFeaturePanel</name>
+    <message>
+        <source>Features</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search features</source>
+        <translation>搜索功能</translation>
+    </message>
+    <message>
+        <source>Words in the name of a feature</source>
+        <translation>功能名称中的词语</translation>
+    </message>
+    <message>
+        <source>Beginner</source>
+        <translation>初级</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>专家</translation>
+    </message>
+    <message>
+        <source>Guru</source>
+        <translation>大师</translation>
+    </message>
+    <message>
+        <source>Level of the features</source>
+        <translation>功能级别</translation>
+    </message>
+    <message>
+        <source>Which features are shown</source>
+        <translation>显示哪些功能</translation>
+    </message>
+    <message>
+        <source>Explanation of the feature</source>
+        <translation>功能说明</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Dismiss the message</source>
+        <translation>关闭消息</translation>
+    </message>
+    <message>
+        <source>There is no feature at this level.</source>
+        <translation>此级别没有功能。</translation>
+    </message>
+    <message>
+        <source>No feature at this level has &quot;%1&quot; in its name.</source>
+        <translation>此级别没有名称包含“%1”的功能。</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTree::CFeatureTexts</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>不可用</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>执行</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>不可读</translation>
+    </message>
+    <message>
+        <source>can only be set</source>
+        <translation>只能设置</translation>
+    </message>
+    <message>
+        <source>%1 in steps of %2</source>
+        <translation>%1，步长 %2</translation>
+    </message>
+    <message>
+        <source>Allowed: %1</source>
+        <translation>允许：%1</translation>
+    </message>
+    <message>
+        <source>It is locked now.</source>
+        <translation>当前已锁定。</translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation>名称：%1</translation>
+    </message>
+    <message>
+        <source>%1, locked</source>
+        <translation>%1（已锁定）</translation>
+    </message>
+</context>
+<context>
+    <name>Grabbing::CFiguresBar</name>
+    <message>
+        <source>Figures of the grab</source>
+        <translation>采集统计</translation>
+    </message>
+</context>
+<context>
+    <name>Grabbing::CGrabEntries</name>
+    <message>
+        <source>Grab Single &amp;Image</source>
+        <translation>采集单幅图像(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Grab Continuously</source>
+        <translation>连续采集(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop Grabbing</source>
+        <translation>停止采集(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>Grabbing::Figures</name>
+    <message>
+        <source>Images: %1</source>
+        <translation>图像：%1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>%1 images/s</source>
+        <translation>%1 幅/秒</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/秒</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CImageArea</name>
+    <message>
+        <source>Images</source>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>Images of your cameras appear here</source>
+        <translation>相机的图像将显示在此处</translation>
+    </message>
+    <message>
+        <source>Open a camera: double-click it in the list of cameras, or choose it there and press Enter.
+Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
+        <translation>打开相机：在相机列表中双击，或选中后按 Enter 键。
+然后采集：按 F5 持续采集直到停止，按 F6 采集单幅图像。</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CImagePane</name>
+    <message>
+        <source>Image of %1</source>
+        <translation>%1 的图像</translation>
+    </message>
+    <message>
+        <source>Pixel under the pointer</source>
+        <translation>指针处的像素</translation>
+    </message>
+    <message>
+        <source>Size, format and scale of the image</source>
+        <translation>图像的尺寸、格式和缩放比例</translation>
+    </message>
+    <message>
+        <source>Failed images: %1. The last one: %2</source>
+        <translation>失败的图像：%1。最近一次：%2</translation>
+    </message>
+    <message>
+        <source>No image yet</source>
+        <translation>尚无图像</translation>
+    </message>
+    <message>
+        <source>Grab to see an image</source>
+        <translation>采集后即可看到图像</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CImageSaving</name>
+    <message>
+        <source>Save Image</source>
+        <translation>保存图像</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>PNG 图像 (*.png)</translation>
+    </message>
+    <message>
+        <source>TIFF image (*.tif *.tiff)</source>
+        <translation>TIFF 图像 (*.tif *.tiff)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CImageViewPlugin</name>
+    <message>
+        <source>Image saved: %1</source>
+        <translation>图像已保存：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::CViewEntries</name>
+    <message>
+        <source>&amp;Save Image...</source>
+        <translation>保存图像(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Image</source>
+        <translation>适合窗口(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>100 %(&amp;1)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::Failure</name>
+    <message>
+        <source>The image failed with the code %1.</source>
+        <translation>图像采集失败，代码为 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::File</name>
+    <message>
+        <source>%1 cannot be written (%2): choose another folder, or make room</source>
+        <translation>无法写入 %1（%2）：请选择其他文件夹，或腾出空间</translation>
+    </message>
+    <message>
+        <source>%1 has no format: give it a name that ends with .png or .tif</source>
+        <translation>%1 没有格式：请使用以 .png 或 .tif 结尾的名称</translation>
+    </message>
+</context>
+<context>
+    <name>ImageView::Problem</name>
+    <message>
+        <source>What the camera sends is not an image: choose image data in its features.</source>
+        <translation>相机发送的不是图像：请在其功能中选择图像数据。</translation>
+    </message>
+    <message>
+        <source>The pixel format %1 cannot be shown: choose another one in the camera&apos;s features, such as Mono8, BayerRG8 or RGB8.</source>
+        <translation>无法显示像素格式 %1：请在相机的功能中选择其他格式，例如 Mono8、BayerRG8 或 RGB8。</translation>
+    </message>
+    <message>
+        <source>The image has fewer bytes than its size and its pixel format %1 ask for: stop the grab and start it again.</source>
+        <translation>图像的字节数少于其尺寸和像素格式 %1 所需：请停止采集后重新开始。</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::Help::CAboutDialog</name>
+    <message>
+        <source>About Nerix Viewer</source>
+        <translation>关于 Nerix Viewer</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Versions</source>
+        <translation>复制版本信息(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Licences</source>
+        <translation>许可证(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Configures industrial cameras and grabs images from them.</source>
+        <translation>配置工业相机并采集图像。</translation>
+    </message>
+    <message>
+        <source>Copyright 2026 Ostrand. Free software under the MIT licence, without warranty of any kind.</source>
+        <translation>Copyright 2026 Ostrand。本软件是依据 MIT 许可证发布的自由软件，不提供任何担保。</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::Help::CHelpEntries</name>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>目录(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Features</source>
+        <translation>功能(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Grabbing</source>
+        <translation>采集(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Privacy Statement</source>
+        <translation>隐私声明(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Licences</source>
+        <translation>许可证(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;About Nerix Viewer</source>
+        <translation>关于 Nerix Viewer(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Ca&amp;meras</source>
+        <translation>相机(&amp;M)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::Help::CHelpWindow</name>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目录</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Usual Size</source>
+        <translation>默认大小</translation>
+    </message>
+    <message>
+        <source>Find in this document</source>
+        <translation>在此文档中查找</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>查找上一个</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>查找下一个</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>%1 - Help</source>
+        <translation>%1 - 帮助</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>无法打开 %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in this document</source>
+        <translation>此文档中没有“%1”</translation>
+    </message>
+</context>
+<context>
     <name>Plugin::NerixViewer::CMainWindow</name>
     <message>
         <source>Nerix Viewer</source>
@@ -153,6 +595,21 @@
     </message>
 </context>
 <context>
+    <name>Plugin::NerixWelcome::CWelcomePages</name>
+    <message>
+        <source>The page &quot;%1&quot; cannot be shown: %2</source>
+        <translation>无法显示页面“%1”：%2</translation>
+    </message>
+    <message>
+        <source>its plug-in did not set it up</source>
+        <translation>其插件未完成设置</translation>
+    </message>
+    <message>
+        <source>%1 is not an Item</source>
+        <translation>%1 不是 Item</translation>
+    </message>
+</context>
+<context>
     <name>Plugin::NerixWelcome::CWelcomeWindow</name>
     <message>
         <source>Pages</source>
@@ -165,6 +622,162 @@
     <message>
         <source>Welcome to the Nerix Viewer</source>
         <translation>欢迎使用 Nerix Viewer</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::UsageDataLog::CEventModel</name>
+    <message>
+        <source>Delivered</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::UsageDataLog::CEventsTool</name>
+    <message>
+        <source>%1 cannot be started: install the viewer again</source>
+        <translation>无法启动 %1：请重新安装查看器</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced: choose another name</source>
+        <translation>无法替换 %1：请选择其他名称</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::UsageDataLog::CUsageDataLogPlugin</name>
+    <message>
+        <source>&amp;Usage Data Log</source>
+        <translation>使用数据日志(&amp;U)</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::UsageDataLog::CUsageDataLogWindow</name>
+    <message>
+        <source>All events are written to %1</source>
+        <translation>所有事件已写入 %1</translation>
+    </message>
+    <message>
+        <source>Usage Data Log</source>
+        <translation>使用数据日志</translation>
+    </message>
+    <message>
+        <source>&amp;Data Privacy</source>
+        <translation>数据隐私(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>Record of the selected event</source>
+        <translation>所选事件的记录</translation>
+    </message>
+    <message>
+        <source>Select an event to read the whole of its record.</source>
+        <translation>选择一个事件即可阅读其完整记录。</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>导出(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>De&amp;lete All...</source>
+        <translation>全部删除(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded: the plug-in that records is not there.</source>
+        <translation>未记录任何内容：负责记录的插件不存在。</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded: you have not been asked yet, or have not answered.</source>
+        <translation>未记录任何内容：尚未询问您，或您尚未回答。</translation>
+    </message>
+    <message>
+        <source>You have agreed: how you use the viewer is recorded.</source>
+        <translation>您已同意：将记录您使用查看器的情况。</translation>
+    </message>
+    <message>
+        <source>You have not agreed: nothing is recorded.</source>
+        <translation>您未同意：不会记录任何内容。</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>正在读取...</translation>
+    </message>
+    <message>
+        <source>Nothing was ever recorded on this computer.</source>
+        <translation>此计算机上从未记录过任何内容。</translation>
+    </message>
+    <message>
+        <source>The events cannot be read: %1</source>
+        <translation>无法读取事件：%1</translation>
+    </message>
+    <message>
+        <source>Events: %1. Waiting: %2. Delivered: %3.</source>
+        <translation>事件：%1。等待中：%2。已发送：%3。</translation>
+    </message>
+    <message>
+        <source>%1 Found: %2.</source>
+        <translation>%1 找到：%2。</translation>
+    </message>
+    <message>
+        <source>Export All Events</source>
+        <translation>导出所有事件</translation>
+    </message>
+    <message>
+        <source>JSON lines (*.jsonl)</source>
+        <translation>JSON Lines (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>CSV for spreadsheets (*.csv)</source>
+        <translation>电子表格用 CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Delete All Events</source>
+        <translation>删除所有事件</translation>
+    </message>
+    <message>
+        <source>Delete all %1 events? Those that wait will never be delivered. If you have agreed to recording, it goes on.</source>
+        <translation>要删除全部 %1 个事件吗？等待中的事件将不会再发送。如果您已同意记录，记录仍会继续。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
     </message>
 </context>
 </TS>

@@ -44,6 +44,25 @@ QStringList linksOf(const QString &text)
     return tagsOf(text).filter(QLatin1String("<a "));
 }
 
+// "%1" and so on, in the order of their numbers.
+QStringList placesOf(const QString &text)
+{
+    static const QRegularExpression place(QStringLiteral("%[1-9n]"));
+    QStringList places;
+    auto matches = place.globalMatch(text);
+    while (matches.hasNext()) {
+        places.append(matches.next().captured());
+    }
+    places.sort();
+    return places;
+}
+
+bool hasMnemonic(const QString &text)
+{
+    static const QRegularExpression mnemonic(QStringLiteral("&[A-Za-z0-9]"));
+    return text.contains(mnemonic);
+}
+
 } // namespace
 
 QList<Message> messagesOf(const QByteArray &ts)
@@ -84,6 +103,10 @@ QStringList faultsOf(const QList<Message> &messages)
             faults.append(QStringLiteral("other links: %1: %2").arg(message.context, begin));
         } else if (expected != found) {
             faults.append(QStringLiteral("other tags: %1: %2").arg(message.context, begin));
+        } else if (placesOf(message.source) != placesOf(message.translation)) {
+            faults.append(QStringLiteral("other places: %1: %2").arg(message.context, begin));
+        } else if (hasMnemonic(message.source) != hasMnemonic(message.translation)) {
+            faults.append(QStringLiteral("other mnemonic: %1: %2").arg(message.context, begin));
         }
     }
     return faults;

@@ -23,5 +23,6 @@ QList<Message> messagesOf(const QByteArray &ts);
 QStringList tagsOf(const QString &text);
 
 /// What keeps \a messages from being shipped, a line each: translations that are missing or not
-/// finished, links that lead elsewhere, and another structure of the text.
+/// finished, links that lead elsewhere, another structure of the text, places for values ("%1")
+/// that are lost or added, and mnemonics ("&F") likewise.
 QStringList faultsOf(const QList<Message> &messages);

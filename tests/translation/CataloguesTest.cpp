@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 
-// The catalogue sources: complete, up to date with the texts of the plug-in, links untouched.
+// The catalogue sources of the plug-in and of the viewer: complete, up to date with the texts in
+// the code and in the pages, with links, places and mnemonics as they are in English.
 
 #include "Catalogue.h"
 
@@ -15,9 +16,12 @@ namespace {
 
 const QString folder = QStringLiteral(NERIX_SOURCE_DIR "/translation");
 
-QString pathOf(const QString &inFolder, const QString &language)
+const QStringList catalogues{"UsageTracking", "NerixViewer"};
+const QStringList languages{"ja", "ko", "zh"};
+
+QString pathOf(const QString &inFolder, const QString &catalogue, const QString &language)
 {
-    return QStringLiteral("%1/UsageTracking_%2.ts").arg(inFolder, language);
+    return QStringLiteral("%1/%2_%3.ts").arg(inFolder, catalogue, language);
 }
 
 QByteArray contentOf(const QString &path)
@@ -26,20 +30,20 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QStringList sourcesOf(const QString &language)
+QStringList sourcesOf(const QString &catalogue, const QString &language)
 {
     QStringList sources;
-    for (const Message &message : messagesOf(contentOf(pathOf(folder, language)))) {
+    for (const Message &message : messagesOf(contentOf(pathOf(folder, catalogue, language)))) {
         sources.append(message.context + QLatin1Char('|') + message.source);
     }
     return sources;
 }
 
-void addLanguages()
+void addCatalogues()
 {
-    QTest::addColumn<QString>("language");
-    for (const char *language : {"ja", "ko", "zh"}) {
-        QTest::newRow(language) << QString::fromLatin1(language);
+    QTest::addColumn<QString>("catalogue");
+    for (const QString &catalogue : catalogues) {
+        QTest::newRow(qPrintable(catalogue)) << catalogue;
     }
 }
 
@@ -54,9 +58,13 @@ class CataloguesTest : public QObject
 private Q_SLOTS:
     void testCatalogueIsComplete_data();
     void testCatalogueIsComplete();
+    void testCatalogueOfThePluginHasItsTenMessages();
+    void testCataloguesHoldTheSameTexts_data();
     void testCataloguesHoldTheSameTexts();
+    void testEnglishCatalogueIsEmpty_data();
     void testEnglishCatalogueIsEmpty();
-    void testCataloguesAreUpToDateWithThePlugin();
+    void testCataloguesAreUpToDateWithTheSources_data();
+    void testCataloguesAreUpToDateWithTheSources();
     void testUpdateFindsATextThatWasForgotten();
 
     void testFault_data();
@@ -66,60 +74,96 @@ private Q_SLOTS:
 
 void CataloguesTest::testCatalogueIsComplete_data()
 {
-    addLanguages();
+    QTest::addColumn<QString>("catalogue");
+    QTest::addColumn<QString>("language");
+    for (const QString &catalogue : catalogues) {
+        for (const QString &language : languages) {
+            QTest::addRow("%s %s", qPrintable(catalogue), qPrintable(language))
+                << catalogue << language;
+        }
+    }
 }
 
 void CataloguesTest::testCatalogueIsComplete()
 {
+    QFETCH(QString, catalogue);
     QFETCH(QString, language);
-    const QList<Message> messages = messagesOf(contentOf(pathOf(folder, language)));
-    QCOMPARE(messages.size(), 10);
+    const QList<Message> messages = messagesOf(contentOf(pathOf(folder, catalogue, language)));
+    QVERIFY(!messages.isEmpty());
     QCOMPARE(faultsOf(messages), QStringList());
+}
+
+void CataloguesTest::testCatalogueOfThePluginHasItsTenMessages()
+{
+    QCOMPARE(sourcesOf("UsageTracking", "ja").size(), 10);
+}
+
+void CataloguesTest::testCataloguesHoldTheSameTexts_data()
+{
+    addCatalogues();
 }
 
 void CataloguesTest::testCataloguesHoldTheSameTexts()
 {
-    QCOMPARE(sourcesOf("ko"), sourcesOf("ja"));
-    QCOMPARE(sourcesOf("zh"), sourcesOf("ja"));
+    QFETCH(QString, catalogue);
+    QCOMPARE(sourcesOf(catalogue, "ko"), sourcesOf(catalogue, "ja"));
+    QCOMPARE(sourcesOf(catalogue, "zh"), sourcesOf(catalogue, "ja"));
+}
+
+void CataloguesTest::testEnglishCatalogueIsEmpty_data()
+{
+    addCatalogues();
 }
 
 void CataloguesTest::testEnglishCatalogueIsEmpty()
 {
-    const QByteArray english = contentOf(pathOf(folder, "en"));
+    QFETCH(QString, catalogue);
+    const QByteArray english = contentOf(pathOf(folder, catalogue, "en"));
     QVERIFY(english.contains("<TS "));
     QVERIFY(!english.contains("<message"));
 }
 
-// What the tool would change has been forgotten: a new text in the page or in the code, or one that
-// is gone or was reworded.
-void CataloguesTest::testCataloguesAreUpToDateWithThePlugin()
+void CataloguesTest::testCataloguesAreUpToDateWithTheSources_data()
 {
+    addCatalogues();
+}
+
+// What the tool would change has been forgotten: a new text in a page or in the code, or one that
+// is gone or was reworded.
+void CataloguesTest::testCataloguesAreUpToDateWithTheSources()
+{
+    QFETCH(QString, catalogue);
     const QTemporaryDir copies;
-    const QStringList languages{"ja", "ko", "zh"};
     for (const QString &language : languages) {
-        QVERIFY(QFile::copy(pathOf(folder, language), pathOf(copies.path(), language)));
+        QVERIFY(QFile::copy(pathOf(folder, catalogue, language),
+                            pathOf(copies.path(), catalogue, language)));
     }
     QCOMPARE(QProcess::execute(NERIX_SOURCE_DIR "/tools/update-translations.sh", {copies.path()}),
              0);
     for (const QString &language : languages) {
-        QVERIFY2(contentOf(pathOf(copies.path(), language)) == contentOf(pathOf(folder, language)),
-                 "run tools/update-translations.sh, and translate what is new");
+        const QByteArray updated = contentOf(pathOf(copies.path(), catalogue, language));
+        const QStringList faults = faultsOf(messagesOf(updated));
+        const QString remedy = QStringLiteral("run tools/update-translations.sh, and translate "
+                                              "what is new:\n%1")
+                                   .arg(faults.join('\n'));
+        QVERIFY2(updated == contentOf(pathOf(folder, catalogue, language)), qPrintable(remedy));
     }
 }
 
 void CataloguesTest::testUpdateFindsATextThatWasForgotten()
 {
     const QTemporaryDir copies;
-    QByteArray catalogue = contentOf(pathOf(folder, "ja"));
+    QByteArray catalogue = contentOf(pathOf(folder, "UsageTracking", "ja"));
     const int begin = catalogue.indexOf("    <message>");
     const int end = catalogue.indexOf("</message>\n", begin) + int(sizeof "</message>\n") - 1;
-    QFile shortened(pathOf(copies.path(), "ja"));
+    QFile shortened(pathOf(copies.path(), "UsageTracking", "ja"));
     QVERIFY(shortened.open(QIODevice::WriteOnly));
     shortened.write(catalogue.remove(begin, end - begin));
     shortened.close();
     QCOMPARE(QProcess::execute(NERIX_SOURCE_DIR "/tools/update-translations.sh", {copies.path()}),
              0);
-    const QStringList faults = faultsOf(messagesOf(contentOf(pathOf(copies.path(), "ja"))));
+    const QStringList faults =
+        faultsOf(messagesOf(contentOf(pathOf(copies.path(), "UsageTracking", "ja"))));
     QCOMPARE(faults, QStringList("not translated: DataPrivacy: At Ostrand, we are constantly "));
 }
 
@@ -131,6 +175,8 @@ void CataloguesTest::testFault_data()
 
     const QStringList missing{"not translated: Page: Our <a href=\"https://www.ostra"};
     const QStringList links{"other links: Page: Our <a href=\"https://www.ostra"};
+    const QStringList places{"other places: Page: Our <a href=\"https://www.ostra"};
+    const QStringList mnemonics{"other mnemonic: Page: Our <a href=\"https://www.ostra"};
     const QStringList tags{"other tags: Page: Our <a href=\"https://www.ostra"};
     QTest::newRow("translated") << "Nos <a href=\"https://www.ostrand.example/faq\">FAQ</a>, "
                                    "<b>ici</b>"
@@ -146,6 +192,12 @@ void CataloguesTest::testFault_data()
     QTest::newRow("no link") << "Nos FAQ <b>ici</b>" << true << links;
     QTest::newRow("emphasis lost")
         << "<a href=\"https://www.ostrand.example/faq\">FAQ</a> ici" << true << tags;
+    QTest::newRow("place lost") << "Nos <a href=\"https://www.ostrand.example/faq\">FAQ</a>, "
+                                   "<b>ici</b> %1"
+                                << true << places;
+    QTest::newRow("mnemonic added")
+        << "&Nos <a href=\"https://www.ostrand.example/faq\">FAQ</a>, <b>ici</b>" << true
+        << mnemonics;
     QTest::newRow("emphasis not closed")
         << "<a href=\"https://www.ostrand.example/faq\">FAQ</a> <b>ici" << true << tags;
 }

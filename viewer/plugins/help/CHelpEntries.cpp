@@ -33,7 +33,7 @@ CHelpEntries::CHelpEntries(AppCore::IMenuService &menus, const CHelpDocuments &d
     add(Helper::HelpContents, {"Help.Action.Contents", menu, contents, QKeySequence(Qt::Key_F1)},
         [] { return tr("&Contents"); });
     add(Helper::HelpCameras, {"Help.Action.Cameras", menu, contents},
-        [] { return tr("C&ameras"); });
+        [] { return tr("Ca&meras"); });
     add(Helper::HelpFeatures, {"Help.Action.Features", menu, contents},
         [] { return tr("&Features"); });
     add(Helper::HelpGrabbing, {"Help.Action.Grabbing", menu, contents},

@@ -29,13 +29,23 @@ namespace {
 
 Q_LOGGING_CATEGORY(log, "nerix.welcome", QtInfoMsg)
 
-CWelcomePages::Page failed(const INerixWelcomeTab &tab, const QString &reason)
+// The log is in English, what a user sees in the language of the viewer.
+CWelcomePages::Page failed(const INerixWelcomeTab &tab, const QString &reason,
+                           const QString &translatedReason)
 {
+    const char *text = QT_TRANSLATE_NOOP("Plugin::NerixWelcome::CWelcomePages",
+                                         "The page \"%1\" cannot be shown: %2");
+    qCWarning(log).noquote() << QString::fromLatin1(text).arg(tab.tabTitle(), reason);
     CWelcomePages::Page page;
-    page.error =
-        QStringLiteral("The page \"%1\" cannot be shown: %2").arg(tab.tabTitle(), reason.trimmed());
-    qCWarning(log).noquote() << page.error;
+    page.error = QCoreApplication::translate("Plugin::NerixWelcome::CWelcomePages", text)
+                     .arg(tab.tabTitle(), translatedReason);
     return page;
+}
+
+CWelcomePages::Page failed(const INerixWelcomeTab &tab, const char *reason)
+{
+    return failed(tab, QString::fromLatin1(reason),
+                  QCoreApplication::translate("Plugin::NerixWelcome::CWelcomePages", reason));
 }
 
 } // namespace
@@ -68,16 +78,23 @@ CWelcomePages::Page CWelcomePages::load(INerixWelcomeTab &tab)
     Page page;
     page.context = std::make_unique<QQmlContext>(m_engine.rootContext());
     if (!tab.setupQmlContext(page.context.get())) {
-        return failed(tab, QStringLiteral("its plug-in did not set it up"));
+        return failed(tab, QT_TRANSLATE_NOOP("Plugin::NerixWelcome::CWelcomePages",
+                                             "its plug-in did not set it up"));
     }
     QQmlComponent component(&m_engine, tab.tabQmlSource());
     std::unique_ptr<QObject> object(component.create(page.context.get()));
     if (!object) {
-        return failed(tab, component.errorString());
+        const QString reason = component.errorString().trimmed();
+        return failed(tab, reason, reason);
     }
     page.item.reset(qobject_cast<QQuickItem *>(object.get()));
     if (!page.item) {
-        return failed(tab, QStringLiteral("%1 is not an Item").arg(tab.tabQmlSource().toString()));
+        const char *text =
+            QT_TRANSLATE_NOOP("Plugin::NerixWelcome::CWelcomePages", "%1 is not an Item");
+        const QString source = tab.tabQmlSource().toString();
+        return failed(
+            tab, QString::fromLatin1(text).arg(source),
+            QCoreApplication::translate("Plugin::NerixWelcome::CWelcomePages", text).arg(source));
     }
     object.release();
     return page;
