@@ -38,7 +38,7 @@ QStringList english()
 
 QStringList japanese()
 {
-    return {QStringLiteral(u"\u7d42\u4e86(Q)"),
+    return {QStringLiteral(u"\u7d42\u4e86"),
             QStringLiteral(u"\u30c7\u30fc\u30bf\u30d7\u30e9\u30a4\u30d0\u30b7\u30fc"),
             QStringLiteral(u"\u30c7\u30fc\u30bf\u30d7\u30e9\u30a4\u30d0\u30b7\u30fc")};
 }
@@ -51,11 +51,11 @@ void LanguageTest::testChoiceTakesEffectAtOnceInTheViewerAndInThePlugin_data()
     QTest::addColumn<QStringList>("texts");
     QTest::newRow("ja") << "ja" << japanese();
     QTest::newRow("ko") << "ko"
-                        << QStringList{QStringLiteral(u"\uc885\ub8cc(Q)"),
+                        << QStringList{QStringLiteral(u"\uc885\ub8cc"),
                                        QStringLiteral(u"\uac1c\uc778\uc815\ubcf4 \ubcf4\ud638"),
                                        QStringLiteral(u"\uac1c\uc778\uc815\ubcf4 \ubcf4\ud638")};
     QTest::newRow("zh") << "zh"
-                        << QStringList{QStringLiteral(u"\u9000\u51fa(Q)"),
+                        << QStringList{QStringLiteral(u"\u9000\u51fa"),
                                        QStringLiteral(u"\u6570\u636e\u9690\u79c1"),
                                        QStringLiteral(u"\u6570\u636e\u9690\u79c1")};
     QTest::newRow("en") << "en" << english();

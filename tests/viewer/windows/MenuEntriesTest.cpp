@@ -29,6 +29,8 @@ private Q_SLOTS:
     void testEntryOfAMenuThatIsNotThereIsStillKnown();
     void testEntryGoesWithItsAction();
     void testTextsAreAskedAnewWhenTheLanguageChanges();
+    void testMnemonicIsSeenInMenusOnly_data();
+    void testMnemonicIsSeenInMenusOnly();
     void testNobodyAsksAfterTheOwnerIsGone();
     void testChoiceInForceIsChecked();
     void testPickedChoiceIsPassedOn();
@@ -133,6 +135,44 @@ void MenuEntriesTest::testTextsAreAskedAnewWhenTheLanguageChanges()
     QCOMPARE(action->text(), QString("Save"));
     changeLanguage();
     QCOMPARE(action->text(), QString("Sichern"));
+}
+
+void MenuEntriesTest::testMnemonicIsSeenInMenusOnly_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("read");
+    QTest::addColumn<QString>("inToolBar");
+    QTest::newRow("none") << "Save"
+                          << "Save"
+                          << "Save";
+    QTest::newRow("at the beginning") << "&Save"
+                                      << "Save"
+                                      << "Save";
+    QTest::newRow("in the word") << "S&ave"
+                                 << "Save"
+                                 << "Save";
+    QTest::newRow("ampersand") << "&Black && White"
+                               << "Black & White"
+                               << "Black & White";
+    QTest::newRow("in parentheses")
+        << QString::fromUtf8("保存(&S)") << QString::fromUtf8("保存") << QString::fromUtf8("保存");
+    QTest::newRow("in parentheses, with dots")
+        << QString::fromUtf8("保存(&S)...") << QString::fromUtf8("保存...")
+        << QString::fromUtf8("保存");
+    QTest::newRow("other parentheses") << "Save (all)"
+                                       << "Save (all)"
+                                       << "Save (all)";
+}
+
+void MenuEntriesTest::testMnemonicIsSeenInMenusOnly()
+{
+    QFETCH(QString, text);
+    const QAction *action = Windows::addMenuEntry(
+        *m_menus, {"Test.Save", "Test.Menu", "Test.Group"}, [text] { return text; },
+        m_owner.data());
+    QCOMPARE(action->text(), text);
+    QTEST(m_menus->entries().at(0).text, "read");
+    QTEST(action->iconText(), "inToolBar");
 }
 
 void MenuEntriesTest::testNobodyAsksAfterTheOwnerIsGone()

@@ -5,6 +5,7 @@
 
 #include "plugins/appcore/CActionContainer.h"
 #include "plugins/appcore/CCommand.h"
+#include "windows/Mnemonic.h"
 
 #include <algorithm>
 
@@ -16,19 +17,11 @@ namespace AppCore {
 
 namespace {
 
-QString withoutMnemonic(QString text)
-{
-    const QString ampersand = QStringLiteral("&&");
-    const QChar keeper = QChar::ReplacementCharacter;
-    return text.replace(ampersand, keeper)
-        .remove(QLatin1Char('&'))
-        .replace(keeper, QLatin1Char('&'));
-}
-
 CMenuEntry entryFor(const ICommand *command, const Core::CId &menu, const Core::CId &group)
 {
     const QAction *action = command->action();
-    return {command->id(), withoutMnemonic(action->text()), menu, group, action->isEnabled()};
+    return {command->id(), Windows::withoutMnemonic(action->text()), menu, group,
+            action->isEnabled()};
 }
 
 bool isActive(const Core::AppCoreComponents::CContext &context)
