@@ -13,7 +13,12 @@ CPanelRig::~CPanelRig() = default;
 
 bool CPanelRig::show()
 {
-    m_panel = std::make_unique<FeatureTree::CFeaturePanel>(features.services());
+    return show(features.services());
+}
+
+bool CPanelRig::show(const FeatureTree::CFeatureServices &services)
+{
+    m_panel = std::make_unique<FeatureTree::CFeaturePanel>(services);
     m_panel->resize(480, 640);
     m_panel->show();
     m_panel->activateWindow();

@@ -26,8 +26,9 @@ public:
     // the features in the end.
     bool open();
 
-    // Makes the panel and shows it.
+    // Makes the panel and shows it; with other services in place of those of the rig.
     bool show();
+    bool show(const FeatureTree::CFeatureServices &services);
 
     FeatureTree::CFeaturePanel &panel()
     {

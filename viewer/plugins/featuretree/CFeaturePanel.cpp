@@ -9,7 +9,6 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
@@ -26,9 +25,6 @@ using namespace ParameterCollection;
 namespace {
 
 constexpr const char *levelKey = "FeatureTree/Level";
-
-// In widths of an average letter, so that it grows with the font: a display name fits.
-constexpr int nameColumnLetters = 26;
 
 // So that the tree does not jump with each row that is explained; most explanations fit.
 constexpr int explanationLines = 6;
@@ -63,7 +59,6 @@ void CFeaturePanel::createWidgets()
     m_view = new CFeatureView;
     m_view->setObjectName(QStringLiteral("FeatureTree.View"));
     m_view->setModel(&m_filter);
-    m_view->header()->resizeSection(0, fontMetrics().averageCharWidth() * nameColumnLetters);
     m_notice = createText("FeatureTree.Notice");
     m_notice->setAlignment(Qt::AlignCenter);
     m_notice->setMargin(fontMetrics().height());
@@ -141,7 +136,12 @@ void CFeaturePanel::connectWidgets()
                     explain(m_explained);
                 }
             });
-    connect(&m_controller.model(), &CFeatureModel::modelReset, this, [this] { explain(-1); });
+    connect(&m_controller.model(), &CFeatureModel::modelReset, this, [this] {
+        explain(-1);
+        if (m_filter.rowCount() > 0) {
+            m_view->fitNames();
+        }
+    });
 
     auto *find = new QShortcut(QKeySequence::Find, this);
     find->setContext(Qt::WidgetWithChildrenShortcut);

@@ -98,6 +98,12 @@ void CFeatureView::showRow(const QModelIndex &index)
     }
 }
 
+void CFeatureView::fitNames()
+{
+    const int most = viewport()->width() * 3 / 5;
+    header()->resizeSection(0, qMin(sizeHintForColumn(0), most));
+}
+
 void CFeatureView::setEverythingOpen(bool open)
 {
     m_isEverythingOpen = open;

@@ -32,6 +32,9 @@ public:
     /// Makes the row current, quietly, and brings it into sight; an invalid index does nothing.
     void showRow(const QModelIndex &index);
 
+    /// Makes the names as wide as they need, as long as that leaves room for the values.
+    void fitNames();
+
     /// Opens all categories; the user's own choice of open ones comes back with `false`.
     void setEverythingOpen(bool open);
 
