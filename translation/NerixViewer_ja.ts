@@ -58,6 +58,121 @@
     </message>
 </context>
 <context>
+    <name>FeatureFiles::CFeatureFile</name>
+    <message>
+        <source>file %1 cannot be written: %2; choose another folder</source>
+        <translation>ファイル %1 に書き込めません：%2。別のフォルダーを選択してください</translation>
+    </message>
+    <message>
+        <source>file %1 holds no features: %2</source>
+        <translation>ファイル %1 には機能が含まれていません：%2</translation>
+    </message>
+    <message>
+        <source>file %1 cannot be read: %2; choose another file</source>
+        <translation>ファイル %1 を読み込めません：%2。別のファイルを選択してください</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CFeatureFileEntries</name>
+    <message>
+        <source>Save &amp;Features...</source>
+        <translation>機能を保存(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>&amp;Load Features...</source>
+        <translation>機能を読み込む(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>The features of %1 are saved in %2</source>
+        <translation>%1 の機能を %2 に保存しました</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>機能</translation>
+    </message>
+    <message>
+        <source>Save Features</source>
+        <translation>機能を保存</translation>
+    </message>
+    <message>
+        <source>Load Features</source>
+        <translation>機能を読み込む</translation>
+    </message>
+    <message>
+        <source>Features (*.%1)</source>
+        <translation>機能 (*.%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Saving the features of %1</source>
+        <translation>%1 の機能を保存しています</translation>
+    </message>
+    <message>
+        <source>Loading the features of %1</source>
+        <translation>%1 の機能を読み込んでいます</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>%1, features from %2: %3</source>
+        <translation>%1、%2 の機能：%3</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CFeatureFileTask</name>
+    <message>
+        <source>%1 has no features now: open it first</source>
+        <translation>%1 には現在、機能がありません。先に開いてください</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CLoadReport</name>
+    <message>
+        <source>the camera made it &quot;%1&quot;</source>
+        <translation>カメラが「%1」に変更しました</translation>
+    </message>
+    <message>
+        <source>%1 set, %2 unchanged, %3 read-only, %4 not set</source>
+        <translation>設定 %1、変更なし %2、読み取り専用 %3、未設定 %4</translation>
+    </message>
+    <message>
+        <source>%1; cancelled</source>
+        <translation>%1。キャンセルされました</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CLoadReportDialog</name>
+    <message>
+        <source>Load Features</source>
+        <translation>機能を読み込む</translation>
+    </message>
+    <message>
+        <source>Some features of %1 do not have the value of the file.</source>
+        <translation>%1 の一部の機能は、ファイルの値になっていません。</translation>
+    </message>
+    <message>
+        <source>Features that were not set</source>
+        <translation>設定されなかった機能</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>機能</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>FeatureTree::CFeatureController</name>
     <message>
         <source>Select a camera to see its features.</source>

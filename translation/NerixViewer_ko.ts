@@ -58,6 +58,121 @@
     </message>
 </context>
 <context>
+    <name>FeatureFiles::CFeatureFile</name>
+    <message>
+        <source>file %1 cannot be written: %2; choose another folder</source>
+        <translation>%1 파일에 쓸 수 없습니다: %2. 다른 폴더를 선택하세요</translation>
+    </message>
+    <message>
+        <source>file %1 holds no features: %2</source>
+        <translation>%1 파일에 기능이 들어 있지 않습니다: %2</translation>
+    </message>
+    <message>
+        <source>file %1 cannot be read: %2; choose another file</source>
+        <translation>%1 파일을 읽을 수 없습니다: %2. 다른 파일을 선택하세요</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CFeatureFileEntries</name>
+    <message>
+        <source>Save &amp;Features...</source>
+        <translation>기능 저장(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>&amp;Load Features...</source>
+        <translation>기능 불러오기(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>The features of %1 are saved in %2</source>
+        <translation>%1의 기능을 %2에 저장했습니다</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>기능</translation>
+    </message>
+    <message>
+        <source>Save Features</source>
+        <translation>기능 저장</translation>
+    </message>
+    <message>
+        <source>Load Features</source>
+        <translation>기능 불러오기</translation>
+    </message>
+    <message>
+        <source>Features (*.%1)</source>
+        <translation>기능 (*.%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>모든 파일 (*)</translation>
+    </message>
+    <message>
+        <source>Saving the features of %1</source>
+        <translation>%1의 기능을 저장하는 중</translation>
+    </message>
+    <message>
+        <source>Loading the features of %1</source>
+        <translation>%1의 기능을 불러오는 중</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>%1, features from %2: %3</source>
+        <translation>%1, %2의 기능: %3</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CFeatureFileTask</name>
+    <message>
+        <source>%1 has no features now: open it first</source>
+        <translation>%1에 현재 기능이 없습니다. 먼저 여세요</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CLoadReport</name>
+    <message>
+        <source>the camera made it &quot;%1&quot;</source>
+        <translation>카메라가 &quot;%1&quot;(으)로 바꾸었습니다</translation>
+    </message>
+    <message>
+        <source>%1 set, %2 unchanged, %3 read-only, %4 not set</source>
+        <translation>설정됨 %1, 변경 없음 %2, 읽기 전용 %3, 설정 안 됨 %4</translation>
+    </message>
+    <message>
+        <source>%1; cancelled</source>
+        <translation>%1. 취소됨</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CLoadReportDialog</name>
+    <message>
+        <source>Load Features</source>
+        <translation>기능 불러오기</translation>
+    </message>
+    <message>
+        <source>Some features of %1 do not have the value of the file.</source>
+        <translation>%1의 일부 기능이 파일의 값과 다릅니다.</translation>
+    </message>
+    <message>
+        <source>Features that were not set</source>
+        <translation>설정되지 않은 기능</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>기능</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>이유</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>FeatureTree::CFeatureController</name>
     <message>
         <source>Select a camera to see its features.</source>

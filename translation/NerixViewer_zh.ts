@@ -58,6 +58,121 @@
     </message>
 </context>
 <context>
+    <name>FeatureFiles::CFeatureFile</name>
+    <message>
+        <source>file %1 cannot be written: %2; choose another folder</source>
+        <translation>无法写入文件 %1：%2；请选择其他文件夹</translation>
+    </message>
+    <message>
+        <source>file %1 holds no features: %2</source>
+        <translation>文件 %1 不包含功能：%2</translation>
+    </message>
+    <message>
+        <source>file %1 cannot be read: %2; choose another file</source>
+        <translation>无法读取文件 %1：%2；请选择其他文件</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CFeatureFileEntries</name>
+    <message>
+        <source>Save &amp;Features...</source>
+        <translation>保存功能(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>&amp;Load Features...</source>
+        <translation>加载功能(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>The features of %1 are saved in %2</source>
+        <translation>%1 的功能已保存到 %2</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>Save Features</source>
+        <translation>保存功能</translation>
+    </message>
+    <message>
+        <source>Load Features</source>
+        <translation>加载功能</translation>
+    </message>
+    <message>
+        <source>Features (*.%1)</source>
+        <translation>功能 (*.%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Saving the features of %1</source>
+        <translation>正在保存 %1 的功能</translation>
+    </message>
+    <message>
+        <source>Loading the features of %1</source>
+        <translation>正在加载 %1 的功能</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>%1, features from %2: %3</source>
+        <translation>%1，来自 %2 的功能：%3</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CFeatureFileTask</name>
+    <message>
+        <source>%1 has no features now: open it first</source>
+        <translation>%1 当前没有功能：请先将其打开</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CLoadReport</name>
+    <message>
+        <source>the camera made it &quot;%1&quot;</source>
+        <translation>相机将其改为“%1”</translation>
+    </message>
+    <message>
+        <source>%1 set, %2 unchanged, %3 read-only, %4 not set</source>
+        <translation>已设置 %1，未变 %2，只读 %3，未设置 %4</translation>
+    </message>
+    <message>
+        <source>%1; cancelled</source>
+        <translation>%1；已取消</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFiles::CLoadReportDialog</name>
+    <message>
+        <source>Load Features</source>
+        <translation>加载功能</translation>
+    </message>
+    <message>
+        <source>Some features of %1 do not have the value of the file.</source>
+        <translation>%1 的部分功能与文件中的值不同。</translation>
+    </message>
+    <message>
+        <source>Features that were not set</source>
+        <translation>未设置的功能</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>FeatureTree::CFeatureController</name>
     <message>
         <source>Select a camera to see its features.</source>
