@@ -59,6 +59,7 @@ CFeature describe(ArvGcNode *node, const QSharedPointer<CameraPool::CDevice> &de
     CFeature feature;
     feature.device = device;
     feature.node = name;
+    feature.text = QString::fromUtf8(name);
     feature.category = category;
     feature.type = type;
     feature.hasReadableValue = type != InterfaceCategory && type != InterfaceCommand

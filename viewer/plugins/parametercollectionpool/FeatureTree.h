@@ -18,6 +18,7 @@ struct CFeature
 {
     QSharedPointer<CameraPool::CDevice> device;
     QByteArray node;  ///< the name of the GenICam node
+    QString text;     ///< the same, shared by all who keep the name
     QString category; ///< the full name of the category that it is in; empty at the top
     ParameterCollection::InterfaceType type = ParameterCollection::InterfaceValue;
     bool hasReadableValue = false;
@@ -27,7 +28,7 @@ struct CFeature
 
     QString name() const
     {
-        return QString::fromUtf8(node);
+        return text;
     }
     QString fullName() const
     {
