@@ -40,6 +40,16 @@ void chooseDisplay()
     }
 }
 
+// Pages, icons and images are laid out in pixels of a usual screen; on a fine one each of them is
+// several. Before the application object.
+void scaleForFineScreens()
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
 int runViewer(int &argc, char **argv, const Application::CommandLine &commandLine)
 {
     Application::CGuardedApplication application(argc, argv);
@@ -68,5 +78,6 @@ int main(int argc, char **argv)
     }
     Application::installLogOutput();
     chooseDisplay();
+    scaleForFineScreens();
     return runViewer(argc, argv, commandLine);
 }
