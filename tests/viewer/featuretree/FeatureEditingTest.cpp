@@ -34,6 +34,9 @@ private Q_SLOTS:
     void testNextChangeThatIsTakenEndsTheProblem();
     void testDependentValueIsReadAfterAChange();
     void testLockedFeatureCannotBeEditedAndSaysWhy();
+    void testFeatureThatIsLockedWhileItIsEditedSaysWhy();
+    void testCameraThatIsClosedWhileAValueIsEditedSetsNothing_data();
+    void testCameraThatIsClosedWhileAValueIsEditedSetsNothing();
     void testNewLimitsReachAnOpenEditorAndWhatIsTypedStays();
     void testSlowDeviceShowsTheNewValueMeanwhile();
 
@@ -262,6 +265,44 @@ void FeatureEditingTest::testLockedFeatureCannotBeEditedAndSaysWhy()
     QTest::keyClick(&m_rig->view(), Qt::Key_F2);
     QVERIFY(!m_rig->editor());
     QCOMPARE(m_rig->problem(), QString("Width: it is locked now; stop the grab, then set it"));
+}
+
+void FeatureEditingTest::testFeatureThatIsLockedWhileItIsEditedSaysWhy()
+{
+    QVERIFY(m_rig->open());
+    QVERIFY(m_rig->goTo("Label"));
+    QTest::keyClick(&m_rig->view(), Qt::Key_F2);
+    QWidget *editor = m_rig->editor();
+    QVERIFY(editor);
+    QTest::keyClicks(editor, "right");
+    m_label->change([](CLiveState &state) { state.mode = AccessReadOnly; });
+    m_rig->panel().controller().keepUpToDate({3});
+    QTRY_VERIFY(m_rig->panel().controller().model().state(3).isLocked());
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_COMPARE(m_rig->problem(), QString("Label: it is locked now; stop the grab, then set it"));
+    QCOMPARE(m_label->sets(), QStringList());
+}
+
+void FeatureEditingTest::testCameraThatIsClosedWhileAValueIsEditedSetsNothing_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("number") << QByteArray("Width");
+    QTest::newRow("text") << QByteArray("Label");
+    QTest::newRow("list") << QByteArray("Format");
+}
+
+void FeatureEditingTest::testCameraThatIsClosedWhileAValueIsEditedSetsNothing()
+{
+    QFETCH(QByteArray, name);
+    QVERIFY(m_rig->open());
+    QVERIFY(m_rig->goTo(name.constData()));
+    QTest::keyClick(&m_rig->view(), Qt::Key_F2);
+    QVERIFY(m_rig->editor());
+    QTest::keyClicks(m_rig->editor(), "7");
+    QVERIFY(m_rig->features.closeCamera());
+    QTRY_VERIFY(!m_rig->editor());
+    QCOMPARE(m_rig->notice(), QString("A-1 is closed.\nOpen it to see its features."));
+    QCOMPARE(m_width->sets() + m_label->sets() + m_format->sets(), QStringList());
 }
 
 void FeatureEditingTest::testNewLimitsReachAnOpenEditorAndWhatIsTypedStays()

@@ -138,8 +138,9 @@ void CFeatureDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
                                     const QModelIndex &index) const
 {
     const QString text = textOf(editor);
-    if (text != editor->property(firstText).toString()) {
-        model->setData(index, text, Qt::EditRole);
+    if (text != editor->property(firstText).toString()
+        && !model->setData(index, text, Qt::EditRole)) {
+        Q_EMIT notTaken(index);
     }
 }
 

@@ -29,6 +29,10 @@ public:
     bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
                      const QModelIndex &index) override;
 
+Q_SIGNALS:
+    /// What was typed cannot be set any more, because the feature was locked meanwhile.
+    void notTaken(const QModelIndex &index) const;
+
 private:
     QWidget *createChoice(QWidget *parent) const;
 

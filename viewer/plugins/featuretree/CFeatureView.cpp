@@ -43,7 +43,9 @@ CFeatureView::CFeatureView(QWidget *parent)
     : QTreeView(parent)
     , m_sightTimer(new QTimer(this))
 {
-    setItemDelegate(new CFeatureDelegate(this));
+    auto *delegate = new CFeatureDelegate(this);
+    setItemDelegate(delegate);
+    connect(delegate, &CFeatureDelegate::notTaken, this, &CFeatureView::refuseToChange);
     setEditTriggers(NoEditTriggers); // see `activate`
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
@@ -55,7 +57,7 @@ CFeatureView::CFeatureView(QWidget *parent)
     connect(verticalScrollBar(), &QScrollBar::valueChanged, m_sightTimer,
             QOverload<>::of(&QTimer::start));
     connect(this, &QTreeView::clicked, this, &CFeatureView::onClicked);
-    connect(this, &QTreeView::doubleClicked, this, &CFeatureView::onDoubleClicked);
+    connect(this, &QTreeView::doubleClicked, this, &CFeatureView::refuseToChange);
     connect(this, &QTreeView::expanded, this,
             [this](const QModelIndex &index) { noteOpen(index, true); });
     connect(this, &QTreeView::collapsed, this,
@@ -177,7 +179,7 @@ void CFeatureView::onClicked(const QModelIndex &index)
     }
 }
 
-void CFeatureView::onDoubleClicked(const QModelIndex &index)
+void CFeatureView::refuseToChange(const QModelIndex &index)
 {
     const int feature = featureOf(index);
     if (feature >= 0) {

@@ -61,7 +61,7 @@ protected:
 
 private:
     void onClicked(const QModelIndex &index);
-    void onDoubleClicked(const QModelIndex &index);
+    void refuseToChange(const QModelIndex &index);
     void activate(const QModelIndex &index);
     void applyOpen();
     void noteOpen(const QModelIndex &index, bool isOpen);
