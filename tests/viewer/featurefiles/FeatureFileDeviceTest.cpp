@@ -5,6 +5,8 @@
 #include "CFeatureFolder.h"
 #include "plugins/featurefiles/CFeatureFile.h"
 
+#include <ParameterCollection/CParameterException.h>
+
 #include <QTest>
 
 using namespace FeatureFiles;
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void testLockedFeatureIsRefusedAndTheRestIsSet();
     void testFeaturesOfAnotherCameraComeBackWithoutARefusal();
     void testCameraThatVanishesIsToldForEachFeature();
+    void testSavingACameraThatVanishedLeavesTheFileAndSaysWhy();
 
 private:
     QString value(const char *name) const
@@ -130,6 +133,24 @@ void FeatureFileDeviceTest::testCameraThatVanishesIsToldForEachFeature()
     QCOMPARE(report.set + report.unchanged + report.readOnly, 0);
     QCOMPARE(report.refused.size(), 3);
     QVERIFY2(!report.refused.last().reason.isEmpty(), "no reason");
+}
+
+void FeatureFileDeviceTest::testSavingACameraThatVanishedLeavesTheFileAndSaysWhy()
+{
+    COpenCamera lost({"--address", "127.0.0.2"});
+    QVERIFY(lost.isOpen());
+    const QString path = m_folder.write("kept", {"Width\t256"});
+    const QByteArray before = m_folder.read("kept");
+    lost.simulator().kill();
+    try {
+        CFeatureFile(path).save(lost.parameters());
+        QFAIL("the camera is gone");
+    } catch (const ParameterCollection::CParameterException &exception) {
+        QCOMPARE(
+            exception.message(),
+            QString("Ostrand-XQZ-2000-A1 is gone: check its cable and power, then open it again"));
+    }
+    QCOMPARE(m_folder.read("kept"), before);
 }
 
 QTEST_GUILESS_MAIN(FeatureFileDeviceTest)

@@ -5,6 +5,8 @@
 
 #include <ParameterCollection/CParameterException.h>
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -20,6 +22,21 @@ namespace {
 // Far above what a camera has, far below what hurts: somebody may pick a video.
 constexpr qint64 largestFile = 16 * 1024 * 1024;
 
+const QString cameraTree = QStringLiteral("@CameraDevice");
+
+// What a camera that was lost meanwhile did not tell is missing in its stream, which is no reason
+// to replace a file. Of such a camera every feature is unavailable, and each throws the reason.
+void throwIfGone(const IParameterCollection &parameters)
+{
+    const auto all = parameters.parameters();
+    const bool isThere = std::any_of(all.begin(), all.end(), [](const auto &parameter) {
+        return parameter->fullName().startsWith(cameraTree) && !parameter->isUnavailable();
+    });
+    if (!isThere && !all.isEmpty()) {
+        all.first()->valueText();
+    }
+}
+
 } // namespace
 
 CFeatureFile::CFeatureFile(const QString &fileName)
@@ -29,7 +46,8 @@ CFeatureFile::CFeatureFile(const QString &fileName)
 void CFeatureFile::save(const IParameterCollection &parameters,
                         const std::function<bool()> &isWanted) const
 {
-    const QByteArray text = parameters.featureStream(QStringLiteral("@CameraDevice")).toUtf8();
+    const QByteArray text = parameters.featureStream(cameraTree).toUtf8();
+    throwIfGone(parameters);
     if (!isWanted()) {
         return;
     }

@@ -22,7 +22,8 @@ public:
     explicit CFeatureFile(const QString &fileName);
 
     /// Writes every value that can be read. A file that is there is replaced once everything is
-    /// written, or stays as it is. \a isWanted is asked before the file is touched.
+    /// written; it stays as it is if that fails or the camera is gone. \a isWanted is asked before
+    /// the file is touched.
     /// @throws ParameterCollection::CParameterException with the reason and the remedy.
     void save(
         const ParameterCollection::IParameterCollection &parameters,
