@@ -89,8 +89,8 @@ private Q_SLOTS:
     void testColumns()
     {
         CEventModel model;
-        model.append(stored(1, "{\"A\":1}\n{\"B\":2}"));
-        model.append(stored(2, "{}", true));
+        model.append(CStoredEvents{stored(1, "{\"A\":1}\n{\"B\":2}")});
+        model.append(CStoredEvents{stored(2, "{}", true)});
         QCOMPARE(model.index(0, CEventModel::CategoryColumn).data().toString(),
                  QStringLiteral("Camera"));
         QCOMPARE(model.index(0, CEventModel::NameColumn).data().toString(),
@@ -110,7 +110,7 @@ private Q_SLOTS:
     void testCellShowsTheBeginningOfALongRecord()
     {
         CEventModel model;
-        model.append(stored(1, QByteArray("\xc3\xa4").repeated(100000)));
+        model.append(CStoredEvents{stored(1, QByteArray("\xc3\xa4").repeated(100000))});
         QCOMPARE(model.index(0, CEventModel::RecordColumn).data().toString().size(), 300);
         QCOMPARE(model.index(0, 0).data(CEventModel::WholeTextRole).toByteArray().size(), 200000);
     }
@@ -119,7 +119,7 @@ private Q_SLOTS:
     {
         CEventModel model;
         for (const int number : {1, 2, 2, 1, 3}) {
-            model.append(stored(number, QByteArray::number(number)));
+            model.append(CStoredEvents{stored(number, QByteArray::number(number))});
         }
         QCOMPARE(textsOf(model), QByteArrayList({"1", "2", "3"}));
     }
@@ -188,9 +188,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         CEventModel model;
-        model.append(stored(1, "{\"Name\":\"ExposureTime\"}"));
-        model.append(stored(2, QByteArray(5000, '.') + "far away"));
-        model.append(stored(3, "{}", true));
+        model.append(CStoredEvents{stored(1, "{\"Name\":\"ExposureTime\"}")});
+        model.append(CStoredEvents{stored(2, QByteArray(5000, '.') + "far away")});
+        model.append(CStoredEvents{stored(3, "{}", true)});
         CEventFilter filter;
         filter.setSourceModel(&model);
         filter.setText(text);

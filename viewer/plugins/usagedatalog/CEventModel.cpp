@@ -34,14 +34,17 @@ CEventModel::CEventModel(QObject *parent)
 
 CEventModel::~CEventModel() = default;
 
-void CEventModel::append(const CStoredEvent &event)
+void CEventModel::append(const CStoredEvents &events)
 {
-    if (!m_events.isEmpty() && event.number <= m_events.constLast().number) {
-        return;
+    const qint64 last = m_events.isEmpty() ? -1 : m_events.constLast().number;
+    const auto first = std::find_if(events.begin(), events.end(),
+                                    [last](const auto &event) { return event.number > last; });
+    const CStoredEvents fresh = events.mid(int(std::distance(events.begin(), first)));
+    if (!fresh.isEmpty()) {
+        beginInsertRows({}, m_events.size(), m_events.size() + fresh.size() - 1);
+        m_events += fresh;
+        endInsertRows();
     }
-    beginInsertRows({}, m_events.size(), m_events.size());
-    m_events.append(event);
-    endInsertRows();
 }
 
 void CEventModel::setEvents(const CStoredEvents &events)
@@ -53,9 +56,7 @@ void CEventModel::setEvents(const CStoredEvents &events)
             Q_EMIT dataChanged(index(row, StateColumn), index(row, StateColumn));
         }
     }
-    for (int row = m_events.size(); row < events.size(); ++row) {
-        append(events.at(row));
-    }
+    append(events.mid(m_events.size()));
 }
 
 int CEventModel::deliveredCount() const

@@ -23,8 +23,9 @@ public:
     explicit CEventModel(QObject *parent = nullptr);
     ~CEventModel() override;
 
-    /// Adds \a event unless it is there: its number must be above the last one's.
-    void append(const CStoredEvent &event);
+    /// Adds those of \a events, oldest first, that are not there: whose numbers are above the last
+    /// one's.
+    void append(const CStoredEvents &events);
 
     /// Makes \a events the ones that are shown. Rows that stay keep their place and selection.
     void setEvents(const CStoredEvents &events);

@@ -59,12 +59,9 @@ void CEventStore::watch()
     }
     m_watch = std::make_unique<QObject>();
     m_tool.listen({QStringLiteral("--follow"), QStringLiteral("--json")}, m_watch.get(),
-                  [this](const QByteArray &line) {
-                      const CStoredEvent event = CStoredEvent::fromJson(line);
-                      if (event.number > 0) {
-                          m_model.append(event);
-                          setState(State::Ready);
-                      }
+                  [this](const QByteArray &lines) {
+                      m_model.append(eventsOf(lines));
+                      setState(State::Ready);
                   });
     m_timer.start();
     compare();
@@ -129,7 +126,8 @@ void CEventStore::compare()
                [this](const CEventsTool::Result &result) { compareWith(result); });
 }
 
-// What is being followed may come a moment later than its number, so the numbers must differ twice.
+// What is being followed may come a moment later than its number, so the numbers must differ twice
+// while nothing comes.
 void CEventStore::compareWith(const CEventsTool::Result &statistics)
 {
     m_isComparing = false;
@@ -146,7 +144,9 @@ void CEventStore::compareWith(const CEventsTool::Result &statistics)
         numbers.value(QLatin1String("pending")).toInt() != m_model.waitingCount()
         || numbers.value(QLatin1String("delivered")).toInt() != m_model.deliveredCount();
     const bool mayRead = !m_lastRead.isValid() || m_lastRead.hasExpired(readAllAtMostEvery.count());
-    if (differs && m_differed && mayRead) {
+    const bool isComing = m_model.rowCount() != m_comparedRows;
+    m_comparedRows = m_model.rowCount();
+    if (differs && m_differed && !isComing && mayRead) {
         m_differed = false;
         readAll();
     } else {

@@ -74,6 +74,7 @@ private:
     QString m_error;
     bool m_isComparing = false;
     bool m_differed = false;
+    int m_comparedRows = 0;
 };
 
 } // namespace UsageDataLog

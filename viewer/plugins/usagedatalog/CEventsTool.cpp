@@ -102,14 +102,18 @@ void CEventsTool::runInto(const QString &file, const QStringList &options, Answe
     });
 }
 
-void CEventsTool::listen(const QStringList &options, QObject *owner, LineListener listener)
+void CEventsTool::listen(const QStringList &options, QObject *owner, LinesListener listener)
 {
     QProcess *process = make(options);
     connect(owner, &QObject::destroyed, process, &QObject::deleteLater);
     connect(process, &QProcess::readyReadStandardOutput, owner,
             [process, listener = std::move(listener)] {
+                QByteArray lines;
                 while (process->canReadLine()) {
-                    listener(process->readLine());
+                    lines += process->readLine();
+                }
+                if (!lines.isEmpty()) {
+                    listener(lines);
                 }
             });
     process->start();

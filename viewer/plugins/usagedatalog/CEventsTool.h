@@ -33,7 +33,7 @@ public:
         QString error; ///< the last line of what the program complained about
     };
     using Answer = std::function<void(const Result &)>;
-    using LineListener = std::function<void(const QByteArray &)>;
+    using LinesListener = std::function<void(const QByteArray &lines)>;
 
     CEventsTool(QString program, QString directory, QObject *parent = nullptr);
 
@@ -47,8 +47,8 @@ public:
     void runInto(const QString &file, const QStringList &options, Answer answer);
 
     /// Runs `rui-events OPTIONS DIRECTORY` for as long as this object lives or until \a owner goes,
-    /// whatever comes first; each line of output goes to \a listener.
-    void listen(const QStringList &options, QObject *owner, LineListener listener);
+    /// whatever comes first; the output goes to \a listener, one or more whole lines at a time.
+    void listen(const QStringList &options, QObject *owner, LinesListener listener);
 
 private:
     QProcess *make(const QStringList &options);
