@@ -61,15 +61,15 @@
     <name>FeatureFiles::CFeatureFile</name>
     <message>
         <source>file %1 cannot be written: %2; choose another folder</source>
-        <translation>ファイル %1 に書き込めません：%2。別のフォルダーを選択してください</translation>
+        <translation>ファイル %1 に書き込めません：%2。別のフォルダーを選んでください</translation>
     </message>
     <message>
         <source>file %1 holds no features: %2</source>
-        <translation>ファイル %1 には機能が含まれていません：%2</translation>
+        <translation>ファイル %1 に機能が含まれていません：%2</translation>
     </message>
     <message>
         <source>file %1 cannot be read: %2; choose another file</source>
-        <translation>ファイル %1 を読み込めません：%2。別のファイルを選択してください</translation>
+        <translation>ファイル %1 を読み込めません：%2。別のファイルを選んでください</translation>
     </message>
 </context>
 <context>
@@ -127,7 +127,7 @@
     <name>FeatureFiles::CFeatureFileTask</name>
     <message>
         <source>%1 has no features now: open it first</source>
-        <translation>%1 には現在、機能がありません。先に開いてください</translation>
+        <translation>%1 には現在機能がありません。先に開いてください</translation>
     </message>
 </context>
 <context>
@@ -142,7 +142,7 @@
     </message>
     <message>
         <source>%1; cancelled</source>
-        <translation>%1。キャンセルされました</translation>
+        <translation>%1（キャンセル）</translation>
     </message>
 </context>
 <context>

@@ -61,15 +61,15 @@
     <name>FeatureFiles::CFeatureFile</name>
     <message>
         <source>file %1 cannot be written: %2; choose another folder</source>
-        <translation>%1 파일에 쓸 수 없습니다: %2. 다른 폴더를 선택하세요</translation>
+        <translation>파일 %1에 쓸 수 없습니다: %2. 다른 폴더를 선택하세요</translation>
     </message>
     <message>
         <source>file %1 holds no features: %2</source>
-        <translation>%1 파일에 기능이 들어 있지 않습니다: %2</translation>
+        <translation>파일 %1에 기능이 없습니다: %2</translation>
     </message>
     <message>
         <source>file %1 cannot be read: %2; choose another file</source>
-        <translation>%1 파일을 읽을 수 없습니다: %2. 다른 파일을 선택하세요</translation>
+        <translation>파일 %1을(를) 읽을 수 없습니다: %2. 다른 파일을 선택하세요</translation>
     </message>
 </context>
 <context>
@@ -127,22 +127,22 @@
     <name>FeatureFiles::CFeatureFileTask</name>
     <message>
         <source>%1 has no features now: open it first</source>
-        <translation>%1에 현재 기능이 없습니다. 먼저 여세요</translation>
+        <translation>%1에는 지금 기능이 없습니다. 먼저 여세요</translation>
     </message>
 </context>
 <context>
     <name>FeatureFiles::CLoadReport</name>
     <message>
         <source>the camera made it &quot;%1&quot;</source>
-        <translation>카메라가 &quot;%1&quot;(으)로 바꾸었습니다</translation>
+        <translation>카메라가 &quot;%1&quot;(으)로 변경했습니다</translation>
     </message>
     <message>
         <source>%1 set, %2 unchanged, %3 read-only, %4 not set</source>
-        <translation>설정됨 %1, 변경 없음 %2, 읽기 전용 %3, 설정 안 됨 %4</translation>
+        <translation>설정 %1, 변경 없음 %2, 읽기 전용 %3, 설정 안 됨 %4</translation>
     </message>
     <message>
         <source>%1; cancelled</source>
-        <translation>%1. 취소됨</translation>
+        <translation>%1 (취소됨)</translation>
     </message>
 </context>
 <context>

@@ -127,7 +127,7 @@
     <name>FeatureFiles::CFeatureFileTask</name>
     <message>
         <source>%1 has no features now: open it first</source>
-        <translation>%1 当前没有功能：请先将其打开</translation>
+        <translation>%1 当前没有功能：请先打开它</translation>
     </message>
 </context>
 <context>
@@ -138,7 +138,7 @@
     </message>
     <message>
         <source>%1 set, %2 unchanged, %3 read-only, %4 not set</source>
-        <translation>已设置 %1，未变 %2，只读 %3，未设置 %4</translation>
+        <translation>已设置 %1，未更改 %2，只读 %3，未设置 %4</translation>
     </message>
     <message>
         <source>%1; cancelled</source>
