@@ -118,14 +118,14 @@ void SessionTest::testPluginRunsWithEverythingItNeeds()
                         "    print(plugin.name, plugin.version, plugin.state, plugin.error);\n"
                         "});"),
              0);
-    QStringList printed = viewer.printed();
-    printed.sort();
-    QCOMPARE(printed, QStringList({"AppCore 7.1.0 Running ", "CameraPool 7.1.0 Running ",
-                                   "CameraSelector 7.1.0 Running ", "FeatureTree 7.1.0 Running ",
-                                   "Help 7.1.0 Running ", "Localization 7.1.0 Running ",
-                                   "NerixViewer 7.1.0 Running ", "NerixWelcome 7.1.0 Running ",
-                                   "ParameterCollectionPool 7.1.0 Running ",
-                                   "Settings 7.1.0 Running ", "UsageTracking 7.1.0 Running "}));
+    const QStringList printed = viewer.printed();
+    for (const char *name :
+         {"AppCore", "CameraPool", "CameraSelector", "FeatureTree", "Help", "Localization",
+          "NerixViewer", "NerixWelcome", "ParameterCollectionPool", "Settings", "UsageTracking"}) {
+        QVERIFY2(printed.contains(QString(name) + " 7.1.0 Running "), name);
+    }
+    // Nothing that stands beside them fails.
+    QCOMPARE(printed.filter(QRegularExpression(" Running $")), printed);
 }
 
 QTEST_GUILESS_MAIN(SessionTest)
