@@ -34,6 +34,7 @@ private Q_SLOTS:
 
     void testStart_data();
     void testStart();
+    void testStartShowsNothingWithoutTabs();
     void testStartGoesToTheTabWithTheQuestion();
 
     void testCloseHidesTheScreen();
@@ -206,6 +207,12 @@ void WelcomeControllerTest::testStart()
     m_controller->addTab(&tab);
     m_controller->start();
     QCOMPARE(m_controller->isVisible(), visible);
+}
+
+void WelcomeControllerTest::testStartShowsNothingWithoutTabs()
+{
+    m_controller->start();
+    QVERIFY(!m_controller->isVisible());
 }
 
 void WelcomeControllerTest::testStartGoesToTheTabWithTheQuestion()

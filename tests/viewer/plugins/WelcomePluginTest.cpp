@@ -32,6 +32,7 @@ private Q_SLOTS:
     void testTabThatWasNeverAddedIsNotShown();
     void testScreenStartsWhenEveryPluginIsInitialized();
     void testViewMenuBringsUpTheScreen();
+    void testEntryIsDisabledWithoutTabs();
     void testServiceMayBeKeptLongerThanThePlugin();
 
 private:
@@ -99,6 +100,8 @@ void WelcomePluginTest::testTabThatWasNeverAddedIsNotShown()
 void WelcomePluginTest::testScreenStartsWhenEveryPluginIsInitialized()
 {
     const auto controller = findService<CNerixWelcomeController>(registry());
+    CTestTab tab;
+    controller->addTab(&tab);
     QVERIFY(!controller->isVisible());
     Q_EMIT m_registry->initializationDone();
     QVERIFY(controller->isVisible());
@@ -108,9 +111,26 @@ void WelcomePluginTest::testViewMenuBringsUpTheScreen()
 {
     using Plugin::AppCore::IMenuControlService;
     const auto menus = findService<IMenuControlService>(registry());
+    const auto controller = findService<CNerixWelcomeController>(registry());
+    CTestTab tab;
+    controller->addTab(&tab);
     QCOMPARE(menus->trigger(Core::CId("NerixWelcome.Action.Show")),
              IMenuControlService::TriggerResult::Triggered);
-    QVERIFY(findService<CNerixWelcomeController>(registry())->isVisible());
+    QVERIFY(controller->isVisible());
+}
+
+void WelcomePluginTest::testEntryIsDisabledWithoutTabs()
+{
+    using Plugin::AppCore::IMenuControlService;
+    const auto menus = findService<IMenuControlService>(registry());
+    const Core::CId entry("NerixWelcome.Action.Show");
+    QCOMPARE(menus->trigger(entry), IMenuControlService::TriggerResult::Disabled);
+    {
+        CTestTab tab;
+        findService<CNerixWelcomeController>(registry())->addTab(&tab);
+        QCOMPARE(menus->trigger(entry), IMenuControlService::TriggerResult::Triggered);
+    }
+    QCOMPARE(menus->trigger(entry), IMenuControlService::TriggerResult::Disabled);
 }
 
 void WelcomePluginTest::testServiceMayBeKeptLongerThanThePlugin()

@@ -3,14 +3,13 @@
 
 #include "plugins/cameraselector/CCameraCommands.h"
 
+#include "plugins/cameraselector/CameraStateLook.h"
 #include "plugins/cameraselector/IDeviceSelectionService.h"
 #include "windows/MenuEntry.h"
 
 #include <utility>
 
 #include <QAction>
-#include <QApplication>
-#include <QStyle>
 
 namespace CameraSelector {
 
@@ -45,7 +44,7 @@ void CCameraCommands::addEntries(Plugin::AppCore::IMenuService &menus)
         {"CameraSelector.Action.Open", "NerixViewer.Menu.Camera", "NerixViewer.Group.Camera.Device",
          QKeySequence(Qt::CTRL + Qt::Key_O)},
         [] { return tr("&Open Camera"); }, this);
-    m_open->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogOpenButton));
+    m_open->setIcon(stateIcon(ICameraControlService::Open));
     connect(m_open, &QAction::triggered, this, [this] { m_control->open(selected()); });
 
     m_close = Windows::addMenuEntry(
@@ -53,7 +52,7 @@ void CCameraCommands::addEntries(Plugin::AppCore::IMenuService &menus)
         {"CameraSelector.Action.Close", "NerixViewer.Menu.Camera",
          "NerixViewer.Group.Camera.Device", QKeySequence(Qt::CTRL + Qt::Key_W)},
         [] { return tr("&Close Camera"); }, this);
-    m_close->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogCloseButton));
+    m_close->setIcon(stateIcon(ICameraControlService::Free));
     connect(m_close, &QAction::triggered, this, [this] { m_control->close(selected()); });
     update();
 }

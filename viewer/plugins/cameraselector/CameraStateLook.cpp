@@ -39,6 +39,23 @@ bool isFull(ICameraControlService::CameraState state)
     return state == ICameraControlService::Open || state == ICameraControlService::Grabbing;
 }
 
+QPixmap drawn(ICameraControlService::CameraState state, const QColor &color)
+{
+    const qreal ratio = qGuiApp->devicePixelRatio();
+    QPixmap pixmap(QSize(iconSize, iconSize) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 2));
+    painter.setBrush(isFull(state) ? QBrush(color) : QBrush(Qt::NoBrush));
+    painter.drawEllipse(dot);
+    if (state == ICameraControlService::Gone) {
+        painter.drawLine(dot.bottomLeft(), dot.topRight());
+    }
+    return pixmap;
+}
+
 } // namespace
 
 QString stateText(ICameraControlService::CameraState state)
@@ -63,20 +80,10 @@ QString stateText(ICameraControlService::CameraState state)
 
 QIcon stateIcon(ICameraControlService::CameraState state)
 {
-    const qreal ratio = qGuiApp->devicePixelRatio();
-    QPixmap pixmap(QSize(iconSize, iconSize) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = colorOf(state);
-    painter.setPen(QPen(color, 2));
-    painter.setBrush(isFull(state) ? QBrush(color) : QBrush(Qt::NoBrush));
-    painter.drawEllipse(dot);
-    if (state == ICameraControlService::Gone) {
-        painter.drawLine(dot.bottomLeft(), dot.topRight());
-    }
-    return QIcon(pixmap);
+    QIcon icon(drawn(state, colorOf(state)));
+    // On a selected row every colour of ours could be that of the ground.
+    icon.addPixmap(drawn(state, Qt::white), QIcon::Selected);
+    return icon;
 }
 
 } // namespace CameraSelector

@@ -96,7 +96,7 @@ void CNerixWelcomeController::start()
     if (m_applyFromTabsIsNeeded) {
         setCurrentIndex(firstTabWithQuestion());
     }
-    setVisible(m_applyFromTabsIsNeeded || showAtStartup());
+    setVisible(m_applyFromTabsIsNeeded || (showAtStartup() && !m_tabs.isEmpty()));
 }
 
 void CNerixWelcomeController::show()

@@ -55,7 +55,7 @@ public:
     void setShowAtStartup(bool show);
 
     /// Shows the screen if the user wants it at each start or if a tab holds a question, then on
-    /// that tab.
+    /// that tab. Without tabs there is nothing to show.
     void start();
 
     Q_INVOKABLE void show();

@@ -65,6 +65,9 @@ void CNerixWelcomePlugin::addMenuEntry()
         {"NerixWelcome.Action.Show", "NerixViewer.Menu.View", "NerixViewer.Group.View.Screens"},
         [] { return tr("&Welcome Screen"); }, this);
     connect(m_showAction, &QAction::triggered, m_controller.data(), &CNerixWelcomeController::show);
+    const auto update = [this] { m_showAction->setEnabled(!m_controller->tabs().isEmpty()); };
+    connect(m_controller.data(), &CNerixWelcomeController::tabsChanged, m_showAction, update);
+    update();
 }
 
 void CNerixWelcomePlugin::addWindow()
