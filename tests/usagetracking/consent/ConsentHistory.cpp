@@ -3,6 +3,8 @@
 
 #include "ConsentHistory.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTimer>
 
@@ -28,6 +30,15 @@ QStringList renumbered(const QStringList &calls)
     return result;
 }
 
+/// Settings are written through to the disk at each of thousands of ends of the viewer, which takes
+/// most of the time: where there is a folder in memory, they are there.
+QString settingsTemplate()
+{
+    const QString inMemory = QStringLiteral("/dev/shm");
+    const bool isUsable = QFileInfo(inMemory).isDir() && QFileInfo(inMemory).isWritable();
+    return (isUsable ? inMemory : QDir::tempPath()) + QStringLiteral("/ConsentHistory-XXXXXX");
+}
+
 QString stateText(bool shown, bool applied, bool selected, bool applyEnabled, bool owes,
                   bool active)
 {
@@ -45,6 +56,7 @@ QString stateText(bool shown, bool applied, bool selected, bool applyEnabled, bo
 ConsentHistory::ConsentHistory(bool storedEnabled, bool storedSelected, const QString &letters)
     : m_letters(letters)
     , m_played(QStringLiteral("stored %1/%2: ").arg(storedEnabled).arg(storedSelected))
+    , m_settings(settingsTemplate())
 {
     m_model.storedEnabled = storedEnabled;
     m_model.storedSelected = storedSelected;
