@@ -34,6 +34,7 @@ private Q_SLOTS:
     void testEachOpenCameraHasAPaneWithItsName();
     void testPanesStandInAGrid_data();
     void testPanesStandInAGrid();
+    void testPanesAreOfOneWidth();
     void testWordsWithoutAnImage();
     void testWordsForAnImageThatCannotBeShown_data();
     void testWordsForAnImageThatCannotBeShown();
@@ -147,6 +148,19 @@ void ImageAreaTest::testPanesStandInAGrid()
     }
     QTEST(lefts.size(), "columns");
     QTEST(tops.size(), "rows");
+}
+
+// Whatever is written in them.
+void ImageAreaTest::testPanesAreOfOneWidth()
+{
+    m_area->resize(360, 240);
+    CImagePane *first =
+        open("A", "A camera with a name that is much longer than there is room for");
+    const CImagePane *second = open("B");
+    give(first, greyResult(std::vector<std::uint8_t>(1000)));
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(first->width(), second->width());
+    QCOMPARE(m_area->width(), 360);
 }
 
 void ImageAreaTest::testWordsWithoutAnImage()

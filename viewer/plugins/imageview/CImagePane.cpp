@@ -3,6 +3,7 @@
 
 #include "plugins/imageview/CImagePane.h"
 
+#include "plugins/imageview/CElidedLabel.h"
 #include "plugins/imageview/CImageView.h"
 #include "plugins/imageview/CLiveCamera.h"
 #include "plugins/imageview/COverlayLabel.h"
@@ -22,11 +23,10 @@ namespace {
 constexpr int frameWidth = 2;
 constexpr int smallGap = 6;
 
-QLabel *newLabel(QWidget *parent, const char *name)
+QLabel *newLabel(QWidget *parent, const char *name, Qt::TextElideMode mode)
 {
-    auto *label = new QLabel(parent);
+    auto *label = new CElidedLabel(mode, parent);
     label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
     return label;
 }
 
@@ -36,11 +36,11 @@ CImagePane::CImagePane(CLiveCamera &camera, QWidget *parent)
     : QWidget(parent)
     , m_camera(camera)
     , m_view(new CImageView(this))
-    , m_name(newLabel(this, "name"))
+    , m_name(newLabel(this, "name", Qt::ElideMiddle))
     , m_words(new COverlayLabel(COverlayLabel::Ground::None, m_view))
     , m_failure(new COverlayLabel(COverlayLabel::Ground::Dark, m_view))
-    , m_pixel(newLabel(this, "pixel"))
-    , m_format(newLabel(this, "format"))
+    , m_pixel(newLabel(this, "pixel", Qt::ElideRight))
+    , m_format(newLabel(this, "format", Qt::ElideLeft))
 {
     build();
     connect(&m_camera, &CLiveCamera::imageChanged, this, &CImagePane::showImage);
@@ -60,12 +60,7 @@ void CImagePane::build()
     footer->setContentsMargins(smallGap, 1, smallGap, 1);
     footer->addWidget(m_pixel, 1);
     footer->addWidget(m_format);
-    m_name->setMargin(smallGap / 2);
-    m_name->setIndent(smallGap / 2);
-    // A long text must not keep the window from becoming smaller.
-    for (QLabel *label : {m_name, m_pixel}) {
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
+    m_name->setMargin(smallGap);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(frameWidth, frameWidth, frameWidth, frameWidth);
