@@ -738,10 +738,6 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <source>Welcome to the Nerix Viewer</source>
         <translation>Nerix Viewer へようこそ</translation>
     </message>
-    <message>
-        <source>There is no page to show: pages come with plug-ins.</source>
-        <translation>表示するページがありません。ページはプラグインによって追加されます。</translation>
-    </message>
 </context>
 <context>
     <name>Plugin::UsageDataLog::CEventModel</name>

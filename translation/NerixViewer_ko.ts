@@ -738,10 +738,6 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <source>Welcome to the Nerix Viewer</source>
         <translation>Nerix Viewer 시작 화면</translation>
     </message>
-    <message>
-        <source>There is no page to show: pages come with plug-ins.</source>
-        <translation>표시할 페이지가 없습니다. 페이지는 플러그인이 추가합니다.</translation>
-    </message>
 </context>
 <context>
     <name>Plugin::UsageDataLog::CEventModel</name>

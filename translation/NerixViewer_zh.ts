@@ -738,10 +738,6 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <source>Welcome to the Nerix Viewer</source>
         <translation>欢迎使用 Nerix Viewer</translation>
     </message>
-    <message>
-        <source>There is no page to show: pages come with plug-ins.</source>
-        <translation>没有可显示的页面：页面由插件提供。</translation>
-    </message>
 </context>
 <context>
     <name>Plugin::UsageDataLog::CEventModel</name>

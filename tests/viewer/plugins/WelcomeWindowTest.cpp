@@ -38,7 +38,6 @@ private Q_SLOTS:
     void testWindowIsNotLargerThanTheScreen();
     void testPageScrollsToWhereTheKeyboardIs();
     void testPageThatCannotBeLoadedShowsWhy();
-    void testWindowWithoutTabsSaysSo();
     void testTabKeyWalksThroughThePageAndOut_data();
     void testTabKeyWalksThroughThePageAndOut();
     void testArrowKeysChangeTheTab();
@@ -167,7 +166,7 @@ void WelcomeWindowTest::testPageHasTheSizeOfTheWindow()
     m_screen->window->resize(around + QSize(700, 450));
     QCOMPARE(QSizeF(item->width(), item->height()), QSizeF(700, 450));
     // It scrolls rather than losing a part.
-    m_screen->window->resize(around + QSize(350, 200));
+    m_screen->window->resize(around + QSize(300, 200));
     QCOMPARE(QSizeF(item->width(), item->height()), QSizeF(400, 300));
 }
 
@@ -215,22 +214,6 @@ void WelcomeWindowTest::testPageThatCannotBeLoadedShowsWhy()
     const auto *error = m_screen->window->findChild<QLabel *>(QStringLiteral("error"));
     QVERIFY(error && error->isVisible());
     QVERIFY(error->text().startsWith("The page \"News\" cannot be shown: "));
-}
-
-void WelcomeWindowTest::testWindowWithoutTabsSaysSo()
-{
-    m_screen->makeWindow();
-    m_screen->controller.show();
-    const auto *words = m_screen->window->findChild<QLabel *>(QStringLiteral("noPage"));
-    QVERIFY(words->isVisible());
-    QCOMPARE(words->text(), QStringLiteral("There is no page to show: pages come with plug-ins."));
-    {
-        CPageTab news(WelcomeWindowFixture::emptyPage, "News");
-        m_screen->controller.addTab(&news);
-        QVERIFY(!words->isVisible());
-        QVERIFY(m_screen->page());
-    }
-    QVERIFY(words->isVisible());
 }
 
 void WelcomeWindowTest::testTabKeyWalksThroughThePageAndOut_data()

@@ -28,7 +28,6 @@ namespace {
 constexpr int noticeHeight = 29;
 
 constexpr int aboveTabs = 8;
-constexpr QSize leastPage(320, 160);
 
 // What the frame of a window takes of a small screen.
 constexpr QSize windowFrame(8, 36);
@@ -41,7 +40,6 @@ CWelcomeWindow::CWelcomeWindow(CNerixWelcomeController &controller, QWidget *par
     , m_pages(controller)
     , m_tabBar(new QTabBar(this))
     , m_views(new QStackedWidget(this))
-    , m_noPage(new QLabel(this))
     , m_notice(new QLabel(this))
 {
     setObjectName(QStringLiteral("welcomeWindow"));
@@ -74,7 +72,6 @@ void CWelcomeWindow::setTexts()
 {
     setWindowTitle(tr("Welcome to the Nerix Viewer"));
     m_tabBar->setAccessibleName(tr("Pages"));
-    m_noPage->setText(tr("There is no page to show: pages come with plug-ins."));
     if (!m_notice->text().isEmpty()) {
         sayWhyItStays();
     }
@@ -99,13 +96,6 @@ void CWelcomeWindow::layOut()
     m_tabBar->setDocumentMode(true);
     m_tabBar->setDrawBase(false);
     m_tabBar->setExpanding(false);
-    m_noPage->setObjectName(QStringLiteral("noPage"));
-    m_noPage->setAlignment(Qt::AlignCenter);
-    m_noPage->setWordWrap(true);
-    // Nothing to make a window of pages larger for.
-    m_noPage->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    m_views->setMinimumSize(leastPage);
-    m_views->addWidget(m_noPage);
     m_notice->setObjectName(QStringLiteral("notice"));
     m_notice->setMinimumHeight(noticeHeight);
     m_notice->setMargin(4);
@@ -159,9 +149,6 @@ void CWelcomeWindow::showCurrentPage()
         const QSignalBlocker blocker(m_tabBar);
         m_tabBar->setCurrentIndex(index);
     }
-    if (index < 0) {
-        m_views->setCurrentWidget(m_noPage);
-    }
     if (index < 0 || !m_controller.isVisible()) {
         return;
     }
@@ -200,9 +187,9 @@ void CWelcomeWindow::followQuestion()
 
 void CWelcomeWindow::bringUp()
 {
-    const bool hadPage = m_views->currentWidget() != m_noPage;
+    const bool isNew = m_views->count() == 0;
     showCurrentPage();
-    if (!hadPage) {
+    if (isNew) {
         fitToScreen();
     }
     setWindowModality(m_controller.applyFromTabsIsNeeded() ? Qt::ApplicationModal : Qt::NonModal);

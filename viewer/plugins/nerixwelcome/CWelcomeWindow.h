@@ -63,7 +63,6 @@ private:
     std::vector<Tab> m_tabs;
     QTabBar *m_tabBar;
     QStackedWidget *m_views;
-    QLabel *m_noPage; ///< in the place of a page while there is no tab
     QLabel *m_notice;
 };
 
