@@ -11,6 +11,17 @@
 
 namespace Scripting {
 
+namespace {
+
+// Of a picture in the format that \a file names, as Qt counts it: PNG loses nothing, so it gets all
+// the compression that there is.
+int quality(const QString &file)
+{
+    return file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive) ? 0 : -1;
+}
+
+} // namespace
+
 QStringList CScriptWindows::titles()
 {
     QStringList titles;
@@ -34,7 +45,7 @@ void CScriptWindows::resize(const QString &title, int width, int height)
 void CScriptWindows::save(const QString &title, const QString &file)
 {
     QWidget *window = find(title);
-    if (window && !window->grab().save(file)) {
+    if (window && !window->grab().save(file, nullptr, quality(file))) {
         fail(QStringLiteral("%1 cannot be written: name a file that can, with the suffix .png")
                  .arg(file));
     }
