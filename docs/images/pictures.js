@@ -13,7 +13,7 @@ welcome.close();
 var camera = cameras.waitFor(1, 30000)[0];
 cameras.select(camera);
 cameras.open(camera);
-windows.resize("Nerix Viewer", 1080, 660);
+windows.resize("Nerix Viewer", 1040, 640);
 sleep(1000);
 features.select(camera, "ExposureTime");
 features.set(camera, "ExposureTime", "8000");

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void testRefreshTellsOfChangesOnly();
     void testCurrentRowIsTheSelectedDevice();
     void testSelectionByOthersMovesTheCurrentRow();
+    void testSelectedCameraIsCurrentOnceItIsInTheList();
     void testEnterOpensAndCloses();
     void testDoubleClickOpens();
     void testEntriesAreEnabledAsTheStateAllows_data();
@@ -163,6 +164,17 @@ void CameraPanelTest::testSelectionByOthersMovesTheCurrentRow()
     QCOMPARE(view->currentIndex().row(), 1);
     m_selection->select({});
     QCOMPARE(view->currentIndex().row(), -1);
+}
+
+void CameraPanelTest::testSelectedCameraIsCurrentOnceItIsInTheList()
+{
+    m_control->plugIn("Ostrand-XQZ-2000-1");
+    const auto second = m_control->plugIn("Ostrand-XQZ-2000-2");
+    m_selection->select(second);
+    m_model->refresh();
+    QCOMPARE(m_panel->findChild<QTreeView *>()->currentIndex().row(), 1);
+    QCOMPARE(m_selection->selected().data(),
+             static_cast<Core::CameraPoolComponents::IDeviceBaseInfo *>(second.data()));
 }
 
 void CameraPanelTest::testEnterOpensAndCloses()

@@ -79,6 +79,7 @@ void CCameraPanel::followSelection()
             &CCameraPanel::select);
     connect(m_selection.data(), &IDeviceSelectorService::selectionChanged, this,
             &CCameraPanel::showSelected);
+    connect(&m_model, &QAbstractItemModel::rowsInserted, this, &CCameraPanel::showSelected);
     showSelected();
 }
 
