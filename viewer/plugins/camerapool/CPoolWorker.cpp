@@ -14,8 +14,9 @@
 namespace CameraPool {
 namespace {
 
-// How long an opening waits for the end of the camera's last connection, besides a search or two.
-constexpr std::chrono::milliseconds ReleasePatience(1000);
+// How long an opening waits for the end of the camera's last connection. Less than the pause
+// between two searches, so that none of them prolongs it.
+constexpr std::chrono::milliseconds ReleasePatience(400);
 
 } // namespace
 
