@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: MIT
 #
 # Builds what a user runs and shows it at work: the viewer with a simulated camera, and the usage
-# events that it stores. Works on a bare Debian 12, as root or with sudo; run again, it is quick and
-# needs no network.
+# events that it stores. Without a display a script plays the user. Works on a bare Debian 12, as
+# root or with sudo; run again, it is quick and needs no network.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -27,4 +27,7 @@ tools/install-deps.sh
 step "Building (build/release) ..." bash -ec '
     cmake --preset release
     cmake --build --preset release --target nerix-viewer nerix-camera-simulator rui-events UsageTracking'
+if [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
+    exec viewer/demo/run-viewer.sh build/release build/viewer
+fi
 exec viewer/demo/run-demo.sh build/release build/demo

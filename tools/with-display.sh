@@ -15,7 +15,7 @@ fi
 folder=$(mktemp -d)
 number=$folder/number
 mkfifo "$number"
-Xvfb -displayfd 3 -screen 0 2560x1600x24 -dpi 96 -nolisten tcp 3>"$number" 2>"$folder/log" &
+Xvfb -displayfd 3 -screen 0 2560x1600x24 -dpi 96 -noreset -nolisten tcp 3>"$number" 2>"$folder/log" &
 server=$!
 trap 'kill "$server" 2>/dev/null || true; wait "$server" 2>/dev/null || true; rm -rf "$folder"' EXIT
 
