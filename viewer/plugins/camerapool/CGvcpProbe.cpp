@@ -17,7 +17,7 @@
 namespace CameraPool {
 namespace {
 
-// As long as a whole GigE Vision discovery takes: the specification gives a camera one second.
+// As long as a whole GigE Vision discovery takes: the standard gives a camera one second.
 constexpr int AnswerTimeoutMs = 1000;
 constexpr int LargestAnswer = 1024;
 
