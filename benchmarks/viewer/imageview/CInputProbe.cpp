@@ -16,6 +16,9 @@ using Clock = std::chrono::steady_clock;
 // Somewhat faster than a mouse that is moved, and not in step with the images.
 constexpr std::chrono::milliseconds interval(7);
 
+// Of a run of a quarter of an hour.
+constexpr int mostEvents = 130000;
+
 struct Timed
 {
     Clock::time_point posted = Clock::now();
@@ -45,6 +48,8 @@ CInputProbe::CInputProbe(QWidget &widget)
     , m_size(widget.size())
     , m_thread([this] { post(); })
 {
+    m_latencies.fill(0.0, mostEvents); // so that it is no memory that comes later
+    m_latencies.resize(0);
     widget.installEventFilter(this);
 }
 

@@ -42,6 +42,11 @@ void print(const char *title, const CLiveViewRun::Result &result)
     const QVector<double> settled = result.memory.mid(result.memory.size() / 5);
     std::printf("  memory: %.1f MiB at first, %.1f MiB at last, rise %.3f MiB/min\n",
                 settled.value(0), settled.value(settled.size() - 1), risePerMinute(settled));
+    std::printf("  in tenths of the run, MiB:");
+    for (int tenth = 1; tenth <= 10 && !result.memory.isEmpty(); ++tenth) {
+        std::printf(" %.1f", result.memory.at((result.memory.size() - 1) * tenth / 10));
+    }
+    std::printf("\n");
     std::fflush(stdout);
 }
 
