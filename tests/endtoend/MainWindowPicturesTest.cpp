@@ -7,6 +7,7 @@
 
 #include "CSimulatorProcess.h"
 #include "CViewerProcess.h"
+#include "PictureDifference.h"
 
 #include <QDir>
 #include <QImage>
@@ -29,12 +30,6 @@ const char folder[] = NERIX_SOURCE_DIR "/tests/endtoend/pictures";
 
 constexpr QSize size(1280, 800); // of the window, in device-independent pixels
 
-// A value of a colour differs visibly from here on.
-constexpr int visible = 40;
-
-// The part of the pixels that may: what another version of a font changes at the edges of letters.
-constexpr double tolerance = 0.004;
-
 // The image of the camera with its scale below, and the figures of the status bar.
 constexpr QRect moving[] = {{286, 80, 570, 580}, {880, 776, 400, 24}};
 
@@ -47,27 +42,6 @@ QImage withoutWhatMoves(const QImage &picture)
         painter.fillRect(area, Qt::black);
     }
     return kept;
-}
-
-bool differsVisibly(QRgb one, QRgb other)
-{
-    return qAbs(qRed(one) - qRed(other)) > visible || qAbs(qGreen(one) - qGreen(other)) > visible
-           || qAbs(qBlue(one) - qBlue(other)) > visible;
-}
-
-// The part of the pixels that differ visibly; all, if the sizes do.
-double difference(const QImage &one, const QImage &other)
-{
-    if (one.size() != other.size()) {
-        return 1;
-    }
-    int count = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            count += differsVisibly(one.pixel(x, y), other.pixel(x, y)) ? 1 : 0;
-        }
-    }
-    return double(count) / (one.width() * one.height());
 }
 
 QString fileOf(const QString &name)
@@ -148,8 +122,8 @@ void MainWindowPicturesTest::testWindowLooksAsBefore()
         const auto few = Qt::AvoidDither | Qt::ThresholdDither; // colours, for a small file
         QVERIFY(kept.convertToFormat(QImage::Format_Indexed8, few).save(fileOf(name)));
     }
-    const double found = difference(kept, QImage(fileOf(name)));
-    if (found > tolerance) {
+    const double found = pictureDifference(kept, QImage(fileOf(name)));
+    if (found > pictureTolerance) {
         const QString file = QDir::temp().filePath(name + ".png");
         kept.save(file);
         QFAIL(qPrintable(QString("%1 % of the picture differ, see %2").arg(found * 100).arg(file)));
@@ -165,9 +139,9 @@ void MainWindowPicturesTest::testLookTellsThePicturesApart()
         for (const QString &other : files) {
             const bool same = one == other || (one + other).contains("200");
             QVERIFY2(same
-                         || difference(QImage(QDir(folder).filePath(one)),
-                                       QImage(QDir(folder).filePath(other)))
-                                > tolerance,
+                         || pictureDifference(QImage(QDir(folder).filePath(one)),
+                                              QImage(QDir(folder).filePath(other)))
+                                > pictureTolerance,
                      qPrintable(one + ' ' + other));
         }
     }

@@ -7,6 +7,7 @@
 
 #include "PagePictures.h"
 
+#include "PictureDifference.h"
 #include "TestMain.h"
 
 #include <QDir>
@@ -14,33 +15,6 @@
 namespace {
 
 const QString folder = QStringLiteral(NERIX_PAGE_PICTURES);
-
-// A value of a colour differs visibly from here on.
-constexpr int visible = 40;
-
-// The part of the pixels that may: what another version of a font changes at the edges of letters.
-constexpr double tolerance = 0.004;
-
-bool differsVisibly(QRgb one, QRgb other)
-{
-    return qAbs(qRed(one) - qRed(other)) > visible || qAbs(qGreen(one) - qGreen(other)) > visible
-           || qAbs(qBlue(one) - qBlue(other)) > visible;
-}
-
-/// The part of the pixels that differ visibly; all, if the sizes do.
-double difference(const QImage &one, const QImage &other)
-{
-    if (one.size() != other.size()) {
-        return 1;
-    }
-    int count = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            count += differsVisibly(one.pixel(x, y), other.pixel(x, y)) ? 1 : 0;
-        }
-    }
-    return double(count) / (one.width() * one.height());
-}
 
 QImage keptPicture(const QString &name)
 {
@@ -68,8 +42,8 @@ private Q_SLOTS:
         QFETCH(int, index);
         const PageView view = pageViews().at(index);
         const QImage picture = keptSize(pictureOf(view));
-        const double found = difference(picture, keptPicture(view.name));
-        if (found > tolerance) {
+        const double found = pictureDifference(picture, keptPicture(view.name));
+        if (found > pictureTolerance) {
             const QString file = QDir::temp().filePath(view.name + QStringLiteral(".png"));
             picture.save(file);
             QFAIL(qPrintable(
@@ -77,17 +51,18 @@ private Q_SLOTS:
         }
     }
 
-    // Each picture tells its state and its language from the others, so the tolerance is not too
-    // wide; only two states look the same by design apart from their buttons.
+    // Each picture tells its state and its language from the others, so the pictureTolerance is not
+    // too wide; only two states look the same by design apart from their buttons.
     void noPictureCouldPassForAnother()
     {
         const QList<PageView> views = pageViews();
         for (int i = 0; i < views.size(); ++i) {
             for (int j = 0; j < i; ++j) {
                 const double found =
-                    difference(keptPicture(views.at(i).name), keptPicture(views.at(j).name));
-                QVERIFY2(found > tolerance, qPrintable(views.at(i).name + " / " + views.at(j).name
-                                                       + ": " + QString::number(found)));
+                    pictureDifference(keptPicture(views.at(i).name), keptPicture(views.at(j).name));
+                QVERIFY2(found > pictureTolerance,
+                         qPrintable(views.at(i).name + " / " + views.at(j).name + ": "
+                                    + QString::number(found)));
             }
         }
     }

@@ -3,10 +3,10 @@
 
 #include "plugins/cameraselector/CameraStateLook.h"
 
+#include "windows/DrawnIcon.h"
+
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QPainter>
-#include <QPixmap>
 
 namespace CameraSelector {
 
@@ -14,7 +14,6 @@ namespace {
 
 using CameraPool::ICameraControlService;
 
-constexpr int iconSize = 16; // in device-independent pixels
 constexpr QRectF dot(3.5, 3.5, 9, 9);
 
 // Readable on light and on dark ground.
@@ -37,23 +36,6 @@ QColor colorOf(ICameraControlService::CameraState state)
 bool isFull(ICameraControlService::CameraState state)
 {
     return state == ICameraControlService::Open || state == ICameraControlService::Grabbing;
-}
-
-QPixmap drawn(ICameraControlService::CameraState state, const QColor &color)
-{
-    const qreal ratio = qGuiApp->devicePixelRatio();
-    QPixmap pixmap(QSize(iconSize, iconSize) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 2));
-    painter.setBrush(isFull(state) ? QBrush(color) : QBrush(Qt::NoBrush));
-    painter.drawEllipse(dot);
-    if (state == ICameraControlService::Gone) {
-        painter.drawLine(dot.bottomLeft(), dot.topRight());
-    }
-    return pixmap;
 }
 
 } // namespace
@@ -80,10 +62,17 @@ QString stateText(ICameraControlService::CameraState state)
 
 QIcon stateIcon(ICameraControlService::CameraState state)
 {
-    QIcon icon(drawn(state, colorOf(state)));
-    // On a selected row every colour of ours could be that of the ground.
-    icon.addPixmap(drawn(state, Qt::white), QIcon::Selected);
-    return icon;
+    return Windows::drawnIcon([state] { return colorOf(state); },
+                              [state](QPainter &painter) {
+                                  painter.setPen(QPen(painter.brush(), 2));
+                                  if (!isFull(state)) {
+                                      painter.setBrush(Qt::NoBrush);
+                                  }
+                                  painter.drawEllipse(dot);
+                                  if (state == ICameraControlService::Gone) {
+                                      painter.drawLine(dot.bottomLeft(), dot.topRight());
+                                  }
+                              });
 }
 
 } // namespace CameraSelector

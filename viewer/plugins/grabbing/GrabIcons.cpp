@@ -3,32 +3,23 @@
 
 #include "plugins/grabbing/GrabIcons.h"
 
-#include <QGuiApplication>
+#include "windows/DrawnIcon.h"
+
 #include <QPainter>
-#include <QPixmap>
 #include <QPolygonF>
 
 namespace Grabbing {
 
 namespace {
 
-constexpr int iconSize = 16; // in device-independent pixels
-const QColor startColor(0x2f, 0x7f, 0xc4);
-const QColor stopColor(0xc9, 0x4f, 0x3d);
-
-template <class Draw>
-QIcon drawn(const QColor &color, Draw draw)
+QColor startColor()
 {
-    const qreal ratio = qGuiApp->devicePixelRatio();
-    QPixmap pixmap(QSize(iconSize, iconSize) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    draw(painter);
-    return QIcon(pixmap);
+    return QColor(0x2f, 0x7f, 0xc4);
+}
+
+QColor stopColor()
+{
+    return QColor(0xc9, 0x4f, 0x3d);
 }
 
 QPolygonF triangle(qreal left, qreal right)
@@ -40,7 +31,8 @@ QPolygonF triangle(qreal left, qreal right)
 
 QIcon grabSingleIcon()
 {
-    return drawn(startColor, [](QPainter &painter) {
+    return Windows::drawnIcon(startColor, [](QPainter &painter) {
+        painter.setPen(Qt::NoPen);
         painter.drawPolygon(triangle(2.5, 10.5));
         painter.drawRect(QRectF(11, 2.5, 2.5, 11));
     });
@@ -48,12 +40,18 @@ QIcon grabSingleIcon()
 
 QIcon grabContinuousIcon()
 {
-    return drawn(startColor, [](QPainter &painter) { painter.drawPolygon(triangle(3.5, 13.5)); });
+    return Windows::drawnIcon(startColor, [](QPainter &painter) {
+        painter.setPen(Qt::NoPen);
+        painter.drawPolygon(triangle(3.5, 13.5));
+    });
 }
 
 QIcon stopIcon()
 {
-    return drawn(stopColor, [](QPainter &painter) { painter.drawRect(QRectF(3, 3, 10, 10)); });
+    return Windows::drawnIcon(stopColor, [](QPainter &painter) {
+        painter.setPen(Qt::NoPen);
+        painter.drawRect(QRectF(3, 3, 10, 10));
+    });
 }
 
 } // namespace Grabbing

@@ -13,6 +13,7 @@
 #include <Plugin/AppCore/IMenuService.h>
 
 #include <QAction>
+#include <QTimer>
 
 namespace Plugin {
 namespace NerixWelcome {
@@ -73,9 +74,15 @@ void CNerixWelcomePlugin::addMenuEntry()
 void CNerixWelcomePlugin::addWindow()
 {
     const auto windows = Core::Plugin::findService<NerixViewer::IMainWindowService>(m_initializer);
-    if (windows) {
-        m_window = new CWelcomeWindow(*m_controller, windows->window());
+    if (!windows) {
+        return;
     }
+    const auto make = [this, windows] {
+        m_window = new CWelcomeWindow(*m_controller, windows->window());
+    };
+    // The main window need not wait for a page to be loaded.
+    connect(m_initializer, &Core::Plugin::IPluginInitializer::initializationDone, this,
+            [this, make] { QTimer::singleShot(0, this, make); });
 }
 
 } // namespace NerixWelcome
