@@ -13,7 +13,10 @@
 #include <Plugin/AppCore/IActionContainer.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QImage>
+#include <QMenu>
+#include <QPushButton>
 #include <QTest>
 #include <QUrl>
 #include <QWidget>
@@ -45,6 +48,8 @@ private Q_SLOTS:
     void testWindowIsResizedAndItsPictureSaved();
     void testWindowThatIsNotShownIsAnError();
     void testPictureThatCannotBeWrittenIsAnError();
+    void testFocusIsWhatAScreenReaderSays();
+    void testFocusIsTheCurrentEntryOfAMenu();
 
 private:
     QScopedPointer<CSettingsSandbox> m_sandbox;
@@ -273,6 +278,30 @@ void ScriptScreensTest::testPictureThatCannotBeWrittenIsAnError()
     QCOMPARE(run.run("windows.save('Main', '/no/such/folder/main.png');"),
              QString("test.js:1: /no/such/folder/main.png cannot be written: name a file that "
                      "can, with the suffix .png"));
+}
+
+void ScriptScreensTest::testFocusIsWhatAScreenReaderSays()
+{
+    CScriptRun run;
+    QCOMPARE(run.run("print('[' + windows.focus() + ']');"), QString());
+    QPushButton button("&Press");
+    button.show();
+    QApplication::setActiveWindow(&button);
+    button.setFocus();
+    QCOMPARE(run.run("print('[' + windows.focus() + ']');"), QString());
+    QCOMPARE(run.printed(), texts({"[]", "[Press]"}));
+}
+
+void ScriptScreensTest::testFocusIsTheCurrentEntryOfAMenu()
+{
+    QMenu menu;
+    menu.addAction("&First");
+    menu.addAction("&Second");
+    menu.popup({});
+    menu.setActiveAction(menu.actions().at(1));
+    CScriptRun run;
+    QCOMPARE(run.run("print(windows.focus());"), QString());
+    QCOMPARE(run.printed(), texts({"Second"}));
 }
 
 QTEST_MAIN(ScriptScreensTest)
