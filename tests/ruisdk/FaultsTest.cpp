@@ -1,98 +1,78 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// A device that fails. Errors are put into the system calls on the database, one call at a time;
-// RUI_FAULTS=all does every call instead of a selection.
-#include "Child.h"
+// A device that fails. Errors are put into the system calls of a session on its files, one call of
+// each thread at a time; RUI_FAULTS=all does every call instead of a selection.
 #include "Session.h"
 #include "StoredRecords.h"
 #include "TemporaryDirectory.h"
+#include "Tracing.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <set>
-#include <sstream>
 
 namespace {
 
 using namespace rui::test;
 
-struct Fault
-{
-    const char *call;
-    const char *error;
-    // SQLite tries a failed lock again for seconds: fewer of them by default.
-    int runs = 12;
+const std::vector<std::string> writer = {"w", "5"};
+
+const std::set<std::string> none = {};
+const std::set<std::string> storage = {"5"};
+const std::set<std::string> full = {"6"};
+// SQLite takes a quota that is used up for a failing device, and a file that cannot be created for
+// one that may only be read; not all of that can be told apart afterwards.
+const std::set<std::string> fullOrStorage = {"5", "6"};
+// SQLite takes a lock that cannot be had for one that somebody else holds.
+const std::set<std::string> storageOrBusy = {"5", "9"};
+
+const std::vector<Fault> faults = {
+    {"pwrite64", "EIO", "error=EIO", storage},
+    {"pwrite64", "EROFS", "error=EROFS", storage},
+    {"pwrite64", "ENOSPC", "error=ENOSPC", full},
+    {"pwrite64", "EDQUOT", "error=EDQUOT", fullOrStorage},
+    {"pwrite64", "EINTR", "error=EINTR", none},
+    {"pwrite64", "WritesNothing", "retval=0", fullOrStorage},
+    {"pread64", "EIO", "error=EIO", storage},
+    {"pread64", "EINTR", "error=EINTR", none},
+    {"pread64", "ReadsNothing", "retval=0", storage},
+    {"fdatasync", "EIO", "error=EIO", storage},
+    {"ftruncate", "EIO", "error=EIO", storage},
+    {"ftruncate", "ENOSPC", "error=ENOSPC", full},
+    {"openat", "EIO", "error=EIO", storage},
+    {"openat", "EMFILE", "error=EMFILE", storage},
+    {"openat", "EACCES", "error=EACCES", storage},
+    {"openat", "EROFS", "error=EROFS", storage},
+    {"openat", "ENOSPC", "error=ENOSPC", fullOrStorage},
+    {"close", "EIO", "error=EIO", none},
+    {"fcntl", "EIO", "error=EIO", storageOrBusy, 3},
+    {"fcntl", "ENOLCK", "error=ENOLCK", storageOrBusy, 3},
+    {"flock", "EIO", "error=EIO", storage},
+    {"flock", "ENOLCK", "error=ENOLCK", storage},
+    {"flock", "EINTR", "error=EINTR", none},
+    {"newfstatat", "EIO", "error=EIO", storage},
+    {"newfstatat", "EACCES", "error=EACCES", storage},
+    {"unlink", "EIO", "error=EIO", none},
+    {"fchown", "EPERM", "error=EPERM", none},
+    {"mmap", "ENOMEM", "error=ENOMEM", storage},
+    {"mkdir", "EACCES", "error=EACCES", storage},
+    {"mkdir", "ENOSPC", "error=ENOSPC", full},
 };
-
-// Calls without a fault put in: more than a session makes.
-constexpr int lastCall = 400;
-
-bool wantsAll()
-{
-    const char *wanted = std::getenv("RUI_FAULTS");
-    return wanted != nullptr && std::string(wanted) == "all";
-}
-
-int nextCall(int call)
-{
-    return wantsAll() ? call + 1 : call + std::max(1, call / 2);
-}
-
-bool canTrace()
-{
-    return runProgram({"strace", "-o", "/dev/null", "true"}).status == 0;
-}
 
 class Faults : public testing::TestWithParam<Fault>
 {
 protected:
-    struct Run
+    void SetUp() override
     {
-        Outcome outcome;
-        bool injected = false;
-        std::vector<std::string> acknowledged;
-        std::set<std::string> results;
-    };
-
-    Run runWriter(const TemporaryDirectory &directory, int call)
-    {
-        const std::string data = directory.path("data");
-        const std::string fault = std::string("inject=") + GetParam().call
-                                  + ":error=" + GetParam().error + ":when=" + std::to_string(call);
-        Run run;
-        run.outcome =
-            runProgram({"strace", "-f", "-qq", "-o", directory.path("log"), "-e", fault, "-P", data,
-                        "-P", databasePath(data), "-P", databasePath(data) + "-wal", "-P",
-                        databasePath(data) + "-shm", RUI_WRITER_PROGRAM, data, "w", "5"},
-                       {{"ASAN_OPTIONS", "detect_leaks=0"}});
-        run.injected = readFile(directory.path("log")).find("INJECTED") != std::string::npos;
-        readReport(run);
-        return run;
-    }
-
-    static void readReport(Run &run)
-    {
-        std::istringstream lines(run.outcome.output);
-        for (std::string line; std::getline(lines, line);) {
-            const std::size_t failed = line.find(" failed ");
-            if (failed == std::string::npos) {
-                run.acknowledged.push_back(line);
-            } else {
-                run.results.insert(line.substr(failed + 8));
-            }
-        }
-        if (run.outcome.status != 0) {
-            run.results.insert(std::to_string(run.outcome.status));
+        if (!canTrace()) {
+            GTEST_SKIP() << "strace may not trace here";
         }
     }
 
     // The device works again.
-    static void expectUnharmed(const TemporaryDirectory &directory, const Run &run)
+    static void expectUnharmed(const std::string &data, const WriterRun &run)
     {
-        const std::string data = directory.path("data");
         Session session;
         ASSERT_EQ(session.open(data), 0);
         EXPECT_EQ(session.track("afterwards"), 0);
@@ -107,64 +87,40 @@ protected:
 
 TEST_P(Faults, LoseNothingThatWasAcknowledgedAndGiveTheRightCode)
 {
-    if (!canTrace()) {
-        GTEST_SKIP() << "strace may not trace here";
-    }
-    const std::set<std::string> allowed = std::string(GetParam().error) == "ENOSPC"
-                                              ? std::set<std::string>{"5", "6"}
-                                              : std::set<std::string>{"5", "9"};
     int runs = 0;
-    for (int call = 1; call < lastCall; call = nextCall(call), ++runs) {
-        if (runs == GetParam().runs && !wantsAll()) {
-            break;
-        }
+    for (int call = 1; runs < GetParam().runs || wantsAllFaults(); call = nextFaultyCall(call)) {
         const TemporaryDirectory directory;
-        const Run run = runWriter(directory, call);
+        const std::string data = directory.path("data");
+        const WriterRun run = runWithFault(directory.path("log"), GetParam(), call, data, writer);
         if (!run.injected) {
             break;
         }
         for (const std::string &result : run.results) {
-            EXPECT_EQ(allowed.count(result), 1U) << "result " << result << " at call " << call;
+            EXPECT_EQ(GetParam().results.count(result), 1U)
+                << "result " << result << " at call " << call;
         }
-        ASSERT_NO_FATAL_FAILURE(expectUnharmed(directory, run)) << "at call " << call;
+        ASSERT_NO_FATAL_FAILURE(expectUnharmed(data, run)) << "at call " << call;
+        ++runs;
     }
     EXPECT_GT(runs, 0);
     std::printf("%d runs\n", runs);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Calls, Faults,
-    testing::Values(Fault{"pwrite64", "EIO"}, Fault{"pwrite64", "ENOSPC"}, Fault{"pread64", "EIO"},
-                    Fault{"fdatasync", "EIO"}, Fault{"ftruncate", "EIO"},
-                    Fault{"ftruncate", "ENOSPC"}, Fault{"openat", "EIO"}, Fault{"openat", "EMFILE"},
-                    Fault{"openat", "EACCES"}, Fault{"openat", "EROFS"}, Fault{"fcntl", "EIO", 3},
-                    Fault{"fcntl", "ENOLCK", 3}, Fault{"newfstatat", "EIO"}, Fault{"unlink", "EIO"},
-                    Fault{"mmap", "ENOMEM"}, Fault{"mkdir", "EACCES"}),
-    [](const auto &row) { return std::string(row.param.call) + "_" + row.param.error; });
+INSTANTIATE_TEST_SUITE_P(Calls, Faults, testing::ValuesIn(faults), [](const auto &row) {
+    return std::string(row.param.call) + "_" + row.param.word;
+});
 
-// A file system of 300 KiB in a name space of its own.
-TEST(DiskFull, IsItsOwnCodeAndKeepsWhatWasAcknowledged)
+TEST(Fault, IsPutIntoEveryCallThatASessionMakesOnItsFiles)
 {
-    const TemporaryDirectory directory;
-    const std::string script = "mount -t tmpfs -o size=300k none '" + directory.path() + "' && '"
-                               + RUI_WRITER_PROGRAM + "' '" + directory.path() + "/data' w 2000 > '"
-                               + directory.path() + ".out'; tail -n 1 '" + directory.path()
-                               + ".out'; grep -vc failed '" + directory.path() + ".out'; '"
-                               + RUI_EVENTS_PROGRAM + "' --raw '" + directory.path()
-                               + "/data' | wc -l; rm '" + directory.path() + ".out'";
-    const Outcome outcome = runProgram({"unshare", "-Urm", "sh", "-c", script});
-    if (outcome.status != 0 || outcome.output.empty()) {
-        GTEST_SKIP() << "no name space of its own here: " << outcome.errors;
+    if (!canTrace()) {
+        GTEST_SKIP() << "strace may not trace here";
     }
-    std::istringstream lines(outcome.output);
-    std::string last;
-    int acknowledged = 0;
-    int stored = 0;
-    std::getline(lines, last);
-    lines >> acknowledged >> stored;
-    EXPECT_EQ(last, "w 2000 failed 6");
-    EXPECT_GT(acknowledged, 10);
-    EXPECT_EQ(stored, acknowledged);
+    std::set<std::string> tried;
+    for (const Fault &fault : faults) {
+        tried.insert(fault.call);
+    }
+    const TemporaryDirectory directory;
+    EXPECT_EQ(callsOnFiles(directory.path("log"), directory.path("data"), writer), tried);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "core/Failure.h"
 #include "core/HandleTable.h"
 #include "core/Instance.h"
+#include "store/SystemError.h"
 
 #include <ruiSDK.h>
 
@@ -26,8 +27,8 @@ int32_t withInstance(ruiInstance handle, Call call) noexcept
         return RUI_OK;
     } catch (const Failure &failure) {
         return failure.result();
-    } catch (const std::filesystem::filesystem_error &) {
-        return RUI_STORAGE;
+    } catch (const std::filesystem::filesystem_error &error) {
+        return isFull(error.code().value()) ? RUI_FULL : RUI_STORAGE;
     } catch (...) {
         return RUI_INTERNAL;
     }

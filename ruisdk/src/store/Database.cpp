@@ -46,7 +46,7 @@ Database::Database(const std::string &path, Access access, std::shared_ptr<BusyL
                                      mode | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
     m_connection.reset(connection);
     if (code != SQLITE_OK) {
-        throw SqliteError(code, path);
+        throw SqliteError(code, path, sqlite3_system_errno(connection));
     }
     waitForLocks();
     struct stat status = {};
@@ -54,7 +54,7 @@ Database::Database(const std::string &path, Access access, std::shared_ptr<BusyL
         m_device = status.st_dev;
         m_inode = status.st_ino;
     } else if (path != ":memory:") {
-        throw SqliteError(SQLITE_CANTOPEN, path);
+        throw SqliteError(SQLITE_CANTOPEN, path, errno);
     }
 }
 
@@ -67,8 +67,7 @@ void Database::execute(const std::string &sql)
 {
     const int code = sqlite3_exec(m_connection.get(), sql.c_str(), nullptr, nullptr, nullptr);
     if (code != SQLITE_OK) {
-        throw SqliteError(sqlite3_extended_errcode(m_connection.get()),
-                          sqlite3_errmsg(m_connection.get()));
+        throw SqliteError(m_connection.get(), sqlite3_errmsg(m_connection.get()));
     }
 }
 

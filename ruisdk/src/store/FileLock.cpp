@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "store/FileLock.h"
 
-#include "core/Failure.h"
+#include "store/SystemError.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 #include <thread>
 
 namespace rui {
@@ -19,7 +18,7 @@ FileLock::FileLock(const std::string &path)
     , m_descriptor(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
 {
     if (m_descriptor < 0) {
-        throw Failure(RUI_STORAGE, path + ": " + std::strerror(errno));
+        throw SystemError(path, errno);
     }
 }
 
@@ -35,7 +34,7 @@ bool FileLock::tryLock()
             return false;
         }
         if (errno != EINTR) {
-            throw Failure(RUI_STORAGE, m_path + ": " + std::strerror(errno));
+            throw SystemError(m_path, errno);
         }
     }
     return true;

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "store/PrivateFiles.h"
 
-#include "core/Failure.h"
+#include "store/SystemError.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 
 namespace rui {
@@ -18,11 +17,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void fail(const std::string &path, int error)
-{
-    throw Failure(RUI_STORAGE, path + ": " + std::strerror(error));
-}
-
 // Made one by one: the mode of std::filesystem::create_directories depends on the umask.
 void makeDirectories(const fs::path &path)
 {
@@ -30,7 +24,7 @@ void makeDirectories(const fs::path &path)
         makeDirectories(path.parent_path());
     }
     if (mkdir(path.c_str(), 0700) != 0 && errno != EEXIST) {
-        fail(path.string(), errno);
+        throw SystemError(path.string(), errno);
     }
 }
 
@@ -52,7 +46,7 @@ void makePrivateDirectory(const std::string &path)
         chmod(path.c_str(), 0700);
     }
     if (!fs::is_directory(path, error)) {
-        fail(path, error ? error.value() : ENOTDIR);
+        throw SystemError(path, error ? error.value() : ENOTDIR);
     }
 }
 
@@ -64,7 +58,7 @@ void makePrivateFile(const std::string &path)
     if (descriptor >= 0) {
         close(descriptor);
     } else if (errno != EEXIST) {
-        fail(path, errno);
+        throw SystemError(path, errno);
     } else if (isOursAndOpen(path)) {
         chmod(path.c_str(), 0600);
     }

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "store/Readability.h"
 
-#include "core/Failure.h"
 #include "store/Database.h"
+#include "store/SystemError.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 #include <vector>
 
 namespace rui {
@@ -50,7 +49,7 @@ void readJournal(const std::string &path)
     const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0) {
         if (errno != ENOENT) {
-            fail(path, std::strerror(errno));
+            throw SystemError(path, errno);
         }
         return;
     }
@@ -62,7 +61,7 @@ void readJournal(const std::string &path)
     const int error = errno;
     close(descriptor);
     if (got < 0) {
-        fail(path, std::strerror(error));
+        throw SystemError(path, error);
     }
 }
 

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "store/SetAside.h"
 
-#include "core/Failure.h"
+#include "store/SystemError.h"
 
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <ctime>
 #include <filesystem>
 
@@ -42,7 +41,7 @@ void setAside(const StorePaths &paths)
     const std::string database = paths.database();
     const std::string name = freeName(database);
     if (std::rename(database.c_str(), name.c_str()) != 0) {
-        throw Failure(RUI_STORAGE, database + ": " + std::strerror(errno));
+        throw SystemError(database, errno);
     }
     // Under these names SQLite finds them again should somebody repair the file. They need not
     // exist.

@@ -2,12 +2,36 @@
 // SPDX-License-Identifier: MIT
 #include "store/SqliteError.h"
 
-#include <sqlite3.h>
+#include "store/SystemError.h"
 
 namespace rui {
 
-ruiResult resultOfSqlite(int extendedCode) noexcept
+namespace {
+
+// SQLite has a code of its own for a full disk only where it writes content, not where it creates
+// or enlarges a file. A read that fails leaves an errno of an earlier call.
+bool needsRoom(int extendedCode) noexcept
 {
+    switch (extendedCode) {
+    case SQLITE_IOERR_WRITE:
+    case SQLITE_IOERR_FSYNC:
+    case SQLITE_IOERR_DIR_FSYNC:
+    case SQLITE_IOERR_TRUNCATE:
+    case SQLITE_IOERR_SHMOPEN:
+    case SQLITE_IOERR_SHMSIZE:
+        return true;
+    default:
+        return (extendedCode & 0xFF) == SQLITE_CANTOPEN;
+    }
+}
+
+} // namespace
+
+ruiResult resultOfSqlite(int extendedCode, int systemError) noexcept
+{
+    if (needsRoom(extendedCode) && isFull(systemError)) {
+        return RUI_FULL;
+    }
     switch (extendedCode & 0xFF) {
     case SQLITE_OK:
     case SQLITE_ROW:
@@ -33,9 +57,13 @@ ruiResult resultOfSqlite(int extendedCode) noexcept
     }
 }
 
-SqliteError::SqliteError(int extendedCode, const std::string &where)
-    : Failure(resultOfSqlite(extendedCode), where + ": " + sqlite3_errstr(extendedCode))
+SqliteError::SqliteError(int extendedCode, const std::string &where, int systemError)
+    : Failure(resultOfSqlite(extendedCode, systemError), where + ": " + sqlite3_errstr(extendedCode))
     , m_extendedCode(extendedCode)
+{}
+
+SqliteError::SqliteError(sqlite3 *connection, const std::string &where)
+    : SqliteError(sqlite3_extended_errcode(connection), where, sqlite3_system_errno(connection))
 {}
 
 bool SqliteError::isDamage() const noexcept

@@ -13,7 +13,7 @@ Statement::Statement(sqlite3 *database, std::string_view sql)
                                         SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
     m_statement.reset(statement);
     if (code != SQLITE_OK) {
-        throw SqliteError(sqlite3_extended_errcode(database), sqlite3_errmsg(database));
+        throw SqliteError(database, sqlite3_errmsg(database));
     }
 }
 
@@ -21,7 +21,7 @@ void Statement::check(int code) const
 {
     if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE) {
         sqlite3 *database = sqlite3_db_handle(m_statement.get());
-        throw SqliteError(sqlite3_extended_errcode(database), sqlite3_errmsg(database));
+        throw SqliteError(database, sqlite3_errmsg(database));
     }
 }
 

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Child.h"
+
+#include <set>
+
+namespace rui::test {
+
+// What is done to a system call instead of what it was asked for.
+struct Fault
+{
+    const char *call;   // its name
+    const char *word;   // for the name of the test
+    const char *effect; // as strace takes it, as in "error=EIO" or "retval=0"
+    // What the library's functions may return because of it, beside 0.
+    std::set<std::string> results;
+    // SQLite tries a failed lock again for seconds: fewer of them by default.
+    int runs = 7;
+};
+
+// What rui-test-writer reported.
+struct WriterRun
+{
+    bool injected = false;
+    std::vector<std::string> acknowledged;
+    // The results of calls that failed; the negative number of the signal that killed it.
+    std::set<std::string> results;
+};
+
+bool canTrace();
+
+// RUI_FAULTS=all: every call in turn instead of a selection.
+bool wantsAllFaults();
+
+// The call after this one of those that are made to fail in turn.
+int nextFaultyCall(int call);
+
+WriterRun readReport(const Outcome &outcome);
+
+// Runs the writer with these arguments on the directory. The n-th call of each of its threads
+// fails; for calls that name no file, `onFiles` is false. The trace is written to `log`.
+WriterRun runWithFault(const std::string &log, const Fault &fault, int call,
+                       const std::string &directory, const std::vector<std::string> &arguments,
+                       bool onFiles = true);
+
+// The names of the system calls that the writer makes on the files of the directory.
+std::set<std::string> callsOnFiles(const std::string &log, const std::string &directory,
+                                   const std::vector<std::string> &arguments);
+
+} // namespace rui::test
