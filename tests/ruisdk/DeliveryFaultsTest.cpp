@@ -160,9 +160,8 @@ TEST(DeviceFault, IsPutIntoEveryCallThatADeliveryMakesOnItsFiles)
     const TemporaryDirectory directory;
     const TestServer server;
     acknowledgedBacklog(directory.path("data"));
-    EXPECT_EQ(
-        callsOnFiles(directory.path("log"), directory.path("data"), {"w", "3", server.url()}),
-        tried);
+    EXPECT_EQ(callsOnFiles(directory.path("log"), directory.path("data"), {"w", "3", server.url()}),
+              tried);
 }
 
 } // namespace

@@ -85,7 +85,8 @@ void WorkerLoop::round(Work &work)
 {
     checkpoint(work.database);
     const std::int64_t now = m_options.clock->now();
-    if (now >= m_nextExpiry) {
+    // A clock that was set back is no reason to wait for longer.
+    if (now >= m_nextExpiry || now < m_nextExpiry - expiryEvery) {
         dropExpired(work.database, m_options.limits, now);
         m_nextExpiry = now + expiryEvery;
     }

@@ -58,7 +58,8 @@ ruiResult resultOfSqlite(int extendedCode, int systemError) noexcept
 }
 
 SqliteError::SqliteError(int extendedCode, const std::string &where, int systemError)
-    : Failure(resultOfSqlite(extendedCode, systemError), where + ": " + sqlite3_errstr(extendedCode))
+    : Failure(resultOfSqlite(extendedCode, systemError),
+              where + ": " + sqlite3_errstr(extendedCode))
     , m_extendedCode(extendedCode)
 {}
 

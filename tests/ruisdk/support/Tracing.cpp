@@ -79,8 +79,8 @@ WriterRun readReport(const Outcome &outcome)
 WriterRun runWithFault(const std::string &log, const Fault &fault, int call,
                        const std::string &directory, const Words &arguments, bool onFiles)
 {
-    const std::string inject = std::string("inject=") + fault.call + ":" + fault.effect
-                               + ":when=" + std::to_string(call);
+    const std::string inject =
+        std::string("inject=") + fault.call + ":" + fault.effect + ":when=" + std::to_string(call);
     Words options = {"-e", inject};
     append(options, onFiles ? filesOf(directory) : Words{});
     WriterRun run = readReport(trace(log, options, directory, arguments));
