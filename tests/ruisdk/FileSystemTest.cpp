@@ -92,9 +92,9 @@ TEST_F(OwnFileSystem, ThatWasFullDeliversEverythingOnceThereIsRoom)
 TEST_F(OwnFileSystem, ThatBecomesReadOnlyIsAStorageErrorUntilItIsWritableAgain)
 {
     const Outcome outcome = run("2m", "\"$writer\" \"$data\" w 2\n"
-                                      "mount -o remount,ro \"$place\"\n"
+                                      "mount -o remount,bind,ro \"$place\"\n"
                                       "\"$writer\" \"$data\" r 2 || echo \"r failed $?\"\n"
-                                      "mount -o remount,rw \"$place\"\n"
+                                      "mount -o remount,bind,rw \"$place\"\n"
                                       "\"$writer\" \"$data\" v 1\n"
                                       "echo stored\n"
                                       "\"$events\" --raw \"$data\"");
