@@ -45,8 +45,10 @@ WriterRun runWithFault(const std::string &log, const Fault &fault, int call,
                        const std::string &directory, const std::vector<std::string> &arguments,
                        bool onFiles = true);
 
-// The names of the system calls that the writer makes on the files of the directory.
-std::set<std::string> callsOnFiles(const std::string &log, const std::string &directory,
-                                   const std::vector<std::string> &arguments);
+// The names of the system calls that the writer makes on the files of the directory and that none
+// of the faults is put into.
+std::set<std::string> callsWithoutFault(const std::vector<Fault> &faults, const std::string &log,
+                                        const std::string &directory,
+                                        const std::vector<std::string> &arguments);
 
 } // namespace rui::test
