@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Delivery to a server on the loopback beside what a single compressed request costs there; the
-// backlog after a restart, for its growth; memory and disk.
+// backlog after a restart, for its growth.
 #include "delivery/CurlTransport.h"
 #include "delivery/Gzip.h"
 #include "delivery/Sender.h"
@@ -13,7 +13,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <fstream>
 #include <string>
 
 namespace {
@@ -81,49 +80,27 @@ void backlogAfterARestart(benchmark::State &state)
 }
 BENCHMARK(backlogAfterARestart)->Arg(1000)->Arg(2500)->Arg(5000)->Arg(10000)->Iterations(2);
 
-double residentKilobytes()
+// One backlog beside a tenth of it, in turns: the growth of the time for an event is 1 when the
+// delivery is linear.
+void growthOfTheBacklog(benchmark::State &state)
 {
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);) {
-        if (line.rfind("VmRSS:", 0) == 0) {
-            return std::stod(line.substr(6));
-        }
-    }
-    return 0;
-}
-
-void memoryOfASession(benchmark::State &state)
-{
-    double grown = 0;
+    constexpr int64_t largeBacklog = 10000;
+    constexpr int64_t smallBacklog = 1000;
+    double large = 0;
+    double small = 0;
     for ([[maybe_unused]] auto unused : state) {
         const TemporaryDirectory directory;
-        const double before = residentKilobytes();
-        Session session;
-        session.open(directory.path());
-        for (int i = 0; i < 5000; ++i) {
-            session.track(std::string(200, 'x'));
-        }
-        grown = std::max(grown, residentKilobytes() - before);
+        const TestServer server;
+        fill(directory.path("large"), largeBacklog);
+        fill(directory.path("small"), smallBacklog);
+        small += deliver(directory.path("small"), server);
+        large += deliver(directory.path("large"), server);
     }
-    state.counters["resident_kB"] = grown;
+    const auto times = static_cast<double>(state.iterations());
+    state.counters["ms_10000"] = large / times * 1e3;
+    state.counters["ms_1000"] = small / times * 1e3;
+    state.counters["growth_of_us_per_event"] = large / largeBacklog / (small / smallBacklog);
 }
-BENCHMARK(memoryOfASession)->Iterations(3);
-
-// Argument: bytes of the text; the floor is these bytes.
-void diskBytesOfAnEvent(benchmark::State &state)
-{
-    const int64_t events = 400;
-    double bytes = 0;
-    for ([[maybe_unused]] auto unused : state) {
-        const TemporaryDirectory directory;
-        fill(directory.path(), events, static_cast<std::size_t>(state.range(0)));
-        bytes =
-            static_cast<double>(std::filesystem::file_size(directory.path("usage-events.sqlite")));
-    }
-    const double each = bytes / static_cast<double>(events);
-    state.counters["bytes_per_event"] = each;
-    state.counters["ratio"] = each / static_cast<double>(state.range(0));
-}
-BENCHMARK(diskBytesOfAnEvent)->Arg(200)->Arg(100000)->Iterations(1);
+BENCHMARK(growthOfTheBacklog)->Iterations(5);
 
 } // namespace

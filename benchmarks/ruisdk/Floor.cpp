@@ -10,8 +10,11 @@ namespace {
 
 constexpr const char *setup =
     "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 0;"
-    "CREATE TABLE event(seq INTEGER PRIMARY KEY, size INTEGER, time INTEGER, uid TEXT,"
+    "CREATE TABLE IF NOT EXISTS event(seq INTEGER PRIMARY KEY, size INTEGER, time INTEGER, uid "
+    "TEXT,"
     " resource INTEGER, category TEXT, name TEXT, session TEXT, text TEXT)";
+
+constexpr int busyMilliseconds = 60000;
 
 constexpr const char *insert =
     "INSERT INTO event(size, time, uid, resource, category, name, session, text)"
@@ -23,6 +26,7 @@ constexpr const char *insert =
 BareInsert::BareInsert(const std::string &path)
 {
     if (sqlite3_open(path.c_str(), &m_database) != SQLITE_OK
+        || sqlite3_busy_timeout(m_database, busyMilliseconds) != SQLITE_OK
         || sqlite3_exec(m_database, setup, nullptr, nullptr, nullptr) != SQLITE_OK
         || sqlite3_prepare_v2(m_database, insert, -1, &m_insert, nullptr) != SQLITE_OK) {
         throw std::runtime_error(sqlite3_errmsg(m_database));

@@ -9,7 +9,7 @@
 namespace rui::benchmarks {
 
 // What a track call cannot beat: one prepared insert of the same row by bare SQLite with the same
-// pragmas, committed when it returns.
+// pragmas, committed when it returns. Several of them may stand on one file.
 class BareInsert
 {
 public:

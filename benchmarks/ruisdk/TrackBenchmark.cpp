@@ -10,6 +10,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <memory>
+#include <mutex>
 #include <thread>
 
 namespace {
@@ -48,50 +50,78 @@ void trackedEvent(benchmark::State &state)
 }
 BENCHMARK(trackedEvent)->Args({200, 5000})->Args({100000, 300})->Iterations(3);
 
-// Calls a second of one instance from several threads; the floor has one thread.
+constexpr int64_t callsOfAllThreads = 8000;
+
+// Seconds that the threads take together for all calls. The action is given the thread's number.
+template <typename Action>
+double inThreads(int64_t count, Action action)
+{
+    const auto start = std::chrono::steady_clock::now();
+    std::vector<std::thread> threads;
+    for (int64_t i = 0; i < count; ++i) {
+        threads.emplace_back([&action, count, i] {
+            for (int64_t n = 0; n < callsOfAllThreads / count; ++n) {
+                action(static_cast<std::size_t>(i));
+            }
+        });
+    }
+    for (std::thread &thread : threads) {
+        thread.join();
+    }
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double trackInThreads(int64_t count, const std::string &text, benchmark::State &state)
+{
+    const TemporaryDirectory directory;
+    Session session;
+    session.open(directory.path("ours"));
+    return inThreads(count, [&](std::size_t) { track(session, text, state); });
+}
+
+double insertThroughOneConnection(int64_t count, const std::string &text)
+{
+    const TemporaryDirectory directory;
+    BareInsert bare(directory.path("floor"));
+    std::mutex mutex;
+    return inThreads(count, [&](std::size_t) {
+        const std::lock_guard<std::mutex> lock(mutex);
+        bare.run(text);
+    });
+}
+
+double insertThroughAConnectionEach(int64_t count, const std::string &text)
+{
+    const TemporaryDirectory directory;
+    std::vector<std::unique_ptr<BareInsert>> bare;
+    for (int64_t i = 0; i < count; ++i) {
+        bare.push_back(std::make_unique<BareInsert>(directory.path("floor")));
+    }
+    return inThreads(count, [&](std::size_t thread) { bare[thread]->run(text); });
+}
+
+// Calls a second of one instance from several threads; the floors are as many threads that insert
+// through one connection, as an instance does, and through one each. Ratios are of times, ours by
+// the floor's.
 void callsFromThreads(benchmark::State &state)
 {
-    constexpr int calls = 8000;
     const std::string text(200, 'x');
-    double seconds = 0;
+    double ours = 0;
+    double shared = 0;
+    double each = 0;
     for ([[maybe_unused]] auto unused : state) {
-        const TemporaryDirectory directory;
-        Session session;
-        session.open(directory.path("ours"));
-        const auto start = std::chrono::steady_clock::now();
-        std::vector<std::thread> threads;
-        for (int64_t i = 0; i < state.range(0); ++i) {
-            threads.emplace_back([&] {
-                for (int64_t n = 0; n < calls / state.range(0); ++n) {
-                    track(session, text, state);
-                }
-            });
-        }
-        for (std::thread &thread : threads) {
-            thread.join();
-        }
-        seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+        ours += trackInThreads(state.range(0), text, state);
+        shared += insertThroughOneConnection(state.range(0), text);
+        each += insertThroughAConnectionEach(state.range(0), text);
     }
-    state.counters["calls_per_second"] = calls * static_cast<double>(state.iterations()) / seconds;
+    const double calls =
+        static_cast<double>(callsOfAllThreads * static_cast<int64_t>(state.iterations()));
+    state.counters["calls_per_second"] = calls / ours;
+    state.counters["floor_shared"] = calls / shared;
+    state.counters["floor_each"] = calls / each;
+    state.counters["ratio_shared"] = ours / shared;
+    state.counters["ratio_each"] = ours / each;
 }
-BENCHMARK(callsFromThreads)->Arg(1)->Arg(2)->Arg(4)->Iterations(3);
-
-void callsOfTheFloor(benchmark::State &state)
-{
-    constexpr int calls = 8000;
-    const std::string text(200, 'x');
-    double seconds = 0;
-    for ([[maybe_unused]] auto unused : state) {
-        const TemporaryDirectory directory;
-        BareInsert bare(directory.path("floor"));
-        const auto start = std::chrono::steady_clock::now();
-        for (int n = 0; n < calls; ++n) {
-            bare.run(text);
-        }
-        seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    }
-    state.counters["calls_per_second"] = calls * static_cast<double>(state.iterations()) / seconds;
-}
-BENCHMARK(callsOfTheFloor)->Iterations(3);
+BENCHMARK(callsFromThreads)->Arg(1)->Arg(2)->Arg(4)->Iterations(5);
 
 } // namespace

@@ -50,7 +50,17 @@ TEST_F(Opening, UsesAWriteAheadLogWithoutCheckpointsInTheCaller)
     mode.step();
     EXPECT_EQ(mode.text(0), "wal");
     EXPECT_EQ(database.integer("PRAGMA wal_autocheckpoint"), 0);
-    EXPECT_EQ(database.integer("PRAGMA synchronous"), 1);
+}
+
+TEST_F(Opening, FlushesTheJournalOnlyAtCheckpointsUnlessTheBuildSaysOtherwise)
+{
+#ifdef RUI_SYNC_EVERY_COMMIT
+    constexpr int expected = 2;
+#else
+    constexpr int expected = 1;
+#endif
+    const Database database = openStore(m_paths, {}, std::make_shared<BusyLimit>(20ms));
+    EXPECT_EQ(database.integer("PRAGMA synchronous"), expected);
 }
 
 TEST_F(Opening, MayFlushEveryCommit)
