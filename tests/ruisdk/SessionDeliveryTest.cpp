@@ -72,10 +72,23 @@ TEST_F(SessionDelivery, BacklogOfEarlierSessionsIsSent)
 
 TEST_F(SessionDelivery, StopWithFlagOneKeepsWhatIsLeft)
 {
+    // Nothing can be sent until the server is back, which is when the session ends.
+    m_server.setDown(true);
     m_session.open(m_path, m_server.url());
     m_session.track("text");
+    m_server.setDown(false);
     EXPECT_EQ(m_session.stop(1), 0);
     EXPECT_EQ(pending(), "1");
+}
+
+TEST_F(SessionDelivery, StopSendsWhatIsLeftToAServerThatIsBack)
+{
+    m_server.setDown(true);
+    m_session.open(m_path, m_server.url());
+    m_session.track("text");
+    m_server.setDown(false);
+    EXPECT_EQ(m_session.stop(), 0);
+    EXPECT_EQ(pending(), "0");
 }
 
 TEST_F(SessionDelivery, EmptyHostSendsNothing)

@@ -9,7 +9,6 @@
 #include "plugins/cameraselector/CCameraPanel.h"
 #include "plugins/cameraselector/CDeviceSelectionService.h"
 #include "plugins/nerixviewer/IMainWindowService.h"
-#include "plugins/nerixviewer/IMessageService.h"
 
 #include <CameraPool/ICameraEnumerationService.h>
 #include <CameraPool/ICameraStatusService.h>
@@ -79,7 +78,7 @@ void CCameraSelectorPlugin::addCommands()
     m_commands = std::make_unique<CCameraCommands>(control, m_service);
     m_commands->addEntries(*menus);
     connect(control.data(), &CameraPool::ICameraControlService::openFailed, this,
-            [this](const auto &, const QString &message) { onOpenFailed(message); });
+            [this](const auto &, const QString &message) { showProblem(message); });
     connectNews();
     addPanel();
 }
@@ -122,7 +121,7 @@ void CCameraSelectorPlugin::connectNews()
               &ICameraEnumerationService::enumerationChanged);
     if (const auto status = Core::Plugin::findService<ICameraStatusService>(m_initializer)) {
         connect(status.data(), &ICameraStatusService::deviceOpened, this,
-                [this] { onOpenFailed({}); });
+                [this] { showProblem({}); });
     }
 }
 
@@ -136,16 +135,11 @@ void CCameraSelectorPlugin::refresh()
     }
 }
 
-// An empty message: something was opened.
-void CCameraSelectorPlugin::onOpenFailed(const QString &message)
+// The message area has it from the log.
+void CCameraSelectorPlugin::showProblem(const QString &message)
 {
-    using Plugin::NerixViewer::IMessageService;
     if (m_panel) {
         m_panel->setProblem(message);
-    }
-    const auto messages = Core::Plugin::findService<IMessageService>(m_initializer);
-    if (messages && !message.isEmpty()) {
-        messages->add(IMessageService::Severity::Error, message);
     }
 }
 

@@ -36,7 +36,7 @@ private:
     void addPanel();
     void connectNews();
     void onFirstSearchEnded();
-    void onOpenFailed(const QString &message);
+    void showProblem(const QString &message);
     void refresh();
 
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
