@@ -26,7 +26,7 @@ packages=(
     # the software renderer of OpenGL, for the consent page without a graphics card
     libgl1-mesa-dri libglx-mesa0
     libgtest-dev libgmock-dev libbenchmark-dev
-    xvfb xauth iproute2 util-linux procps sqlite3 openssl strace faketime python3 clang-format
+    xvfb xauth iproute2 util-linux procps sqlite3 openssl strace faketime python3 python3-yaml clang-format
     fonts-dejavu-core fonts-noto-cjk
     # Debian packages, and what checks that a desktop understands ours
     dpkg-dev appstream desktop-file-utils

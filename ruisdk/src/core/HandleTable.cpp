@@ -21,6 +21,7 @@ constexpr std::size_t noSlot = maxSlots;
 ruiInstance makeHandle(std::size_t slot, std::uint64_t generation)
 {
     const std::uint64_t bits = (generation << slotBits) | (slot + 1);
+    // A handle is a number in the clothes of a pointer: NOLINTNEXTLINE(performance-no-int-to-ptr)
     return reinterpret_cast<ruiInstance>(static_cast<std::uintptr_t>(bits));
 }
 

@@ -175,7 +175,7 @@ Response CurlTransport::post(const std::string &body)
     std::string url = m_address.url;
     for (int redirects = 0;; ++redirects) {
         std::string target;
-        const Response response = exchangeOnce(url, body, target);
+        Response response = exchangeOnce(url, body, target);
         // The other redirects would turn the request into one without a body.
         const bool keepsBody = response.status == 307 || response.status == 308;
         if (!keepsBody || redirects == m_limits.redirects || !isSameOrigin(url, target)) {

@@ -36,7 +36,7 @@ std::string partOf(const Url &url, CURLUPart part)
     if (curl_url_get(url.get(), part, &text, CURLU_DEFAULT_PORT) != CURLUE_OK) {
         return {};
     }
-    const std::string result = text;
+    std::string result = text;
     curl_free(text);
     return result;
 }

@@ -22,7 +22,7 @@ std::optional<std::string> clientId(const Database &database)
 
 std::string newClientId(const Database &database)
 {
-    const std::string id = randomUuid();
+    std::string id = randomUuid();
     database.prepare("UPDATE state SET client = ?1").bind(1, id).run();
     return id;
 }
