@@ -62,6 +62,15 @@ std::vector<std::string> acknowledgedBacklog(const std::string &data)
     return readReport(runProgram({RUI_WRITER_PROGRAM, data, "backlog", "4"})).acknowledged;
 }
 
+CallCounts countWholeDelivery(bool onFiles)
+{
+    const TemporaryDirectory directory;
+    const TestServer server;
+    acknowledgedBacklog(directory.path("data"));
+    return countCalls(directory.path("log"), directory.path("data"), {"w", "3", server.url()},
+                      onFiles);
+}
+
 class DeliveryFaults : public testing::TestWithParam<Fault>
 {
 protected:
@@ -89,7 +98,7 @@ protected:
         EXPECT_EQ(queryValue(data, "PRAGMA integrity_check"), "ok");
     }
 
-    // False when the session made fewer calls than that.
+    // False when the session made fewer calls than that this time.
     static bool tryCall(int call, bool onFiles)
     {
         const TemporaryDirectory directory;
@@ -110,13 +119,9 @@ protected:
     static void tryCalls(bool onFiles)
     {
         int runs = 0;
-        for (int call = 1; runs < GetParam().runs || wantsAllFaults();
-             call = wantsAllFaults() ? call + 1 : call * 2) {
+        for (const int call : callsToFail(GetParam(), countWholeDelivery(onFiles))) {
             const testing::ScopedTrace at(__FILE__, __LINE__, "call " + std::to_string(call));
-            if (!tryCall(call, onFiles)) {
-                break;
-            }
-            ++runs;
+            runs += tryCall(call, onFiles) ? 1 : 0;
         }
         if (runs == 0) {
             GTEST_SKIP() << "the library makes no such call here";
@@ -155,12 +160,7 @@ TEST(DeviceFault, IsPutIntoEveryCallThatADeliveryMakesOnItsFiles)
     if (!canTrace()) {
         GTEST_SKIP() << "strace may not trace here";
     }
-    const TemporaryDirectory directory;
-    const TestServer server;
-    acknowledgedBacklog(directory.path("data"));
-    EXPECT_EQ(callsWithoutFault(fileFaults, directory.path("log"), directory.path("data"),
-                                {"w", "3", server.url()}),
-              std::set<std::string>{});
+    EXPECT_EQ(callsWithoutFault(fileFaults, countWholeDelivery(true)), std::set<std::string>{});
 }
 
 } // namespace

@@ -55,9 +55,56 @@ bool wantsAllFaults()
     return wanted != nullptr && std::string(wanted) == "all";
 }
 
-int nextFaultyCall(int call)
+CallCounts countCalls(const std::string &log, const std::string &directory, const Words &arguments,
+                      bool onFiles)
 {
-    return wantsAllFaults() ? call + 1 : call + std::max(1, call / 2);
+    trace(log, onFiles ? filesOf(directory) : Words{}, directory, arguments);
+    std::map<std::string, CallCounts> countsOfThread;
+    std::istringstream lines(readFile(log));
+    // As in "8789 pwrite64(3, ..."; what was interrupted by another thread goes on with "<...".
+    for (std::string thread, line; lines >> thread && std::getline(lines, line);) {
+        const std::size_t name = line.find_first_not_of(' ');
+        const std::size_t end = line.find('(');
+        if (end != std::string::npos && line[name] != '<') {
+            ++countsOfThread[thread][line.substr(name, end - name)];
+        }
+    }
+    CallCounts most;
+    for (const auto &[thread, counts] : countsOfThread) {
+        for (const auto &[name, count] : counts) {
+            most[name] = std::max(most[name], count);
+        }
+    }
+    return most;
+}
+
+std::vector<int> callsToFail(const Fault &fault, const CallCounts &counts)
+{
+    const auto found = counts.find(fault.call);
+    if (found == counts.end()) {
+        return {};
+    }
+    // Another run may make some more calls.
+    const int last = wantsAllFaults() ? found->second + 20 : found->second;
+    const int runs = wantsAllFaults() ? last : std::min(fault.runs, last);
+    std::vector<int> calls;
+    for (int run = 1; run <= runs; ++run) {
+        calls.push_back(runs == 1 ? 1 : 1 + (run - 1) * (last - 1) / (runs - 1));
+    }
+    return calls;
+}
+
+std::set<std::string> callsWithoutFault(const std::vector<Fault> &faults, const CallCounts &counts)
+{
+    std::set<std::string> names;
+    for (const auto &[name, count] : counts) {
+        names.insert(name);
+    }
+    EXPECT_FALSE(names.empty());
+    for (const Fault &fault : faults) {
+        names.erase(fault.call);
+    }
+    return names;
 }
 
 WriterRun readReport(const Outcome &outcome)
@@ -88,27 +135,6 @@ WriterRun runWithFault(const std::string &log, const Fault &fault, int call,
     WriterRun run = readReport(trace(log, options, directory, arguments));
     run.injected = readFile(log).find("INJECTED") != std::string::npos;
     return run;
-}
-
-std::set<std::string> callsWithoutFault(const std::vector<Fault> &faults, const std::string &log,
-                                        const std::string &directory, const Words &arguments)
-{
-    trace(log, filesOf(directory), directory, arguments);
-    std::set<std::string> names;
-    std::istringstream lines(readFile(log));
-    // As in "8789 pwrite64(3, ..."; what was interrupted by another thread goes on with "<...".
-    for (std::string line; std::getline(lines, line);) {
-        const std::size_t name = line.find_first_not_of("0123456789 ");
-        const std::size_t end = line.find('(');
-        if (end != std::string::npos && line.compare(name, 4, "<...") != 0) {
-            names.insert(line.substr(name, end - name));
-        }
-    }
-    EXPECT_FALSE(names.empty());
-    for (const Fault &fault : faults) {
-        names.erase(fault.call);
-    }
-    return names;
 }
 
 } // namespace rui::test

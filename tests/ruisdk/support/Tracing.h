@@ -4,6 +4,7 @@
 
 #include "Child.h"
 
+#include <map>
 #include <set>
 
 namespace rui::test {
@@ -34,21 +35,27 @@ bool canTrace();
 // RUI_FAULTS=all: every call in turn instead of a selection.
 bool wantsAllFaults();
 
-// The call after this one of those that are made to fail in turn.
-int nextFaultyCall(int call);
+// How often each system call is made by the thread that makes it most often.
+using CallCounts = std::map<std::string, int>;
+
+// Those of the writer; on the files of the directory, or all of them. The trace is written to
+// `log`.
+CallCounts countCalls(const std::string &log, const std::string &directory,
+                      const std::vector<std::string> &arguments, bool onFiles = true);
+
+// The calls that are to fail in turn: spread from the first one to the last one.
+std::vector<int> callsToFail(const Fault &fault, const CallCounts &counts);
+
+// The names of the calls that none of the faults is put into.
+std::set<std::string> callsWithoutFault(const std::vector<Fault> &faults, const CallCounts &counts);
 
 WriterRun readReport(const Outcome &outcome);
 
 // Runs the writer with these arguments on the directory. The n-th call of each of its threads
-// fails; for calls that name no file, `onFiles` is false. The trace is written to `log`.
+// fails; for calls that name no file, `onFiles` is false. The trace is written to
+// `log`.
 WriterRun runWithFault(const std::string &log, const Fault &fault, int call,
                        const std::string &directory, const std::vector<std::string> &arguments,
                        bool onFiles = true);
-
-// The names of the system calls that the writer makes on the files of the directory and that none
-// of the faults is put into.
-std::set<std::string> callsWithoutFault(const std::vector<Fault> &faults, const std::string &log,
-                                        const std::string &directory,
-                                        const std::vector<std::string> &arguments);
 
 } // namespace rui::test
