@@ -102,6 +102,18 @@ TEST_F(OwnFileSystem, ThatBecomesReadOnlyIsAStorageErrorUntilItIsWritableAgain)
                               "Category\tName\tw 1\nCategory\tName\tw 2\nCategory\tName\tv 1\n");
 }
 
+TEST_F(OwnFileSystem, ThatIsReadOnlyMakesTheToolSayWhatToDo)
+{
+    const Outcome outcome = run("2m", "\"$writer\" \"$data\" w 2 > /dev/null\n"
+                                      "mount -o remount,bind,ro \"$place\"\n"
+                                      "\"$events\" \"$data\"");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "rui-events: " + databasePath(m_directory.path("data"))
+                                  + ": cannot be read where it is; copy the directory to where it"
+                                    " can be written\n");
+}
+
 struct Closed
 {
     const char *rule;

@@ -77,6 +77,19 @@ TEST_F(Opening, IsBusyWhileAnotherProcessOpens)
     EXPECT_EQ(resultOf([&] { Store(m_paths, {}, {}, systemClock(), waiting(20ms)); }), RUI_BUSY);
 }
 
+TEST_F(Opening, WaitingForAnotherProcessThatOpensEndsWhenTheOwnerSaysSo)
+{
+    FileLock other(m_paths.openingLock());
+    other.tryLock();
+    const auto limit = waiting(1h);
+    ruiResult result = RUI_OK;
+    std::thread caller(
+        [&] { result = resultOf([&] { Store(m_paths, {}, {}, systemClock(), limit); }); });
+    limit->giveUp = true;
+    caller.join();
+    EXPECT_EQ(result, RUI_BUSY);
+}
+
 TEST_F(Opening, LockExcludesInOneProcessUntilItIsReleased)
 {
     FileLock first(m_paths.openingLock());

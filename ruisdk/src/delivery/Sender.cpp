@@ -117,7 +117,10 @@ Step Sender::retry(const Response &response)
     Schedule schedule = m_outbox.schedule();
     ++schedule.failures;
     const auto asked = parseRetryAfter(response.retryAfter, m_clock.now(), m_limits.maxRetryAfter);
-    const auto wait = asked ? *asked : backoffAfter(schedule.failures, m_limits, m_jitter);
+    // A time that has passed, be it for a clock that is ahead of the server's, is no leave to ask
+    // without a pause.
+    const bool isAsked = asked && asked->count() > 0;
+    const auto wait = isAsked ? *asked : backoffAfter(schedule.failures, m_limits, m_jitter);
     schedule.notBefore = m_clock.now() + wait.count();
     m_outbox.setSchedule(schedule);
     return {Step::Kind::Failed, schedule.notBefore, describe(response), 0};

@@ -40,11 +40,11 @@ bool FileLock::tryLock()
     return true;
 }
 
-void FileLock::lock(std::chrono::milliseconds limit)
+void FileLock::lock(const BusyLimit &busyLimit)
 {
-    const auto end = std::chrono::steady_clock::now() + limit;
+    const auto end = std::chrono::steady_clock::now() + busyLimit.limit;
     while (!tryLock()) {
-        if (std::chrono::steady_clock::now() >= end) {
+        if (busyLimit.giveUp || std::chrono::steady_clock::now() >= end) {
             throw Failure(RUI_BUSY, m_path + ": held by another process");
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(2));

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <chrono>
+#include "store/Database.h"
+
 #include <string>
 
 namespace rui {
@@ -21,8 +22,8 @@ public:
     // True when the lock is held now, also when it was before.
     bool tryLock();
 
-    // Waits; throws Failure with RUI_BUSY when the time is over.
-    void lock(std::chrono::milliseconds limit);
+    // Waits; throws Failure with RUI_BUSY when the time is over, or all waiting is ended.
+    void lock(const BusyLimit &busyLimit);
 
     void unlock();
 

@@ -4,6 +4,7 @@
 
 #include "core/Failure.h"
 #include "store/Schema.h"
+#include "store/SqliteError.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -20,9 +21,20 @@ std::optional<Database> openForReading(const StorePaths &paths)
     if (!std::filesystem::exists(paths.database())) {
         return std::nullopt;
     }
-    Database database(paths.database(), Database::Access::ReadOnly,
-                      std::make_shared<BusyLimit>(openingLimit));
-    return hasSchema(database) ? std::optional<Database>(std::move(database)) : std::nullopt;
+    try {
+        Database database(paths.database(), Database::Access::ReadOnly,
+                          std::make_shared<BusyLimit>(openingLimit));
+        return hasSchema(database) ? std::optional<Database>(std::move(database)) : std::nullopt;
+    } catch (const SqliteError &error) {
+        if ((error.extendedCode() & 0xFF) != SQLITE_CANTOPEN) {
+            throw;
+        }
+        // A write-ahead log needs a file beside the database even to be read.
+        throw Failure(error.result(),
+                      paths.database()
+                          + ": cannot be read where it is; copy the directory to where it can be"
+                            " written");
+    }
 }
 
 Database requireDatabase(const StorePaths &paths)

@@ -84,7 +84,7 @@ Database openStore(const StorePaths &paths, const OpeningOptions &options,
         throw Failure(RUI_STORAGE, paths.directory() + ": no usage events are stored here");
     }
     FileLock opening(paths.openingLock());
-    opening.lock(busyLimit->limit);
+    opening.lock(*busyLimit);
     if (auto database = openUnlessDamaged(paths, options, busyLimit)) {
         return std::move(*database);
     }
