@@ -9,6 +9,8 @@
 #include <QMetaMethod>
 #include <QMetaProperty>
 
+Q_DECLARE_METATYPE(const QMetaObject *)
+
 using namespace Plugin::UsageTracking;
 using namespace Plugin::UsageTracking::Internal;
 
@@ -185,8 +187,6 @@ private Q_SLOTS:
         }
     }
 };
-
-Q_DECLARE_METATYPE(const QMetaObject *)
 
 NERIX_TEST_MAIN(MetaObjectTest)
 #include "MetaObjectTest.moc"

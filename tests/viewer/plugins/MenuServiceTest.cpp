@@ -19,6 +19,9 @@ using Plugin::AppCore::IActionContainer;
 using Plugin::AppCore::ICommand;
 using TriggerResult = CMenuService::TriggerResult;
 
+Q_DECLARE_METATYPE(CContext)
+Q_DECLARE_METATYPE(TriggerResult)
+
 class MenuServiceTest : public QObject
 {
     Q_OBJECT
@@ -271,9 +274,6 @@ void MenuServiceTest::testTriggerRefuses()
     QCOMPARE(m_service->trigger(CId(id)), result);
     QCOMPARE(triggered.count(), 0);
 }
-
-Q_DECLARE_METATYPE(CContext)
-Q_DECLARE_METATYPE(TriggerResult)
 
 QTEST_MAIN(MenuServiceTest)
 
