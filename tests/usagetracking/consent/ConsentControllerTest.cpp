@@ -3,6 +3,7 @@
 
 // The consent as the page shows it and as it is applied.
 
+#include "MessageLog.h"
 #include "TestMain.h"
 
 #include <CHelpHelper.h>
@@ -300,6 +301,29 @@ private Q_SLOTS:
         CHelpHelper::setHandler({});
         DocumentationHelper::setHandler({});
         QTEST(reached, "reached");
+    }
+
+    void lowerCaseFileNameIsAnAddressAndRefusedWithAWarning()
+    {
+        QStringList reached;
+        CHelpHelper::setHandler([&](CHelpHelper::HelpType) {
+            reached.append("help");
+            return false;
+        });
+        DocumentationHelper::setHandler([&](const QUrl &, bool) {
+            reached.append("browser");
+            return false;
+        });
+        Page page;
+        const MessageLog log;
+        QMetaObject::invokeMethod(&page.controller, "onDataPrivacyLinkClicked",
+                                  Q_ARG(QString, QStringLiteral("dataprivacy.txt")));
+        CHelpHelper::setHandler({});
+        DocumentationHelper::setHandler({});
+        QCOMPARE(reached, QStringList());
+        QCOMPARE(log.texts(),
+                 QStringList{"not opened: dataprivacy.txt (only http, https and mailto addresses "
+                             "are)"});
     }
 
     void tabTellsTheViewerWhatItIs()

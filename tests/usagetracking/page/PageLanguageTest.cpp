@@ -143,6 +143,32 @@ private Q_SLOTS:
         QCOMPARE(page.fixture.host.menu->registeredAction->text(), QStringLiteral("Data Privacy"));
     }
 
+    void sorryChangesItsLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("beginning");
+        QTest::newRow("ja") << "ja" << QStringLiteral(u"\u6b8b\u5ff5\u3067\u3059\u3002");
+        QTest::newRow("ko") << "ko" << QStringLiteral(u"\uc544\uc27d\uc2b5\ub2c8\ub2e4.");
+        QTest::newRow("zh") << "zh" << QStringLiteral(u"\u5f88\u9057\u61be\u3002");
+        QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral(u"\u5f88\u9057\u61be\u3002");
+    }
+
+    void sorryChangesItsLanguage()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, beginning);
+        storeAnswer(false);
+        const ConsentPage page;
+        const auto begins = [&](const QString &text) {
+            return page.of("selectTrackingLabelBottom", "text").toString().startsWith(text);
+        };
+        QVERIFY(begins(QStringLiteral("Sorry to hear that.")));
+        QVERIFY(page.fixture.plugin->setLanguage(language));
+        QVERIFY(begins(beginning));
+        QVERIFY(page.fixture.plugin->setLanguage(QStringLiteral("en")));
+        QVERIFY(begins(QStringLiteral("Sorry to hear that.")));
+    }
+
     void answerStaysWhenTheLanguageChanges()
     {
         ConsentPage page;

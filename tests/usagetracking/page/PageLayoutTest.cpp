@@ -7,8 +7,14 @@
 #include "ConsentPage.h"
 #include "TestMain.h"
 
+#include <memory>
+
 #include <QColor>
+#include <QDir>
+#include <QFile>
 #include <QFont>
+#include <QQmlComponent>
+#include <QQmlEngine>
 
 namespace {
 
@@ -125,6 +131,29 @@ private Q_SLOTS:
         QFETCH(QByteArray, name);
         const ConsentPage page;
         QTEST(page.of(name.constData(), "font").value<QFont>().pixelSize(), "pixels");
+    }
+
+    void tileIsWrittenInTheFontThatAllPagesShare()
+    {
+        // A viewer with letters of its own.
+        const QTemporaryDir modules;
+        QVERIFY(QDir(modules.path()).mkdir(QStringLiteral("NerixWelcome")));
+        const auto write = [&](const char *name, const QByteArray &text) {
+            QFile file(
+                modules.filePath(QStringLiteral("NerixWelcome/%1").arg(QLatin1String(name))));
+            return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+        };
+        QVERIFY(write("qmldir", "module NerixWelcome\nsingleton Constants 1.0 Constants.qml\n"));
+        QVERIFY(write("Constants.qml",
+                      "pragma Singleton\nimport QtQuick 2.12\nQtObject {\n    property font font: "
+                      "Qt.font({ family: \"Letters of the viewer\" })\n}\n"));
+        QQmlEngine engine;
+        engine.addImportPath(modules.path());
+        QQmlComponent component(&engine, QUrl("qrc:///usagetracking/qml/DataPrivacyCheckbox.qml"));
+        const std::unique_ptr<QObject> tile(component.create());
+        QVERIFY2(tile, qPrintable(component.errorString()));
+        QCOMPARE(tile->property("font").value<QFont>().family(),
+                 QStringLiteral("Letters of the viewer"));
     }
 
     void longTextsAreWrappedBetweenWords()
