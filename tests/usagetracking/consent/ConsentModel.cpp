@@ -3,17 +3,16 @@
 
 #include "ConsentModel.h"
 
-#include <QStandardPaths>
+#include "TrackingFixture.h"
 
 namespace {
 
 QString prepared(int instance)
 {
-    const QString directory = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     return QStringLiteral("ruiCreateConfig(#%1 | %2 | 1234567890 | nerixViewer | "
                           "https://analytics.example | 3 |  | 0 | 0)\n"
                           "ruiSetProductData(#%1 | Standard | US English | 7.1.0 | 11271)")
-        .arg(QString::number(instance), directory);
+        .arg(QString::number(instance), expectedDirectory());
 }
 
 } // namespace

@@ -29,7 +29,7 @@ std::unique_ptr<Application> makeTestApplication(int &argc, char **argv)
     int main(int argc, char *argv[])                                                               \
     {                                                                                              \
         QTemporaryDir home;                                                                        \
-        qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());                                       \
+        qputenv("XDG_DATA_HOME", home.filePath("data").toLocal8Bit());                             \
         qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());                                     \
         const auto application = makeTestApplication<Application>(argc, argv);                     \
         QCoreApplication::setOrganizationName(QStringLiteral("Ostrand"));                          \

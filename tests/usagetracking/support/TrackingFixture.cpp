@@ -5,9 +5,9 @@
 
 #include "TestConfiguration.h"
 
+#include <QCoreApplication>
 #include <QMetaMethod>
 #include <QMetaObject>
-#include <QStandardPaths>
 
 using Plugin::UsageTracking::Internal::CUsageTrackingProvider;
 
@@ -99,5 +99,6 @@ void TrackingFixture::openCamera(const QSharedPointer<FakeCamera> &camera)
 
 QString expectedDirectory()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return QStringLiteral("%1/Ostrand/%2")
+        .arg(qEnvironmentVariable("XDG_DATA_HOME"), QCoreApplication::applicationName());
 }

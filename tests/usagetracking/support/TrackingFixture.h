@@ -53,5 +53,6 @@ public:
     bool servicesFound = false;
 };
 
-/// The folder that the provider passes to the analytics library in tests.
+/// The folder that the provider passes to the analytics library in tests: that of the test program
+/// below its folder for data, put together by hand.
 QString expectedDirectory();
