@@ -19,13 +19,6 @@ const QStringList optOutFunctions{"ruiTrackEventText", "ruiStopSDK",      "ruiDe
                                   "ruiOptOut",         "ruiStartSDK",     "ruiStopSDK",
                                   "ruiDestroyInstance"};
 
-void openSession(PluginFixture &f)
-{
-    QMetaObject::invokeMethod(Probe::provider(*f.plugin), "startTracking",
-                              Qt::BlockingQueuedConnection);
-    f.analytics.takeCalls();
-}
-
 QStringList functions(const QStringList &calls)
 {
     QStringList names;
@@ -64,7 +57,7 @@ private Q_SLOTS:
         storeKeys(enabled, selected);
         PluginFixture f;
         f.initialize();
-        openSession(f);
+        f.openSession();
         f.done();
         QCOMPARE(functions(f.analytics.calls()), optOutFunctions);
     }
@@ -74,7 +67,7 @@ private Q_SLOTS:
         storeKeys(true, true);
         PluginFixture f;
         f.initialize();
-        openSession(f);
+        f.openSession();
         delete Probe::tab(*f.plugin);
         f.done();
         QCOMPARE(functions(f.analytics.calls()), optOutFunctions);
@@ -84,10 +77,36 @@ private Q_SLOTS:
     {
         PluginFixture f;
         f.start();
-        openSession(f);
+        f.openSession();
         f.click(false);
         f.apply();
         QCOMPARE(f.analytics.calls(), QStringList());
+    }
+
+    void optOutAtInitializationDoneWaitsItsHundredMilliseconds()
+    {
+        PluginFixture f;
+        f.initialize();
+        f.openSession();
+        QElapsedTimer sinceDone;
+        sinceDone.start();
+        Q_EMIT f.host.initializationDone();
+        QCOMPARE(f.analytics.calls(), QStringList());
+        QVERIFY(f.analytics.waitForCalls(10));
+        QVERIFY(sinceDone.elapsed() >= 99);
+    }
+
+    void startByApplyWaitsItsHundredMilliseconds()
+    {
+        PluginFixture f;
+        f.start();
+        QElapsedTimer sinceApply;
+        sinceApply.start();
+        f.click(true);
+        f.controller()->onDataPrivacyApplyClicked();
+        QCOMPARE(f.analytics.calls(), QStringList());
+        QVERIFY(f.analytics.waitForCalls(5));
+        QVERIFY(sinceApply.elapsed() >= 99);
     }
 
     void withdrawalWaitsItsHundredMilliseconds()

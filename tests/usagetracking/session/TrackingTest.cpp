@@ -200,6 +200,40 @@ private Q_SLOTS:
         }),
                  QStringList());
     }
+
+    void missingCameraStatusLeavesTheSessionAndTheOtherSubscriptions()
+    {
+        TrackingFixture f;
+        f.host.removeService(f.host.cameraStatus);
+        f.inTrackingThread([&] { QVERIFY(!f.provider->acquireServices(&f.host)); });
+        f.start();
+        const QStringList started = f.analytics.takeCalls();
+        QCOMPARE(started.size(), 5);
+        QVERIFY(started.at(4).contains(QLatin1String("\"EventName\":\"SessionStarted\"")));
+
+        const auto camera = f.host.makeCamera("A");
+        QCOMPARE(f.callsFor([&] {
+            Q_EMIT f.host.cameraStatus->deviceConnected(camera);
+            Q_EMIT f.host.cameraStatus->deviceOpened(camera);
+            Q_EMIT f.host.cameraStatus->cameraGrabStopped(camera);
+            Q_EMIT f.host.cameraStatus->deviceClosing(camera);
+            Q_EMIT f.host.cameraStatus->deviceDisconnected(camera);
+        }),
+                 QStringList());
+        const auto gain = QSharedPointer<FakeInteger>::create(QStringLiteral("@CameraDevice/Gain"));
+        QCOMPARE(f.callsFor([&] { Q_EMIT f.host.featureTree->currentChanged(gain); }).size(), 1);
+        const auto enumerate = [&] { Q_EMIT f.host.enumeration->enumerationChanged(); };
+        QCOMPARE(f.callsFor(enumerate), initialCameraCount(0));
+
+        f.stop();
+        const QStringList stopped = f.analytics.takeCalls();
+        QCOMPARE(stopped.size(), 3);
+        QVERIFY(stopped.at(0).contains(ended(0, 0)));
+        QCOMPARE(stopped.mid(1), QStringList({QStringLiteral("ruiStopSDK(#1 | 0)"),
+                                              QStringLiteral("ruiDestroyInstance(#1)")}));
+        QCOMPARE(f.callsFor([&] { Q_EMIT f.host.featureTree->currentChanged(gain); }),
+                 QStringList());
+    }
 };
 
 NERIX_TEST_MAIN(TrackingTest)

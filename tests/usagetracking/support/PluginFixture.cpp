@@ -49,6 +49,13 @@ void PluginFixture::shutDown()
     running = false;
 }
 
+void PluginFixture::openSession()
+{
+    QMetaObject::invokeMethod(UsageTrackingPluginProbe::provider(*plugin), "startTracking",
+                              Qt::BlockingQueuedConnection);
+    analytics.takeCalls();
+}
+
 void PluginFixture::click(bool yes)
 {
     controller()->setProperty("dataPrivacyOptInEnabled", yes);

@@ -29,6 +29,10 @@ public:
 
     void shutDown();
 
+    /// Opens a session past the plug-in and forgets its calls: without a session an opt-out leaves
+    /// no trace.
+    void openSession();
+
     /// The page's buttons. `apply` includes the provider's answer.
     void click(bool yes);
     void apply();
