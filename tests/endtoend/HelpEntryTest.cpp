@@ -13,6 +13,7 @@ class HelpEntryTest : public QObject
 private Q_SLOTS:
     void testEntryStandsInTheSupportGroupOfTheHelpMenu();
     void testEntryReopensThePage();
+    void testMainWindowDoesNotWaitForThePage();
     void testPrivacyStatementIsShown();
     void testOtherLinksAreWebAddresses();
     void testAddressThatIsNoWebAddressIsRefused();
@@ -40,6 +41,19 @@ void HelpEntryTest::testEntryReopensThePage()
              0);
     QCOMPARE(viewer.printed(),
              QStringList({"true false", "true UsageTracking.NerixWelcome.DataPrivacy"}));
+}
+
+void HelpEntryTest::testMainWindowDoesNotWaitForThePage()
+{
+    CViewerProcess viewer;
+    viewer.setOptions({"--show-windows"});
+    viewer.setEnvironment("QT_QPA_PLATFORM", "offscreen");
+    QCOMPARE(viewer.run("print(welcome.visible(), windows.titles());\n"
+                        "waitUntil(function () { return windows.titles().length === 2; }, 60000);\n"
+                        "print(windows.titles());"),
+             0);
+    QCOMPARE(viewer.printed(),
+             QStringList({"true Nerix Viewer", "Nerix Viewer,Welcome to the Nerix Viewer"}));
 }
 
 void HelpEntryTest::testPrivacyStatementIsShown()

@@ -12,11 +12,20 @@
 #include <Core/Plugin/ServiceLookup.h>
 #include <Plugin/AppCore/IMenuService.h>
 
+#include <chrono>
+
 #include <QAction>
 #include <QTimer>
 
 namespace Plugin {
 namespace NerixWelcome {
+
+namespace {
+
+// Without any time it would be one of the events of the start itself.
+constexpr std::chrono::milliseconds afterTheStart(1);
+
+} // namespace
 
 CNerixWelcomePlugin::CNerixWelcomePlugin(QObject *parent)
     : IPlugin(parent)
@@ -80,9 +89,9 @@ void CNerixWelcomePlugin::addWindow()
     const auto make = [this, windows] {
         m_window = new CWelcomeWindow(*m_controller, windows->window());
     };
-    // The main window need not wait for a page to be loaded.
+    // The main window, and a script, need not wait for a page to be loaded.
     connect(m_initializer, &Core::Plugin::IPluginInitializer::initializationDone, this,
-            [this, make] { QTimer::singleShot(0, this, make); });
+            [this, make] { QTimer::singleShot(afterTheStart, this, make); });
 }
 
 } // namespace NerixWelcome
