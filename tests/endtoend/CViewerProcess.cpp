@@ -55,6 +55,7 @@ CViewerProcess::CViewerProcess()
     }
     QFile::setPermissions(path("runtime"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_environment.insert("XDG_RUNTIME_DIR", path("runtime"));
+    m_process->setWorkingDirectory(m_folder.path());
 #ifdef NERIX_TSAN_PRELOAD
     m_environment.insert("LD_PRELOAD", NERIX_TSAN_PRELOAD);
 #endif
