@@ -44,9 +44,11 @@ CDeviceAccess::CDeviceAccess(CScriptWait &wait)
 QString CDeviceAccess::run(std::function<void()> work) const
 {
     const auto outcome = std::make_shared<Outcome>();
-    QThreadPool::globalInstance()->start([outcome, work = std::move(work)] {
+    QThreadPool::globalInstance()->start([outcome, work = std::move(work)]() mutable {
         outcome->failure = failureOf(work);
+        work = nullptr; // what it holds is let go before the script goes on
         outcome->isKnown = true;
+        CScriptWait::wake();
     });
     const auto result = m_wait.until([&] { return outcome->isKnown.load(); }, longestAccess);
     if (result == CScriptWait::Result::TimedOut) {

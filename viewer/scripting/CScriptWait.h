@@ -21,7 +21,10 @@ public:
         Stopped ///< the script has been told to end
     };
 
-    CScriptWait() = default;
+    /// A condition may depend on another thread, which tells nobody: it is looked at again and
+    /// again \a lookAgainAfter. The default is short enough not to be felt, and long enough not to
+    /// load the machine.
+    explicit CScriptWait(std::chrono::milliseconds lookAgainAfter = std::chrono::milliseconds(5));
 
     Q_DISABLE_COPY_MOVE(CScriptWait)
 
@@ -29,12 +32,17 @@ public:
     /// looked at before anything else, so one that holds is met whatever the limit.
     Result until(const std::function<bool()> &condition, std::chrono::milliseconds limit);
 
+    /// Lets every wait look at its condition at once. Callable in any thread, by who has just made
+    /// a condition true there, in the global thread pool also while the application ends.
+    static void wake();
+
     /// Ends every wait, the running ones and those to come. Callable in any thread.
     void stop();
 
     bool isStopped() const;
 
 private:
+    const std::chrono::milliseconds m_lookAgainAfter;
     std::atomic<bool> m_isStopped{false};
 };
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void testConditionThatHoldsIsMetWithoutALimit();
     void testConditionMayComeTrueByAnEvent();
     void testConditionMayComeTrueInAnotherThread();
+    void testWakingLooksAtOnce();
     void testLimitEndsTheWait();
     void testStopEndsTheWait();
     void testNothingWaitsOnceStopped();
@@ -55,6 +56,19 @@ void ScriptWaitTest::testConditionMayComeTrueInAnotherThread()
     const QScopedPointer<QThread> thread(QThread::create([&happened] { happened = true; }));
     thread->start();
     QCOMPARE(wait.until([&happened] { return happened.load(); }, 60s), Result::Met);
+    QVERIFY(thread->wait());
+}
+
+void ScriptWaitTest::testWakingLooksAtOnce()
+{
+    CScriptWait wait(1h);
+    std::atomic<bool> happened{false};
+    const QScopedPointer<QThread> thread(QThread::create([&happened] {
+        happened = true;
+        CScriptWait::wake();
+    }));
+    QTimer::singleShot(0, thread.data(), [&thread] { thread->start(); });
+    QCOMPARE(wait.until([&happened] { return happened.load(); }, 2h), Result::Met);
     QVERIFY(thread->wait());
 }
 
