@@ -58,6 +58,11 @@ CViewerProcess::CViewerProcess()
     m_process->setWorkingDirectory(m_folder.path());
 #ifdef NERIX_TSAN_PRELOAD
     m_environment.insert("LD_PRELOAD", NERIX_TSAN_PRELOAD);
+    // What GLib keeps for later is handed from thread to thread unseen.
+    m_environment.insert("G_SLICE", "always-malloc");
+    if (!m_environment.contains("TSAN_OPTIONS")) {
+        m_environment.insert("TSAN_OPTIONS", "history_size=7");
+    }
 #endif
     connect(m_process, &QProcess::readyReadStandardOutput, this, &CViewerProcess::onOutput);
 }
