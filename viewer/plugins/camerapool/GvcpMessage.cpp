@@ -8,8 +8,7 @@ namespace CameraPool {
 namespace GvcpMessage {
 namespace {
 
-// Layout and numbers of the GigE Vision specification 2.0, chapters 15 (headers) and 28 (bootstrap
-// registers).
+// Layout and numbers of GigE Vision 2.0, chapters 15 (headers) and 28 (bootstrap registers).
 constexpr quint8 CommandKey = 0x42;
 constexpr quint8 AnswerExpected = 0x01;
 constexpr quint16 DiscoveryCommand = 0x0002;
