@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 
-// The two answer tiles: looks by state, pictures, mutual exclusion.
+// The two answer tiles: looks by state, words, pictures, mutual exclusion.
 
 #include "ConsentPage.h"
 #include "TestMain.h"
 
 #include <QColor>
+#include <QFont>
 #include <QQmlProperty>
 
 namespace {
@@ -138,6 +139,38 @@ private Q_SLOTS:
         QCOMPARE(text->property("horizontalAlignment").toInt(), int(Qt::AlignHCenter));
         QCOMPARE(text->property("elide").toInt(), int(Qt::ElideRight));
         QCOMPARE(text->z(), 2.0);
+    }
+
+    void wordsAreDrawn_data()
+    {
+        QTest::addColumn<QByteArray>("tile");
+        QTest::addColumn<QString>("word");
+        QTest::newRow("yes") << QByteArray(yes) << "Yes";
+        QTest::newRow("no") << QByteArray(no) << "No";
+    }
+
+    void wordsAreDrawn()
+    {
+        QFETCH(QByteArray, tile);
+        const ConsentPage page;
+        const QQuickItem *drawn = part(page, tile.constData(), "textItem");
+        QVERIFY(drawn->isVisible());
+        QTEST(drawn->property("text").toString(), "word");
+        QCOMPARE(drawn->property("font").value<QFont>().pixelSize(), 12);
+    }
+
+    void wordFollowsTheTextAndTheFontOfItsTile()
+    {
+        const ConsentPage page;
+        QFont font(QStringLiteral("Letters of the tile"));
+        font.setPixelSize(20);
+        page.item(no)->setProperty("text", QStringLiteral("Perhaps"));
+        page.item(no)->setProperty("font", font);
+        const QQuickItem *drawn = part(page, no, "textItem");
+        QCOMPARE(drawn->property("text").toString(), QStringLiteral("Perhaps"));
+        const auto drawnFont = drawn->property("font").value<QFont>();
+        QCOMPARE(drawnFont.family(), QStringLiteral("Letters of the tile"));
+        QCOMPARE(drawnFont.pixelSize(), 20);
     }
 
     void shadowLiesBehindTheWholeTile()
