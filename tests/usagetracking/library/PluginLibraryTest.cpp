@@ -291,31 +291,6 @@ private Q_SLOTS:
         QCOMPARE(files.size(), 11);
     }
 
-    void imagesAre80By80WithTransparency_data()
-    {
-        QTest::addColumn<QString>("path");
-        for (const char *name : {"up-grey", "up-green", "down-grey", "down-red"}) {
-            QTest::newRow(name) << QStringLiteral(":/usagetracking/qml/images/thumbs-%1.png")
-                                       .arg(QLatin1String(name));
-        }
-    }
-
-    void imagesAre80By80WithTransparency()
-    {
-        QFETCH(QString, path);
-        QVERIFY2(m_loader.load(), qPrintable(m_loader.errorString()));
-        QFile image(path);
-        QVERIFY(image.open(QIODevice::ReadOnly));
-        // Signature, length and name of the first chunk, width, height, bits, red-green-blue-alpha.
-        QCOMPARE(image.read(26).toHex(), QByteArray("89504e470d0a1a0a"
-                                                    "0000000d"
-                                                    "49484452"
-                                                    "00000050"
-                                                    "00000050"
-                                                    "08"
-                                                    "06"));
-    }
-
     void catalogueHoldsItsMessages_data()
     {
         QTest::addColumn<QString>("language");
