@@ -77,6 +77,18 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(expectedDirectory()).isDir());
     }
 
+    void configurationDirectoryIsPassedAsUtf8()
+    {
+        const QString usual = QCoreApplication::applicationName();
+        QCoreApplication::setApplicationName(QStringLiteral("\u4f50\u85e4 J\u00fcrgen"));
+        TrackingFixture f;
+        f.start();
+        QCoreApplication::setApplicationName(usual);
+        const QString directory = f.analytics.calls().at(1).section(QStringLiteral(" | "), 1, 1);
+        QCOMPARE(directory.toUtf8(),
+                 qgetenv("XDG_DATA_HOME") + "/Ostrand/\xe4\xbd\x90\xe8\x97\xa4 J\xc3\xbcrgen");
+    }
+
     void failingStepEndsTheStart_data()
     {
         QTest::addColumn<QString>("failing");
