@@ -3,6 +3,7 @@
 
 // The tab on the welcome screen and the entry in the Help menu.
 
+#include "MessageLog.h"
 #include "PluginFixture.h"
 #include "TestMain.h"
 
@@ -63,19 +64,23 @@ private Q_SLOTS:
     {
         PluginFixture f;
         f.host.removeService(f.host.welcome);
+        const MessageLog log;
         QCOMPARE(f.initialize(), true);
         f.host.menu->registeredAction->trigger();
         QCOMPARE(f.host.welcome->tabs.size(), 0);
         QCOMPARE(f.host.welcome->shownTabs.size(), 0);
+        QCOMPARE(log.texts(), QStringList());
     }
 
     void withoutAMenuServiceThereIsNoEntryAndNoWord()
     {
         PluginFixture f;
         f.host.removeService(f.host.menu);
+        const MessageLog log;
         QCOMPARE(f.initialize(), true);
         QCOMPARE(f.host.menu->calls, QStringList());
         QVERIFY(!f.plugin->findChild<QAction *>());
+        QCOMPARE(log.texts(), QStringList());
     }
 };
 
