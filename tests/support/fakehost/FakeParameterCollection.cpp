@@ -9,6 +9,9 @@ using ParameterCollection::IParameter;
 template <class Interface, class Null>
 QSharedPointer<Interface> FakeParameterCollection::find(const QString &fullName) const
 {
+    if (throwingLookups.contains(fullName)) {
+        throw CParameterException(QStringLiteral("look-up failed"));
+    }
     for (const auto &candidate : all) {
         const auto found = candidate.dynamicCast<Interface>();
         if (found && found->fullName() == fullName) {

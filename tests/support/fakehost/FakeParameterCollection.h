@@ -7,6 +7,7 @@
 #include <ParameterCollection/IParameterCollection.h>
 
 #include <QList>
+#include <QSet>
 #include <QSharedPointer>
 
 /// The parameters that a test puts in, in that order.
@@ -37,6 +38,8 @@ public:
     QString stream;
     bool listThrows = false;
     bool streamThrows = false;
+    /// The full names whose look-up throws, whatever kind is looked for.
+    QSet<QString> throwingLookups;
     /// The trees whose stream was read, in order.
     mutable QList<QString> streamsRead;
 

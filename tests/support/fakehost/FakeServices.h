@@ -70,6 +70,9 @@ public:
         const Core::CameraPoolComponents::DeviceBaseInfoPtr &ptrDeviceInfo) const override
     {
         ++fetches;
+        if (onFetch) {
+            onFetch();
+        }
         return collections.value(ptrDeviceInfo.data());
     }
 
@@ -78,4 +81,6 @@ public:
         collections;
     /// How often a collection was asked for.
     mutable int fetches = 0;
+    /// Called each time, before the answer. It may throw.
+    std::function<void()> onFetch;
 };

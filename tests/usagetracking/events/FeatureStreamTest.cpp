@@ -5,6 +5,7 @@
 
 #include "CatchingApplication.h"
 #include "EventCalls.h"
+#include "MessageLog.h"
 #include "TestMain.h"
 #include "TrackingFixture.h"
 
@@ -104,6 +105,14 @@ private:
                     [](auto &p) { addEnable(p, true)->throwing = {"value"}; });
         addGuardRow("exception of the switch's availability", true,
                     [](auto &p) { addEnable(p, true)->throwing = {"isUnavailable"}; });
+        addGuardRow("exception of the mode's look-up", true, [](auto &p) {
+            addMode(p, 1);
+            p.throwingLookups = {modeName};
+        });
+        addGuardRow("exception of the switch's look-up", true, [](auto &p) {
+            addEnable(p, true);
+            p.throwingLookups = {enableName};
+        });
         addGuardRow("the second probe runs after the first one's exception", false, [](auto &p) {
             addMode(p, 1)->throwing = {"intValue"};
             addEnable(p, true);
@@ -113,6 +122,19 @@ private:
                         addMode(p, 1);
                         addEnable(p, true)->throwing = {"value"};
                     });
+        addGuardRow("the second probe runs after the first one's look-up failed", false,
+                    [](auto &p) {
+                        addEnable(p, true);
+                        p.throwingLookups = {modeName};
+                    });
+        addGuardRow("a failed look-up of the second probe keeps the first one's flag", false,
+                    [](auto &p) {
+                        addMode(p, 1);
+                        p.throwingLookups = {enableName};
+                    });
+        addGuardRow("exceptions of both look-ups", true, [](auto &p) {
+            p.throwingLookups = {modeName, enableName};
+        });
         addGuardRow("exceptions of both", true, [](auto &p) {
             addMode(p, 1)->throwing = {"intValue"};
             addEnable(p, true)->throwing = {"value"};
@@ -179,10 +201,16 @@ private Q_SLOTS:
         const auto parameters = f.host.parametersOf(camera);
         parameters->stream = QStringLiteral("whole");
         preparation(*parameters);
+        const MessageLog log;
         QCOMPARE(openAndClose(f, camera),
                  QStringList({record("Opened", readable ? "whole" : "[...cut]"),
                               record("Closed", "whole")}));
         QCOMPARE(parameters->streamsRead.size(), readable ? 2 : 1);
+        // The observers ask for the availability too, and say when that fails.
+        QStringList texts = log.texts();
+        texts.removeAll(QStringLiteral("Tracking (createParameterChangedHandler) failed with "
+                                       "exception"));
+        QCOMPARE(texts, QStringList());
     }
 
     void guardedOpeningStillAttachesObservers()

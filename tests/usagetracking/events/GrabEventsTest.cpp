@@ -5,8 +5,12 @@
 
 #include "CatchingApplication.h"
 #include "EventCalls.h"
+#include "MessageLog.h"
 #include "TestMain.h"
 #include "TrackingFixture.h"
+
+#include <functional>
+#include <stdexcept>
 
 using Core::CameraPoolComponents::CameraInfoPtr;
 using Core::CameraPoolComponents::DeviceBaseInfoPtr;
@@ -15,7 +19,12 @@ namespace {
 
 const char *const modeName = "@CameraDevice/AcquisitionMode";
 
+/// Lets something throw that the grab of a camera asks for.
+using Breakage = std::function<void(FakeHost &, const QSharedPointer<FakeCamera> &)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Breakage)
 
 class GrabEventsTest : public QObject
 {
@@ -176,17 +185,55 @@ private Q_SLOTS:
         const auto camera = f.host.makeCamera("A");
         f.connectCamera(camera);
         addMode(f, camera)->throwing = {"valueText"};
+        const MessageLog log;
         QCOMPARE(startCalls(f, camera), QStringList());
         QCOMPARE(stopCalls(f, camera), stopped("undefined"));
+        QCOMPARE(log.texts(), QStringList());
     }
 
-    void anyExceptionDropsTheStart()
+    void anyExceptionDropsTheStartWithoutAWord_data()
+    {
+        QTest::addColumn<Breakage>("breakage");
+        const auto row = [](const char *name, const Breakage &breakage) {
+            QTest::newRow(name) << breakage;
+        };
+        row("of the parameter service", [](FakeHost &host, const auto &) {
+            host.parameterService->onFetch = [] { throw std::runtime_error("fetch failed"); };
+        });
+        row("of another kind than the standard ones",
+            [](FakeHost &host, const auto &) { host.parameterService->onFetch = [] { throw 5; }; });
+        row("of the look-up of the mode", [](FakeHost &host, const auto &camera) {
+            host.parametersOf(camera)->throwingLookups = {QLatin1String(modeName)};
+        });
+        row("of the value of the mode", [](FakeHost &host, const auto &camera) {
+            const auto mode = host.parametersOf(camera)->all.at(0);
+            mode.template dynamicCast<FakeEnumeration>()->throwing = {"valueText"};
+        });
+        row("of a mode that is missing",
+            [](FakeHost &host, const auto &camera) { host.parametersOf(camera)->all.clear(); });
+        row("of the camera's identity",
+            [](FakeHost &, const auto &camera) { camera->identityThrows = true; });
+    }
+
+    void anyExceptionDropsTheStartWithoutAWord()
+    {
+        QFETCH(Breakage, breakage);
+        TrackingFixture f;
+        f.startQuietly();
+        const auto camera = connectCamera(f, "Continuous");
+        breakage(f.host, camera);
+        const MessageLog log;
+        QCOMPARE(startCalls(f, camera), QStringList());
+        QCOMPARE(log.texts(), QStringList());
+    }
+
+    void lookUpOfTheModeThatFailsIsUndefinedAtTheStop()
     {
         TrackingFixture f;
         f.startQuietly();
         const auto camera = connectCamera(f, "Continuous");
-        camera->identityThrows = true;
-        QCOMPARE(startCalls(f, camera), QStringList());
+        f.host.parametersOf(camera)->throwingLookups = {QLatin1String(modeName)};
+        QCOMPARE(stopCalls(f, camera), stopped("undefined"));
     }
 
     void exceptionOfTheCameraLeavesTheSlotOfTheStop()
