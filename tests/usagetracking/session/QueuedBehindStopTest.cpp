@@ -66,6 +66,27 @@ private Q_SLOTS:
                      R"("InitialCameraCount":0} | ))")));
     }
 
+    void stopWithoutASessionKeepsTheObserversOfThatCamera_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::newRow("stop") << QByteArray("stopTracking");
+        QTest::newRow("opt-out") << QByteArray("stopTrackingAndOptOut");
+    }
+
+    void stopWithoutASessionKeepsTheObserversOfThatCamera()
+    {
+        QFETCH(QByteArray, request);
+        TrackingFixture f;
+        const auto camera = f.host.makeCamera("A");
+        const auto gain = f.host.parametersOf(camera)->add<FakeInteger>("@CameraDevice/Gain");
+        f.startQuietly();
+        callsBehindTheStop(f, [&] { Q_EMIT f.host.cameraStatus->deviceOpened(camera); });
+        QMetaObject::invokeMethod(f.provider, request.constData(), Qt::BlockingQueuedConnection);
+        QCOMPARE(f.analytics.takeCalls(), QStringList());
+        QCOMPARE(f.callsFor([&] { gain->setValueText(QStringLiteral("1")); }),
+                 QStringList(parameterChanged("NULL", "", "1")));
+    }
+
     void observersOfThatCameraKeepTheNullHandleUntilTheNextStop()
     {
         TrackingFixture f;

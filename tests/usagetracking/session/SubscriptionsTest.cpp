@@ -202,6 +202,28 @@ private Q_SLOTS:
         QCOMPARE(s.receiverCounts(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
     }
 
+    void stopWithoutASessionKeepsTheSubscriptionsOfAnEarlierStart_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::newRow("stop") << QByteArray("stopTracking");
+        QTest::newRow("opt-out") << QByteArray("stopTrackingAndOptOut");
+    }
+
+    void stopWithoutASessionKeepsTheSubscriptionsOfAnEarlierStart()
+    {
+        QFETCH(QByteArray, request);
+        Subscriptions s;
+        s.tracking.start();
+        // The second start fails and so leaves no session, but what the first one subscribed.
+        s.tracking.analytics.setResult(QStringLiteral("ruiStartSDK"), 5);
+        s.tracking.start();
+        s.journal.take();
+        QMetaObject::invokeMethod(s.tracking.provider, request.constData(),
+                                  Qt::BlockingQueuedConnection);
+        QCOMPARE(s.journal.take(), QStringList());
+        QCOMPARE(s.receiverCounts(), QList<int>({1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}));
+    }
+
     void initialCameraCountDisconnectsBeforeItSends()
     {
         Subscriptions s;
