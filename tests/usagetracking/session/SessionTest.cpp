@@ -42,6 +42,13 @@ QString stopCall(int instance)
     return QStringLiteral("ruiStopSDK(#%1 | 0)").arg(instance);
 }
 
+void addFailingCodes()
+{
+    QTest::addColumn<int>("code");
+    QTest::newRow("positive") << 5;
+    QTest::newRow("negative") << -5;
+}
+
 } // namespace
 
 class SessionTest : public QObject
@@ -92,23 +99,28 @@ private Q_SLOTS:
     void failingStepEndsTheStart_data()
     {
         QTest::addColumn<QString>("failing");
+        QTest::addColumn<int>("code");
         QTest::addColumn<QStringList>("calls");
-        QTest::newRow("configuration fails: destroyed, no event")
-            << "ruiCreateConfig" << QStringList{create, config(1), call("ruiDestroyInstance", 1)};
-        QTest::newRow("product data fails: destroyed, no event")
-            << "ruiSetProductData"
-            << QStringList{create, config(1), productData(1), call("ruiDestroyInstance", 1)};
-        QTest::newRow("start fails: destroyed, no event")
-            << "ruiStartSDK"
-            << QStringList{create, config(1), productData(1), call("ruiStartSDK", 1),
-                           call("ruiDestroyInstance", 1)};
+        for (const int code : {5, -5}) {
+            QTest::addRow("configuration fails with %d: destroyed, no event", code)
+                << "ruiCreateConfig" << code
+                << QStringList{create, config(1), call("ruiDestroyInstance", 1)};
+            QTest::addRow("product data fails with %d: destroyed, no event", code)
+                << "ruiSetProductData" << code
+                << QStringList{create, config(1), productData(1), call("ruiDestroyInstance", 1)};
+            QTest::addRow("start fails with %d: destroyed, no event", code)
+                << "ruiStartSDK" << code
+                << QStringList{create, config(1), productData(1), call("ruiStartSDK", 1),
+                               call("ruiDestroyInstance", 1)};
+        }
     }
 
     void failingStepEndsTheStart()
     {
         QFETCH(QString, failing);
+        QFETCH(int, code);
         TrackingFixture f;
-        f.analytics.setResult(failing, 5);
+        f.analytics.setResult(failing, code);
         f.start();
         QTEST(f.analytics.calls(), "calls");
         QCOMPARE(
@@ -212,15 +224,23 @@ private Q_SLOTS:
         TrackingFixture f;
         f.startQuietly();
         f.analytics.setResult(QStringLiteral("ruiOptOut"), -2147483647);
+        f.analytics.setResult(QStringLiteral("ruiStartSDK"), -1);
         QTest::ignoreMessage(QtWarningMsg, "ruiOptOut failed with code -2147483647");
+        QTest::ignoreMessage(QtWarningMsg, "ruiOptOut succeeding ruiStartSDK failed with code -1");
         f.optOut();
+    }
+
+    void failedConfigurationOfTheOptOutKeepsTheHandle_data()
+    {
+        addFailingCodes();
     }
 
     void failedConfigurationOfTheOptOutKeepsTheHandle()
     {
+        QFETCH(int, code);
         TrackingFixture f;
         f.startQuietly();
-        f.analytics.setResult(QStringLiteral("ruiCreateConfig"), 5);
+        f.analytics.setResult(QStringLiteral("ruiCreateConfig"), code);
         f.optOut();
         QCOMPARE(f.analytics.takeCalls(),
                  QStringList({sessionEnded, stopCall(1), call("ruiDestroyInstance", 1), create,
@@ -246,11 +266,17 @@ private Q_SLOTS:
                  QStringList({create, config(3), productData(3), call("ruiStartSDK", 3)}));
     }
 
+    void failedProductDataOfTheOptOutDestroysWithoutRecording_data()
+    {
+        addFailingCodes();
+    }
+
     void failedProductDataOfTheOptOutDestroysWithoutRecording()
     {
+        QFETCH(int, code);
         TrackingFixture f;
         f.startQuietly();
-        f.analytics.setResult(QStringLiteral("ruiSetProductData"), 2);
+        f.analytics.setResult(QStringLiteral("ruiSetProductData"), code);
         f.optOut();
         QCOMPARE(f.analytics.calls().mid(3),
                  QStringList({create, config(2), productData(2), call("ruiDestroyInstance", 2)}));
