@@ -5,10 +5,12 @@
 
 #include "CatchingApplication.h"
 #include "EventCalls.h"
+#include "MessageLog.h"
 #include "TestMain.h"
 #include "TrackingFixture.h"
 
 #include <memory>
+#include <stdexcept>
 
 using Core::CameraPoolComponents::CameraInfoPtr;
 using Nerix::CGrabResultData;
@@ -25,6 +27,26 @@ CGrabResultPtr success()
 {
     return std::make_shared<CGrabResultData>(Nerix::CImage());
 }
+
+/// A camera that, if told so, cannot be asked for its identity once a failure was reported.
+class VanishingCamera : public FakeCamera
+{
+public:
+    VanishingCamera()
+        : FakeCamera("A")
+    {}
+
+    QString identity() const override
+    {
+        const QStringList calls = RecordingAnalytics::instance().calls();
+        if (vanishes && !calls.filter(R"("EventName":"Failed")").isEmpty()) {
+            throw std::runtime_error("camera vanished");
+        }
+        return cameraIdentity;
+    }
+
+    bool vanishes = false;
+};
 
 } // namespace
 
@@ -292,6 +314,35 @@ private Q_SLOTS:
         QCOMPARE(CatchingApplication::takeCaught(), QStringList("value failed"));
         counter->throwing.clear();
         QCOMPARE(reported(f, camera), QStringList(failed("0x00000001", 1, ".")));
+    }
+
+    void reportThatBreaksOffKeepsAllTheFailuresForALaterStop()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        const auto camera = QSharedPointer<VanishingCamera>::create();
+        f.host.parameterService->collections.insert(
+            camera.data(), QSharedPointer<FakeParameterCollection>::create());
+        f.connectCamera(camera);
+        grab(f, camera, {failure(1, "."), failure(2, "!"), failure(2, "!")});
+        camera->vanishes = true;
+        QCOMPARE(reported(f, camera).size(), 1);
+        QCOMPARE(CatchingApplication::takeCaught(), QStringList("camera vanished"));
+        camera->vanishes = false;
+        QCOMPARE(reported(f, camera),
+                 QStringList({failed("0x00000001", 1, "."), failed("0x00000002", 2, "!")}));
+        QCOMPARE(reported(f, camera), QStringList());
+    }
+
+    void failuresAndUnreadableCountersAreNotLogged()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        const auto camera = connectCamera(f);
+        const MessageLog log;
+        grab(f, camera, {failure(1, "."), failure(1, "."), failure(2, nullptr)});
+        QCOMPARE(reported(f, camera).size(), 2);
+        QCOMPARE(log.texts(), QStringList());
     }
 
     void failuresOutliveRemovalAndSession()
