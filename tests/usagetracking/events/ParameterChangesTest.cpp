@@ -122,6 +122,8 @@ private Q_SLOTS:
             << QString(129, '"') << QString("\\\"").repeated(128);
         QTest::newRow("the limit counts UTF-16 units") << QStringLiteral("\U0001f4f7").repeated(100)
                                                        << QStringLiteral("\U0001f4f7").repeated(64);
+        QTest::newRow("a pair that is cut in half leaves its first half, escaped")
+            << x(127) + QStringLiteral("\U0001f4f7") << x(127) + "\\ud83d";
         QTest::newRow("values are not filtered")
             << QString("XQZ C:\\dir/file") << QString("XQZ C:\\\\dir/file");
     }
@@ -255,6 +257,20 @@ private Q_SLOTS:
                                                   R"({"EventCategory":"FeatureChosen",)"
                                                   R"("EventName":"Gain"})")
                                       << change("1", "2"));
+    }
+
+    void changeInTheTrackingThreadIsToldAtOnce()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        const auto gain = openWithGain(f, f.host.makeCamera("A"));
+        f.analytics.takeCalls();
+        QStringList toldAtOnce;
+        f.inTrackingThread([&] {
+            gain->setValueText("1");
+            toldAtOnce = f.analytics.takeCalls();
+        });
+        QCOMPARE(toldAtOnce, QStringList(change("", "1")));
     }
 
     void observersLiveInTheTrackingThread()

@@ -5,6 +5,7 @@
 
 #include "CatchingApplication.h"
 #include "EventCalls.h"
+#include "MessageLog.h"
 #include "TestMain.h"
 #include "TrackingFixture.h"
 
@@ -201,6 +202,35 @@ private Q_SLOTS:
         QCOMPARE(observers(f, before), 1);
         QCOMPARE(observers(f, broken), 0);
         QCOMPARE(observers(f, after), 0);
+    }
+
+    void testBehindTheOneThatExcludesIsNotMade_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::newRow("unavailable: neither type nor eligibility") << Change([](auto &p) {
+            p.stateUnavailable = true;
+            p.throwing = {"interfaceType", "isUserSettable"};
+        });
+        QTest::newRow("category: no eligibility") << Change([](auto &p) {
+            p.stateType = ParameterCollection::InterfaceCategory;
+            p.throwing = {"isUserSettable"};
+        });
+    }
+
+    void testBehindTheOneThatExcludesIsNotMade()
+    {
+        QFETCH(Change, change);
+        TrackingFixture f;
+        f.startQuietly();
+        const auto camera = f.host.makeCamera("A");
+        const auto excluded = add(f, camera, "@CameraDevice/Excluded");
+        const auto after = add(f, camera, "@CameraDevice/After");
+        change(*excluded);
+        const MessageLog log;
+        f.openCamera(camera);
+        QCOMPARE(observers(f, excluded), 0);
+        QCOMPARE(observers(f, after), 1);
+        QCOMPARE(log.texts(), QStringList());
     }
 
     void failureToNumberTheCameraCostsOnlyThatParameter()
