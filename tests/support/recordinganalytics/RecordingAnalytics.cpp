@@ -19,6 +19,7 @@ void RecordingAnalytics::reset()
     const QMutexLocker lock(&m_mutex);
     m_calls.clear();
     m_results.clear();
+    m_during.clear();
     m_createsInstances = true;
     m_lastInstance = 0;
 }
@@ -27,6 +28,12 @@ void RecordingAnalytics::setResult(const QString &function, std::int32_t code)
 {
     const QMutexLocker lock(&m_mutex);
     m_results.insert(function, code);
+}
+
+void RecordingAnalytics::setDuring(const QString &function, const std::function<void()> &action)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_during.insert(function, action);
 }
 
 void RecordingAnalytics::setCreatesInstances(bool creates)
@@ -98,11 +105,17 @@ bool RecordingAnalytics::waitForCalls(int count) const
 std::int32_t RecordingAnalytics::record(const char *function, const QStringList &arguments)
 {
     const QString name = QString::fromLatin1(function);
-    const QMutexLocker lock(&m_mutex);
+    QMutexLocker lock(&m_mutex);
     m_calls.append({QStringLiteral("%1(%2)").arg(name, arguments.join(QStringLiteral(" | "))),
                     QThread::currentThread()});
     m_called.wakeAll();
-    return m_results.value(name, 0);
+    const std::int32_t result = m_results.value(name, 0);
+    const std::function<void()> action = m_during.value(name);
+    lock.unlock();
+    if (action) {
+        action();
+    }
+    return result;
 }
 
 void *RecordingAnalytics::createInstance(std::int32_t flag)

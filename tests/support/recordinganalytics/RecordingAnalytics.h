@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include <QList>
 #include <QMap>
@@ -29,11 +30,14 @@ class Q_DECL_EXPORT RecordingAnalytics
 public:
     static RecordingAnalytics &instance();
 
-    /// Forgets calls, instances and results.
+    /// Forgets calls, instances, results and what is done during calls.
     void reset();
 
     /// The result of every later call of \a function, for example "ruiOptOut". 0 unless set.
     void setResult(const QString &function, std::int32_t code);
+
+    /// What every later call of \a function does, in its thread, once it is recorded.
+    void setDuring(const QString &function, const std::function<void()> &action);
 
     /// Whether `ruiCreateInstance` gives an instance. It does unless told otherwise.
     void setCreatesInstances(bool creates);
@@ -64,6 +68,7 @@ private:
     mutable QWaitCondition m_called;
     QList<RecordedCall> m_calls;
     QMap<QString, std::int32_t> m_results;
+    QMap<QString, std::function<void()>> m_during;
     bool m_createsInstances = true;
     std::uintptr_t m_lastInstance = 0;
 };
