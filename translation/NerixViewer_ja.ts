@@ -444,6 +444,10 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <source>Image saved: %1</source>
         <translation>画像を保存しました：%1</translation>
     </message>
+    <message>
+        <source>Save Image</source>
+        <translation>画像を保存</translation>
+    </message>
 </context>
 <context>
     <name>ImageView::CViewEntries</name>
@@ -482,8 +486,8 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <translation>%1 に書き込めません（%2）。別のフォルダーを選ぶか、空き容量を増やしてください</translation>
     </message>
     <message>
-        <source>%1 has no format: give it a name that ends with .png or .tif</source>
-        <translation>%1 の形式がわかりません。.png または .tif で終わる名前を付けてください</translation>
+        <source>%1 is not the name of a PNG or TIFF file: give it one that ends with .png or .tif</source>
+        <translation>%1 は PNG または TIFF のファイル名ではありません。.png または .tif で終わる名前を付けてください</translation>
     </message>
 </context>
 <context>

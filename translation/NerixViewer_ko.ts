@@ -444,6 +444,10 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <source>Image saved: %1</source>
         <translation>이미지를 저장했습니다: %1</translation>
     </message>
+    <message>
+        <source>Save Image</source>
+        <translation>이미지 저장</translation>
+    </message>
 </context>
 <context>
     <name>ImageView::CViewEntries</name>
@@ -482,8 +486,8 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <translation>%1에 쓸 수 없습니다(%2). 다른 폴더를 선택하거나 공간을 확보하세요</translation>
     </message>
     <message>
-        <source>%1 has no format: give it a name that ends with .png or .tif</source>
-        <translation>%1의 형식을 알 수 없습니다. .png 또는 .tif로 끝나는 이름을 지정하세요</translation>
+        <source>%1 is not the name of a PNG or TIFF file: give it one that ends with .png or .tif</source>
+        <translation>%1은(는) PNG 또는 TIFF 파일 이름이 아닙니다. .png 또는 .tif로 끝나는 이름을 지정하세요</translation>
     </message>
 </context>
 <context>

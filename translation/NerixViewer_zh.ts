@@ -444,6 +444,10 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <source>Image saved: %1</source>
         <translation>图像已保存：%1</translation>
     </message>
+    <message>
+        <source>Save Image</source>
+        <translation>保存图像</translation>
+    </message>
 </context>
 <context>
     <name>ImageView::CViewEntries</name>
@@ -482,8 +486,8 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <translation>无法写入 %1（%2）：请选择其他文件夹，或腾出空间</translation>
     </message>
     <message>
-        <source>%1 has no format: give it a name that ends with .png or .tif</source>
-        <translation>%1 没有格式：请使用以 .png 或 .tif 结尾的名称</translation>
+        <source>%1 is not the name of a PNG or TIFF file: give it one that ends with .png or .tif</source>
+        <translation>%1 不是 PNG 或 TIFF 文件名：请使用以 .png 或 .tif 结尾的名称</translation>
     </message>
 </context>
 <context>

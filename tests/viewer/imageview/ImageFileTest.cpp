@@ -136,12 +136,13 @@ void ImageFileTest::testErrors_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("message");
 
-    QTest::newRow("a name without a format")
-        << "/tmp/image"
-        << "/tmp/image has no format: give it a name that ends with .png or .tif";
+    QTest::newRow("a name without a format") << "/tmp/image"
+                                             << "/tmp/image is not the name of a PNG or TIFF file: "
+                                                "give it one that ends with .png or .tif";
     QTest::newRow("a format that loses values")
         << "/tmp/image.jpg"
-        << "/tmp/image.jpg has no format: give it a name that ends with .png or .tif";
+        << "/tmp/image.jpg is not the name of a PNG or TIFF file: give it one that ends with .png "
+           "or .tif";
     QTest::newRow("a folder that is not there")
         << "/nowhere/image.png"
         << "/nowhere/image.png cannot be written (No such file or directory): choose another "
@@ -212,7 +213,8 @@ void ImageFileTest::testSavingTellsWhatFailed()
     saving.save(std::make_shared<Nerix::CGrabResultData>(greyImage()), "/tmp/image");
     QVERIFY(failed.wait());
     QCOMPARE(failed.at(0).at(0).toString(),
-             QString("/tmp/image has no format: give it a name that ends with .png or .tif"));
+             QString("/tmp/image is not the name of a PNG or TIFF file: give it one that ends with "
+                     ".png or .tif"));
 }
 
 QTEST_GUILESS_MAIN(ImageFileTest)

@@ -13,6 +13,7 @@
 #include "support/CFakeCameraControl.h"
 #include "support/CFakeCameraStatus.h"
 #include "support/CFakeMainWindow.h"
+#include "support/CSettingsSandbox.h"
 #include "TestImage.h"
 
 #include <pluginsystem/CServiceRegistry.h>
@@ -23,6 +24,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -61,6 +63,9 @@ private Q_SLOTS:
     void testEntriesZoomTheCurrentImage();
     void testEntriesZoomTheSelectedOfTwo();
     void testSavesWhatWasSeenWhenTheEntryWasChosen();
+    void testSaveThatFailsIsToldInADialog_data();
+    void testSaveThatFailsIsToldInADialog();
+    void testFolderIsRememberedOnceSomethingIsSavedThere();
     void testFailedImagesAreReportedEachOnce();
     void testWithoutAWindowThereAreTheEntries();
     void testTakesAllAwayAtTheEnd();
@@ -73,7 +78,10 @@ private:
     void give(CImagePane *pane, const Nerix::CGrabResultPtr &result);
     bool isEnabled(const char *id) const;
     int trigger(const char *id);
+    QFileDialog *askForFile();
+    void saveAs(const QString &path);
 
+    std::unique_ptr<CSettingsSandbox> m_settings;
     QSharedPointer<CFakeCameraControl> m_control;
     QSharedPointer<CFakeCameraStatus> m_status;
     QSharedPointer<CameraPool::CImageNews> m_news;
@@ -87,6 +95,7 @@ private:
 
 void PluginTest::init()
 {
+    m_settings = std::make_unique<CSettingsSandbox>();
     m_control = QSharedPointer<CFakeCameraControl>::create();
     m_status = QSharedPointer<CFakeCameraStatus>::create();
     m_news = QSharedPointer<CameraPool::CImageNews>::create();
@@ -150,6 +159,25 @@ bool PluginTest::isEnabled(const char *id) const
 int PluginTest::trigger(const char *id)
 {
     return int(m_menus->trigger(Core::CId(id)));
+}
+
+// Null if no dialog comes.
+QFileDialog *PluginTest::askForFile()
+{
+    trigger("ImageView.Action.SaveImage");
+    QFileDialog *dialog = nullptr;
+    const bool hasCome = QTest::qWaitFor([&] {
+        dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        return dialog != nullptr;
+    });
+    return hasCome ? dialog : nullptr;
+}
+
+void PluginTest::saveAs(const QString &path)
+{
+    auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+    dialog->findChild<QLineEdit *>("fileNameEdit")->setText(path);
+    QVERIFY(QMetaObject::invokeMethod(dialog, "accept"));
 }
 
 void PluginTest::testEntries()
@@ -224,23 +252,70 @@ void PluginTest::testSavesWhatWasSeenWhenTheEntryWasChosen()
     start();
     CImagePane *pane = open("A/1");
     give(pane, greyResult({1, 2, 3}));
-    trigger("ImageView.Action.SaveImage");
-    QFileDialog *dialog = nullptr;
-    QVERIFY(QTest::qWaitFor([&] {
-        dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        return dialog != nullptr;
-    }));
+    const QFileDialog *dialog = askForFile();
+    QVERIFY(dialog);
     QVERIFY(!dialog->testOption(QFileDialog::DontConfirmOverwrite));
     const QString suggested = QFileInfo(dialog->selectedFiles().value(0)).fileName();
     QVERIFY2(suggested.startsWith("A_1 20") && suggested.endsWith(".png"), qPrintable(suggested));
 
     give(pane, greyResult({4}));
     const QString path = folder.filePath("seen.png");
-    dialog->findChild<QLineEdit *>("fileNameEdit")->setText(path);
-    QVERIFY(QMetaObject::invokeMethod(dialog, "accept"));
+    saveAs(path);
     QVERIFY(QTest::qWaitFor([&] { return !m_messages->lines.isEmpty(); }));
     QCOMPARE(m_messages->lines, QStringList{"0 Image saved: " + path});
     QCOMPARE(QImage(path).size(), QSize(3, 1));
+}
+
+void PluginTest::testSaveThatFailsIsToldInADialog_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("end");
+
+    QTest::newRow("in a folder that is none") << "none/image.png"
+                                              << "): choose another folder, or make room";
+    QTest::newRow("in a format that is not written")
+        << "image.jpg"
+        << " is not the name of a PNG or TIFF file: give it one that ends with .png or .tif";
+}
+
+void PluginTest::testSaveThatFailsIsToldInADialog()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, end);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(file);
+    start();
+    give(open("A"), greyResult({1, 2, 3}));
+    QVERIFY(askForFile());
+    saveAs(path);
+    QMessageBox *box = nullptr;
+    QVERIFY(QTest::qWaitFor([&] {
+        box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        return box != nullptr;
+    }));
+    QVERIFY2(box->text().startsWith(path) && box->text().endsWith(end), qPrintable(box->text()));
+    QCOMPARE(m_messages->lines, QStringList{"2 " + box->text()});
+    QVERIFY(!QFileInfo::exists(path));
+    box->close();
+}
+
+void PluginTest::testFolderIsRememberedOnceSomethingIsSavedThere()
+{
+    const QTemporaryDir folder;
+    start();
+    give(open("A"), greyResult({1, 2, 3}));
+    const auto offered = [this] { return askForFile()->directory().absolutePath(); };
+    const QString usual = offered();
+    QVERIFY(usual != folder.path());
+    saveAs(folder.filePath("image.jpg"));
+    QVERIFY(QTest::qWaitFor(
+        [] { return qobject_cast<QMessageBox *>(QApplication::activeModalWidget()) != nullptr; }));
+    QApplication::activeModalWidget()->close();
+    QCOMPARE(offered(), usual);
+    saveAs(folder.filePath("image.png"));
+    QVERIFY(QTest::qWaitFor([&] { return m_messages->lines.size() == 2; }));
+    QCOMPARE(offered(), folder.path());
+    QApplication::activeModalWidget()->close();
 }
 
 void PluginTest::testFailedImagesAreReportedEachOnce()

@@ -61,14 +61,8 @@ void CImageSaving::ask(const ShownImage &image, const QString &cameraName, QWidg
                                    + dialog->defaultSuffix());
             });
     connect(m_dialog, &QFileDialog::fileSelected, this,
-            [this, result = image.result](const QString &path) { onAccepted(result, path); });
+            [this, result = image.result](const QString &path) { save(result, path); });
     m_dialog->open();
-}
-
-void CImageSaving::onAccepted(const Nerix::CGrabResultPtr &result, const QString &path)
-{
-    QSettings().setValue(folderKey, QFileInfo(path).absolutePath());
-    save(result, path);
 }
 
 void CImageSaving::save(const Nerix::CGrabResultPtr &result, const QString &path)
@@ -79,13 +73,19 @@ void CImageSaving::save(const Nerix::CGrabResultPtr &result, const QString &path
             this,
             [this, problem, path] {
                 if (problem.isEmpty()) {
-                    Q_EMIT saved(path);
+                    onSaved(path);
                 } else {
                     Q_EMIT failed(problem);
                 }
             },
             Qt::QueuedConnection);
     });
+}
+
+void CImageSaving::onSaved(const QString &path)
+{
+    QSettings().setValue(folderKey, QFileInfo(path).absolutePath());
+    Q_EMIT saved(path);
 }
 
 } // namespace ImageView

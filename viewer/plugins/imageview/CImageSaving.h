@@ -12,7 +12,8 @@ class QFileDialog;
 
 namespace ImageView {
 
-/// Asks for a file and writes an image to it in a worker. GUI thread.
+/// Asks for a file and writes an image to it in a worker. The folder of the last file that was
+/// written is offered first the next time. GUI thread.
 class CImageSaving : public QObject
 {
     Q_OBJECT
@@ -38,7 +39,7 @@ Q_SIGNALS:
     void failed(const QString &message);
 
 private:
-    void onAccepted(const Nerix::CGrabResultPtr &result, const QString &path);
+    void onSaved(const QString &path);
 
     QPointer<QFileDialog> m_dialog;
     QThreadPool m_worker; // last: its work ends before the rest does

@@ -46,8 +46,8 @@ QString writeImageFile(const Nerix::CImage &image, const QString &path)
     const QByteArray format = formatOf(path);
     if (format.isEmpty()) {
         return text(QT_TRANSLATE_NOOP("ImageView::File",
-                                      "%1 has no format: give it a name that ends with .png or "
-                                      ".tif"))
+                                      "%1 is not the name of a PNG or TIFF file: give it one that "
+                                      "ends with .png or .tif"))
             .arg(QDir::toNativeSeparators(path));
     }
     QSaveFile file(path);

@@ -17,6 +17,7 @@
 #include <Plugin/AppCore/IMenuService.h>
 
 #include <QDir>
+#include <QMessageBox>
 
 namespace ImageView {
 
@@ -53,8 +54,7 @@ bool CImageViewPlugin::initialize()
                 onImagesFailed(*camera, text, count);
             });
     m_saving = std::make_unique<CImageSaving>();
-    connect(m_saving.get(), &CImageSaving::failed, this,
-            [this](const QString &message) { report(IMessageService::Severity::Error, message); });
+    connect(m_saving.get(), &CImageSaving::failed, this, &CImageViewPlugin::onSavingFailed);
     connect(m_saving.get(), &CImageSaving::saved, this, [this](const QString &path) {
         report(IMessageService::Severity::Information,
                tr("Image saved: %1").arg(QDir::toNativeSeparators(path)));
@@ -91,6 +91,19 @@ void CImageViewPlugin::askForFile()
     const CImagePane *pane = m_area ? m_area->currentPane() : nullptr;
     if (window && pane) {
         m_saving->ask(pane->view().image(), pane->camera().info()->displayName(), window->window());
+    }
+}
+
+// Also in a dialog: who does not see the messages would take the image for saved.
+void CImageViewPlugin::onSavingFailed(const QString &message) const
+{
+    report(IMessageService::Severity::Error, message);
+    if (const auto window = findService<IMainWindowService>(m_initializer)) {
+        auto *box = new QMessageBox(QMessageBox::Critical, tr("Save Image"), message,
+                                    QMessageBox::Close, window->window());
+        box->setTextFormat(Qt::PlainText);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open();
     }
 }
 

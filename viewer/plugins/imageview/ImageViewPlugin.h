@@ -17,7 +17,7 @@ class CLiveImages;
 class CViewEntries;
 
 /// The built-in plug-in "ImageView": shows what open cameras see in the middle of the main window,
-/// and saves it. What fails is told to the message service.
+/// and saves it. What fails is told to the message service, a failed save also in a dialog.
 class CImageViewPlugin : public Core::Plugin::IPlugin
 {
     Q_OBJECT
@@ -33,6 +33,7 @@ public:
 private:
     void addToWindow();
     void askForFile();
+    void onSavingFailed(const QString &message) const;
     void onImagesFailed(const CLiveCamera &camera, const QString &text, int count) const;
     void report(Plugin::NerixViewer::IMessageService::Severity severity, const QString &text) const;
 
