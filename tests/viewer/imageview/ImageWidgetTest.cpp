@@ -28,12 +28,18 @@ private Q_SLOTS:
     void testDrawsThePixelsAsCrispSquares();
     void testActualSizeIsOnePixelOfTheScreen();
     void testWheelZoomsToTheMouse();
+    void testWheelHoldsThePixelUnderTheMouse();
     void testWheelThatTurnsInPartsOfAStep();
     void testDragMovesTheImage();
     void testDoubleClickFits();
     void testKeysZoom();
     void testArrowKeysMoveTheImage();
     void testPointerIsThePixelUnderTheMouse();
+    void testPointerFollowsEachChangeUnderAMouseThatStands_data();
+    void testPointerFollowsEachChangeUnderAMouseThatStands();
+    void testPointerIsTheNewImagesPixelUnderTheMouse();
+    void testPointerIsThereWhenTheViewComesUnderTheMouse();
+    void testPointerOfTheKeysStaysAtItsPixel();
     void testPointerMovesByKey();
     void testPointerLeavesWithTheMouse();
     void testPointerLeavesASmallerImage();
@@ -147,6 +153,19 @@ void ImageWidgetTest::testWheelZoomsToTheMouse()
     QVERIFY(m_view->transform().scale() < before);
 }
 
+// The image has ground above and below it.
+void ImageWidgetTest::testWheelHoldsThePixelUnderTheMouse()
+{
+    m_view->setImage(shown(256, 16));
+    const QPoint place(70, 112); // 2 below its upper edge
+    moveMouse(m_view.get(), place);
+    QCOMPARE(m_view->pointer(), QPoint(56, 1));
+    while (m_view->transform().canStepIn()) {
+        turnWheel(place, 120);
+        QCOMPARE(m_view->pointer(), QPoint(56, 1));
+    }
+}
+
 void ImageWidgetTest::testWheelThatTurnsInPartsOfAStep()
 {
     const double before = m_view->transform().scale();
@@ -218,6 +237,57 @@ void ImageWidgetTest::testPointerIsThePixelUnderTheMouse()
     m_view->showActualSize();
     moveMouse(m_view.get(), {5, 5});
     QCOMPARE(m_view->pointer(), QPoint(-1, -1));
+}
+
+void ImageWidgetTest::testPointerFollowsEachChangeUnderAMouseThatStands_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QPoint>("pixel");
+
+    QTest::newRow("magnified by key") << int(Qt::Key_Plus) << QPoint(4, 3);
+    QTest::newRow("moved by key") << int(Qt::Key_Right) << QPoint(4, 3);
+    QTest::newRow("fitted") << int(Qt::Key_Home) << QPoint(2, 2);
+}
+
+void ImageWidgetTest::testPointerFollowsEachChangeUnderAMouseThatStands()
+{
+    QFETCH(int, key);
+    turnWheel({160, 120}, 120);
+    moveMouse(m_view.get(), {50, 50});
+    QCOMPARE(m_view->pointer(), QPoint(3, 3));
+    QSignalSpy changed(m_view.get(), &CImageView::pointerChanged);
+    QTest::keyClick(m_view.get(), Qt::Key(key));
+    QTEST(m_view->pointer(), "pixel");
+    QCOMPARE(changed.count(), 1);
+}
+
+void ImageWidgetTest::testPointerIsTheNewImagesPixelUnderTheMouse()
+{
+    m_view->setImage({});
+    moveMouse(m_view.get(), {279, 239});
+    QCOMPARE(m_view->pointer(), QPoint(-1, -1));
+    m_view->setImage(shown(16, 12));
+    QCOMPARE(m_view->pointer(), QPoint(13, 11));
+    m_view->setImage(shown(12, 12));
+    QCOMPARE(m_view->pointer(), QPoint(11, 11));
+}
+
+void ImageWidgetTest::testPointerIsThereWhenTheViewComesUnderTheMouse()
+{
+    QEnterEvent enter({10, 10}, {10, 10}, {10, 10});
+    QCoreApplication::sendEvent(m_view.get(), &enter);
+    QCOMPARE(m_view->pointer(), QPoint(0, 0));
+}
+
+void ImageWidgetTest::testPointerOfTheKeysStaysAtItsPixel()
+{
+    moveMouse(m_view.get(), {10, 10});
+    QTest::keyClick(m_view.get(), Qt::Key_Right, Qt::ControlModifier);
+    QCOMPARE(m_view->pointer(), QPoint(1, 0));
+    m_view->zoomIn();
+    QCOMPARE(m_view->pointer(), QPoint(1, 0));
+    m_view->setImage(shown(8, 6));
+    QCOMPARE(m_view->pointer(), QPoint(1, 0));
 }
 
 void ImageWidgetTest::testPointerMovesByKey()

@@ -20,6 +20,11 @@ private Q_SLOTS:
     void testFitFollowsTheSizes();
     void testActualSizeIsOnePixelOfTheScreenForOneOfTheImage();
     void testWhatIsUnderTheAnchorStaysThere();
+    void testPixelUnderTheAnchorStaysThere_data();
+    void testPixelUnderTheAnchorStaysThere();
+    void testImageComesBackToTheMiddleOnTheWayOut();
+    void testAnchorBesideTheImageHoldsNothing();
+    void testBandBesideTheImageNeverGrowsByPanning();
     void testStepsIn();
     void testStepsOut();
     void testStepsEndAtTheLargestAndTheSmallest();
@@ -108,6 +113,86 @@ void ViewTransformTest::testWhatIsUnderTheAnchorStaysThere()
     given.stepOut(anchor);
     QCOMPARE(given.scale(), 1.5);
     QCOMPARE(given.toImage(anchor), QPointF(400, 300));
+}
+
+void ViewTransformTest::testPixelUnderTheAnchorStaysThere_data()
+{
+    QTest::addColumn<QSize>("image");
+    QTest::addColumn<QPoint>("anchor");
+    QTest::addColumn<QPoint>("pixel");
+
+    QTest::newRow("of an image with ground above and below")
+        << QSize(1024, 256) << QPoint(105, 225) << QPoint(191, 45);
+    QTest::newRow("of one with ground on both sides")
+        << QSize(256, 1024) << QPoint(221, 100) << QPoint(15, 189);
+    QTest::newRow("its first one") << QSize(1024, 256) << QPoint(0, 200) << QPoint(0, 0);
+    QTest::newRow("its last one") << QSize(1024, 256) << QPoint(561, 340) << QPoint(1022, 255);
+    QTest::newRow("of a tiny image") << QSize(20, 10) << QPoint(300, 300) << QPoint(10, 6);
+    QTest::newRow("of one that is larger than the view")
+        << QSize(2048, 2048) << QPoint(77, 501) << QPoint(253, 1896);
+}
+
+void ViewTransformTest::testPixelUnderTheAnchorStaysThere()
+{
+    QFETCH(QPoint, anchor);
+    QFETCH(QSize, image);
+    CViewTransform given = transform({562, 541}, image);
+    const auto pixel = [&] {
+        const QPointF place = given.toImage(anchor);
+        return QPoint(int(std::floor(place.x())), int(std::floor(place.y())));
+    };
+    QTEST(pixel(), "pixel");
+    while (given.canStepIn()) {
+        given.stepIn(anchor);
+        QTEST(pixel(), "pixel");
+    }
+    QCOMPARE(given.scale(), 64.0);
+}
+
+void ViewTransformTest::testImageComesBackToTheMiddleOnTheWayOut()
+{
+    CViewTransform given = transform({800, 600}, {1600, 600});
+    const QPointF anchor(400, 160);
+    given.stepIn(anchor);
+    given.stepIn(anchor);
+    QCOMPARE(given.imageRect(), QRectF(-200, 145, 1200, 450)); // 20 of the image at the anchor
+    given.stepOut(anchor);
+    given.stepOut(anchor);
+    QCOMPARE(given.imageRect(), QRectF(0, 150, 800, 300));
+
+    // No edge comes further into the view than it is when the image is fitted.
+    given.setScale(4, anchor);
+    given.pan({0, -1000});
+    given.pan({0, 1000});
+    QCOMPARE(given.imageRect().top(), 0.0);
+    given.setScale(1, {400, 590});
+    QCOMPARE(given.imageRect(), QRectF(-400, 150, 1600, 600));
+}
+
+void ViewTransformTest::testAnchorBesideTheImageHoldsNothing()
+{
+    CViewTransform given = transform({800, 600}, {1600, 600});
+    given.setScale(0.75, {400, 20});
+    QCOMPARE(given.imageRect(), QRectF(-200, 75, 1200, 450));
+    given.setScale(2, {400, 20});
+    QCOMPARE(given.imageRect().top(), 0.0);
+}
+
+void ViewTransformTest::testBandBesideTheImageNeverGrowsByPanning()
+{
+    CViewTransform given = transform({800, 600}, {1600, 600});
+    given.setScale(2, {400, 160}); // 20 of the image
+    QCOMPARE(given.imageRect(), QRectF(-1200, 120, 3200, 1200));
+    given.pan({0, 30});
+    QCOMPARE(given.imageRect().top(), 120.0);
+    given.pan({0, -50});
+    QCOMPARE(given.imageRect().top(), 70.0);
+    given.pan({0, 30});
+    QCOMPARE(given.imageRect().top(), 70.0);
+    given.pan({0, -200});
+    QCOMPARE(given.imageRect().top(), -130.0);
+    given.pan({0, 200});
+    QCOMPARE(given.imageRect().top(), 0.0);
 }
 
 void ViewTransformTest::testStepsIn()

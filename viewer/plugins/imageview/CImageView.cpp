@@ -60,9 +60,7 @@ void CImageView::setImage(const ShownImage &image)
     m_image = image;
     const double before = m_transform.scale();
     m_transform.setImageSize(image.screen.size());
-    if (!image.screen.rect().contains(m_pointer)) {
-        m_pointer = nowhere;
-    }
+    m_pointer = pointerNow();
     if (m_transform.scale() != before) {
         Q_EMIT transformChanged();
     }
@@ -116,6 +114,7 @@ void CImageView::changeTransform(Change change)
 {
     change();
     Q_EMIT transformChanged();
+    setPointer(pointerNow(), m_isPointerByKey);
     update();
 }
 
@@ -179,7 +178,7 @@ void CImageView::wheelEvent(QWheelEvent *event)
     for (; m_wheelAngle <= -wheelStep; m_wheelAngle += wheelStep) {
         changeTransform([&] { m_transform.stepOut(anchor); });
     }
-    setPointer(pixelAt(m_transform.toImage(anchor)), false);
+    followMouse(event->position());
     event->accept();
 }
 
@@ -198,7 +197,7 @@ void CImageView::mouseMoveEvent(QMouseEvent *event)
         changeTransform([&] { m_transform.pan(toScreen(distance)); });
         setCursor(Qt::ClosedHandCursor);
     }
-    setPointer(pixelAt(m_transform.toImage(toScreen(event->localPos()))), false);
+    followMouse(event->localPos());
 }
 
 void CImageView::mouseReleaseEvent(QMouseEvent *)
@@ -212,8 +211,16 @@ void CImageView::mouseDoubleClickEvent(QMouseEvent *)
     fit();
 }
 
+// The view may have come under a mouse that stands still.
+void CImageView::enterEvent(QEvent *event)
+{
+    m_mouse = static_cast<QEnterEvent *>(event)->localPos();
+    setPointer(pointerNow(), m_isPointerByKey);
+}
+
 void CImageView::leaveEvent(QEvent *)
 {
+    m_mouse.reset();
     if (!m_isPointerByKey) {
         setPointer(nowhere, false);
     }
@@ -273,6 +280,23 @@ bool CImageView::moveByKey(const QKeyEvent &event)
         });
     }
     return true;
+}
+
+void CImageView::followMouse(const QPointF &place)
+{
+    m_mouse = place;
+    m_isPointerByKey = false;
+    setPointer(pointerNow(), false);
+}
+
+// Another pixel comes under a mouse that stands still; one that was chosen by key stays chosen.
+QPoint CImageView::pointerNow() const
+{
+    QPoint pixel = m_pointer;
+    if (!m_isPointerByKey) {
+        pixel = m_mouse ? pixelAt(m_transform.toImage(toScreen(*m_mouse))) : nowhere;
+    }
+    return m_image.screen.rect().contains(pixel) ? pixel : nowhere;
 }
 
 void CImageView::setPointer(const QPoint &pixel, bool isByKey)

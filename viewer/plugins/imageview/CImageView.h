@@ -5,6 +5,8 @@
 #include "plugins/imageview/CViewTransform.h"
 #include "plugins/imageview/ShownImage.h"
 
+#include <optional>
+
 #include <QWidget>
 
 namespace ImageView {
@@ -13,7 +15,8 @@ namespace ImageView {
 ///
 /// | input                          | effect                                     |
 /// |--------------------------------|--------------------------------------------|
-/// | wheel, plus and minus          | zooms, to what is under the mouse          |
+/// | wheel                          | zooms, to the pixel under the mouse        |
+/// | plus and minus                 | zooms, to the middle of the view           |
 /// | drag, arrow keys               | moves the image                            |
 /// | Ctrl with arrow keys           | moves the pointer from pixel to pixel      |
 /// | Home, double click             | fits the image into the view               |
@@ -64,6 +67,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void enterEvent(QEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -73,6 +77,8 @@ private:
     template <class Change>
     void changeTransform(Change change);
     bool moveByKey(const QKeyEvent &event);
+    void followMouse(const QPointF &place);
+    QPoint pointerNow() const;
     void setPointer(const QPoint &pixel, bool isByKey);
     void drawImage(QPainter &painter) const;
     void drawPointer(QPainter &painter) const;
@@ -82,6 +88,7 @@ private:
     ShownImage m_image;
     CViewTransform m_transform;
     QPoint m_pointer{-1, -1};
+    std::optional<QPointF> m_mouse; // while it is over the view
     QPoint m_dragPosition;
     int m_wheelAngle = 0; // of a wheel that turns in parts of a step
     bool m_isDragging = false;

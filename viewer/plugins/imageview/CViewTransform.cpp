@@ -29,6 +29,39 @@ double settled(double origin, double view, double image)
     return std::round(std::clamp(origin, view - image, 0.0));
 }
 
+// Where the side begins if the place `fixed` of the image is at `anchor`: at a whole pixel, yet
+// such that it is the same pixel of the image. Beside the image there is nothing to keep.
+double anchored(double anchor, double fixed, double scale, double view, double image)
+{
+    const double origin = anchor - fixed * scale;
+    if (fixed < 0 || fixed > image) {
+        return settled(origin, view, image * scale);
+    }
+    if (scale < 1) {
+        return origin; // there the pixels of the image are smoothed
+    }
+    const double pixel = std::floor(fixed);
+    const double lowest = std::floor(anchor - (pixel + 1) * scale) + 1;
+    const double highest = std::floor(anchor - pixel * scale);
+    return std::clamp(std::round(origin), lowest, highest);
+}
+
+// With edges no further in the view than at the scale `fitting`, which is a smaller one.
+double bounded(double origin, double view, double image, double scale, double fitting)
+{
+    const double band = std::floor((view - image * fitting) / 2);
+    return std::clamp(origin, std::ceil(view - image * scale - band), band);
+}
+
+// An edge that is in the view already may stay there.
+double panned(double origin, double distance, double view, double image)
+{
+    const double settledOrigin = settled(origin, view, image);
+    const double lowest = std::min(origin, image <= view ? settledOrigin : view - image);
+    const double highest = std::max(origin, image <= view ? settledOrigin : 0.0);
+    return std::clamp(std::round(origin + distance), lowest, highest);
+}
+
 } // namespace
 
 void CViewTransform::setViewSize(const QSizeF &size)
@@ -70,10 +103,15 @@ double CViewTransform::scale() const
 void CViewTransform::setScale(double scale, const QPointF &anchor)
 {
     const QPointF fixed = toImage(anchor);
+    const double before = m_scale;
     m_isFit = false;
     m_scale = std::clamp(scale, smallest, largest);
-    m_origin = anchor - fixed * m_scale;
-    settle();
+    m_origin = {
+        anchored(anchor.x(), fixed.x(), m_scale, m_viewSize.width(), m_imageSize.width()),
+        anchored(anchor.y(), fixed.y(), m_scale, m_viewSize.height(), m_imageSize.height())};
+    if (m_scale < before) {
+        boundBands();
+    }
 }
 
 void CViewTransform::stepIn(const QPointF &anchor)
@@ -104,8 +142,9 @@ bool CViewTransform::canStepOut() const
 
 void CViewTransform::pan(const QPointF &distance)
 {
-    m_origin += distance;
-    settle();
+    const QSizeF image = m_imageSize * m_scale;
+    m_origin = {panned(m_origin.x(), distance.x(), m_viewSize.width(), image.width()),
+                panned(m_origin.y(), distance.y(), m_viewSize.height(), image.height())};
 }
 
 QPointF CViewTransform::toImage(const QPointF &point) const
@@ -126,6 +165,18 @@ double CViewTransform::fittingScale() const
     const double fitting = std::min(m_viewSize.width() / m_imageSize.width(),
                                     m_viewSize.height() / m_imageSize.height());
     return std::min(fitting, largest);
+}
+
+// To the width of the bands that are beside the image when it is fitted.
+void CViewTransform::boundBands()
+{
+    const double fitting = fittingScale();
+    if (m_scale <= fitting) {
+        settle();
+        return;
+    }
+    m_origin = {bounded(m_origin.x(), m_viewSize.width(), m_imageSize.width(), m_scale, fitting),
+                bounded(m_origin.y(), m_viewSize.height(), m_imageSize.height(), m_scale, fitting)};
 }
 
 void CViewTransform::settle()

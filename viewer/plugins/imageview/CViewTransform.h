@@ -14,7 +14,8 @@ namespace ImageView {
 /// image.
 ///
 /// A side on which the image is smaller than the view is centred; on the other the image covers the
-/// view. A value type.
+/// view. Only the place at the anchor of a scale comes before that, so that who magnifies keeps
+/// what they look at. A value type.
 class CViewTransform
 {
 public:
@@ -30,7 +31,9 @@ public:
     /// Pixels of the screen for one of the image.
     double scale() const;
 
-    /// Magnifies to \a scale; what is at \a anchor of the view stays there.
+    /// Magnifies to \a scale; the place of the image that is at \a anchor of the view stays there,
+    /// up to a fraction of a pixel of the image. On the way out no edge of the image comes further
+    /// into the view than it is when the image is fitted, so that it ends in the middle.
     void setScale(double scale, const QPointF &anchor);
 
     /// To the next larger or smaller of some round scales.
@@ -41,6 +44,7 @@ public:
     bool canStepIn() const;
     bool canStepOut() const;
 
+    /// Moves the image, but none of its edges further into the view.
     void pan(const QPointF &distance);
 
     /// The place in the image, in its pixels, that is at \a point of the view.
@@ -52,6 +56,7 @@ public:
 private:
     double fittingScale() const;
     void settle();
+    void boundBands();
 
     QSizeF m_viewSize;
     QSizeF m_imageSize;
