@@ -34,6 +34,7 @@ private Q_SLOTS:
     void testEachChangeIsAnnounced();
     void testFiguresAreThoseOfTheSelectedCamera();
     void testFiguresBeginAnewWithEachGrab();
+    void testFiguresTellWhetherTheGrabGoesOn();
     void testFiguresGoWhenTheCameraIsClosedOrGone();
 
 private:
@@ -227,6 +228,20 @@ void ControllerTest::testFiguresBeginAnewWithEachGrab()
     Q_EMIT m_status->cameraGrabStarted(camera);
     QCOMPARE(m_controller->figures()->imagesGrabbed, 0);
     QCOMPARE(m_controller->figures()->imagesFailed, 0);
+}
+
+void ControllerTest::testFiguresTellWhetherTheGrabGoesOn()
+{
+    const auto camera = plugIn("A", ICameraControlService::Grabbing);
+    m_selection->select(camera);
+    Q_EMIT m_status->cameraGrabStarted(camera);
+    tellFigures(camera, 10, 1, 9.5, 1000);
+    QVERIFY(m_controller->figures()->isRunning);
+    Q_EMIT m_status->cameraGrabStopped(camera);
+    QVERIFY(!m_controller->figures()->isRunning);
+    QCOMPARE(m_controller->figures()->imagesGrabbed, 10);
+    tellFigures(camera, 11, 1, 9.5, 1000); // late
+    QVERIFY(!m_controller->figures()->isRunning);
 }
 
 void ControllerTest::testFiguresGoWhenTheCameraIsClosedOrGone()

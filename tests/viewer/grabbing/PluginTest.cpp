@@ -190,9 +190,13 @@ void PluginTest::testStatusBarShowsTheFigures()
 {
     start();
     QCOMPARE(statusTexts(), (QStringList{"", "", "", ""}));
+    Q_EMIT m_status->cameraGrabStarted(m_camera);
+    QCOMPARE(statusTexts(), (QStringList{"Images: 0", "Failed: 0", "", ""}));
     Q_EMIT m_status->cameraStatisticUpdated(m_camera, 120, 3, 59.94, 124292000, {});
     QCOMPARE(statusTexts(),
              (QStringList{"Images: 120", "Failed: 3", "59.9 images/s", "124.3 MB/s"}));
+    Q_EMIT m_status->cameraGrabStopped(m_camera);
+    QCOMPARE(statusTexts(), (QStringList{"Images: 120", "Failed: 3", "", ""}));
     m_selection->select({});
     QCOMPARE(statusTexts(), (QStringList{"", "", "", ""}));
 }

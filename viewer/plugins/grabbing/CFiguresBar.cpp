@@ -20,8 +20,7 @@ constexpr int gap = 18;
 void setSteadyText(QLabel *label, const QString &text)
 {
     label->setText(text);
-    label->setMinimumWidth(text.isEmpty() ? 0
-                                          : qMax(label->minimumWidth(), label->sizeHint().width()));
+    label->setMinimumWidth(qMax(label->minimumWidth(), label->sizeHint().width()));
 }
 
 void setBold(QLabel *label, bool isBold)
@@ -62,10 +61,20 @@ QLabel *CFiguresBar::addLabel(const char *name)
     return label;
 }
 
+void CFiguresBar::giveRoomBack()
+{
+    for (QLabel *label : {m_images, m_failures, m_imageRate, m_dataRate}) {
+        label->setMinimumWidth(0);
+    }
+}
+
 void CFiguresBar::update()
 {
     const auto figures = m_controller.figures();
     const FigureTexts texts = figures ? figureTexts(*figures, QLocale()) : FigureTexts();
+    if (!figures) {
+        giveRoomBack();
+    }
     setSteadyText(m_images, texts.images);
     setBold(m_failures, figures && figures->imagesFailed > 0);
     setSteadyText(m_failures, texts.failures);

@@ -23,6 +23,7 @@ public:
 
 private:
     QLabel *addLabel(const char *name);
+    void giveRoomBack();
     void update();
 
     const CGrabController &m_controller;

@@ -33,11 +33,13 @@ void CGrabController::listen()
     connect(control, &ICameraControlService::grabFailed, this, &CGrabController::onGrabFailed);
     connect(status, &ICameraStatusService::cameraGrabStarted, this,
             &CGrabController::onGrabStarted);
-    connect(status, &ICameraStatusService::cameraGrabStopped, this, &CGrabController::changed);
-    connect(status, &ICameraStatusService::cameraStatisticUpdated, this,
-            [this](const CameraInfoPtr &camera, int images, int failures, double fps, quint64 bps) {
-                onFigures(camera, {images, failures, fps, bps});
-            });
+    connect(status, &ICameraStatusService::cameraGrabStopped, this,
+            &CGrabController::onGrabStopped);
+    connect(
+        status, &ICameraStatusService::cameraStatisticUpdated, this,
+        [this](const CameraInfoPtr &camera, int images, int failures, double fps, quint64 bps) {
+            onFigures(camera, {images, failures, fps, bps, m_running.contains(camera->identity())});
+        });
 }
 
 bool CGrabController::canGrab() const
@@ -87,7 +89,18 @@ void CGrabController::stop()
 void CGrabController::onGrabStarted(const CameraInfoPtr &camera)
 {
     m_requested.remove(camera->identity());
+    m_running.insert(camera->identity());
     m_figures.insert(camera->identity(), {});
+    Q_EMIT changed();
+}
+
+void CGrabController::onGrabStopped(const CameraInfoPtr &camera)
+{
+    m_running.remove(camera->identity());
+    const auto figures = m_figures.find(camera->identity());
+    if (figures != m_figures.end()) {
+        figures->isRunning = false;
+    }
     Q_EMIT changed();
 }
 
@@ -107,6 +120,7 @@ void CGrabController::forget(const DeviceBaseInfoPtr &device)
 {
     if (const auto camera = qSharedPointerDynamicCast<ICameraInfo>(device)) {
         m_requested.remove(camera->identity());
+        m_running.remove(camera->identity());
         m_figures.remove(camera->identity());
     }
     Q_EMIT changed();

@@ -61,6 +61,7 @@ Q_SIGNALS:
 private:
     void listen();
     void onGrabStarted(const CameraInfoPtr &camera);
+    void onGrabStopped(const CameraInfoPtr &camera);
     void onGrabFailed(const CameraInfoPtr &camera);
     void onFigures(const CameraInfoPtr &camera, const GrabFigures &figures);
     void forget(const Core::CameraPoolComponents::DeviceBaseInfoPtr &device);
@@ -71,6 +72,7 @@ private:
 
     const Services m_services;
     QSet<QString> m_requested; // identities of cameras whose grab has not started yet
+    QSet<QString> m_running;   // identities of cameras that grab
     QHash<QString, GrabFigures> m_figures;
 };
 

@@ -12,6 +12,7 @@ namespace Grabbing {
 namespace {
 
 constexpr int decimals = 1;
+constexpr int fewestForARate = 2;
 
 QString text(const char *source)
 {
@@ -34,6 +35,9 @@ FigureTexts figureTexts(const GrabFigures &figures, const QLocale &locale)
                        .arg(locale.toString(figures.imagesGrabbed));
     texts.failures = text(QT_TRANSLATE_NOOP("Grabbing::Figures", "Failed: %1"))
                          .arg(locale.toString(figures.imagesFailed));
+    if (!figures.isRunning || figures.imagesGrabbed < fewestForARate) {
+        return texts;
+    }
     texts.imageRate = text(QT_TRANSLATE_NOOP("Grabbing::Figures", "%1 images/s"))
                           .arg(locale.toString(figures.imagesPerSecond, 'f', decimals));
     texts.dataRate = text(QT_TRANSLATE_NOOP("Grabbing::Figures", "%1/s"))

@@ -9,7 +9,8 @@
 
 namespace Grabbing {
 
-/// The figures as a user reads them, each with its unit, numbers as \a locale writes them.
+/// The figures as a user reads them, each with its unit. There is no rate, but an empty text, of
+/// one image, which has none, and of a grab that is over, which would look as if it went on.
 struct FigureTexts
 {
     QString images;
@@ -18,6 +19,7 @@ struct FigureTexts
     QString dataRate;
 };
 
+/// Numbers are written as \a locale writes them.
 FigureTexts figureTexts(const GrabFigures &figures, const QLocale &locale);
 
 } // namespace Grabbing

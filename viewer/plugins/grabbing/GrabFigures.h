@@ -14,6 +14,7 @@ struct GrabFigures
     int imagesFailed = 0;         ///< since the grab began
     double imagesPerSecond = 0.0; ///< over the last second; of a grab that is over: over all of it
     quint64 bytesPerSecond = 0;   ///< likewise
+    bool isRunning = false;       ///< whether the grab goes on
 };
 
 } // namespace Grabbing
