@@ -46,6 +46,9 @@ private Q_SLOTS:
     void removedCameraIsConnectedAgainWhenItIsFound();
     void cameraThatComesBackGetsItsOldPlace();
     void renamedCameraIsNeitherGoneNorConnected();
+    void renamingIsToldOnceWithTheNewDescription();
+    void renamingWhileTheCameraWasAwayIsToldToo();
+    void nameIsTheOneThatWasFoundLast();
     void descriptionStaysTheSameObjectWhileNothingChanges();
     void whoControlsACameraCanBeNotedBetweenSearches();
 };
@@ -136,6 +139,38 @@ void CameraTableTest::renamedCameraIsNeitherGoneNorConnected()
     QCOMPARE(table.cameras().first()->identity(), QStringLiteral("Ostrand-XQZ-2000-A"));
     table.update({camera("A")}, {});
     QCOMPARE(table.cameras().first()->displayName(), QStringLiteral("Ostrand-XQZ-2000-A"));
+}
+
+void CameraTableTest::renamingIsToldOnceWithTheNewDescription()
+{
+    CCameraTable table;
+    QVERIFY(table.update({camera("A", "Old"), camera("B")}, {}).renamed.isEmpty());
+    const auto changes = table.update({camera("A", "New"), camera("B")}, {});
+    QCOMPARE(serials(changes.renamed), A);
+    QCOMPARE(changes.renamed.first(), table.cameras().first());
+    QVERIFY(table.update({camera("A", "New"), camera("B")}, {}).renamed.isEmpty());
+}
+
+void CameraTableTest::renamingWhileTheCameraWasAwayIsToldToo()
+{
+    CCameraTable table;
+    table.update({camera("A")}, {});
+    table.remove(QStringLiteral("Ostrand-XQZ-2000-A"));
+    const auto changes = table.update({camera("A", "New")}, {});
+    QCOMPARE(serials(changes.renamed), A);
+    QCOMPARE(serials(changes.connected), A);
+}
+
+void CameraTableTest::nameIsTheOneThatWasFoundLast()
+{
+    CCameraTable table;
+    table.update({camera("A", "Old")}, {});
+    const auto old = table.cameras().first();
+    table.update({camera("A", "New")}, {});
+    QCOMPARE(table.nameOf(old), QStringLiteral("New"));
+    table.remove(QStringLiteral("Ostrand-XQZ-2000-A"));
+    QCOMPARE(table.nameOf(old), QStringLiteral("New"));
+    QCOMPARE(CCameraTable().nameOf(old), QStringLiteral("Old"));
 }
 
 void CameraTableTest::descriptionStaysTheSameObjectWhileNothingChanges()

@@ -4,11 +4,13 @@
 #include "CSimulatorProcess.h"
 #include "plugins/camerapool/CCameraControl.h"
 #include "plugins/camerapool/CCameraStatus.h"
+#include "plugins/camerapool/CDevice.h"
 #include "plugins/camerapool/CDeviceAccess.h"
 #include "plugins/camerapool/CDeviceStore.h"
 
 #include <ParameterCollection/CParameterException.h>
 
+#include <QSignalSpy>
 #include <QTest>
 #include <QThread>
 
@@ -37,6 +39,7 @@ private Q_SLOTS:
     void stoppingThePoolClosesWhatIsOpen();
     void cameraCanBeOpenedAgainAfterClosing();
     void nameThatTheUserGaveIsShownAndTheIdentityStays();
+    void newNameStandsInTheMessagesOfAnOpenCamera();
 };
 
 namespace {
@@ -298,6 +301,43 @@ void OpenCloseTest::nameThatTheUserGaveIsShownAndTheIdentityStays()
     const auto camera = rig.camera(QStringLiteral("A1"));
     QCOMPARE(camera->displayName(), QStringLiteral("Left of belt"));
     QCOMPARE(camera->identity(), QStringLiteral("Ostrand-XQZ-2000-A1"));
+}
+
+// Who opened it under its old name has that description still; what a user reads has the new name.
+void OpenCloseTest::newNameStandsInTheMessagesOfAnOpenCamera()
+{
+    QObject scope;
+    auto *simulator = startCamera(&scope, at("127.0.0.1", "A1"));
+    QVERIFY(simulator);
+    CPoolRig rig;
+    QVERIFY(rig.search());
+    const auto camera = rig.camera(QStringLiteral("A1"));
+    QVERIFY(rig.open(camera));
+    QSignalSpy renamed(rig.pool().control().get(), &CCameraControl::renamed);
+    rig.pool().devices()->device(camera)->call([](const CDeviceAccess &access) {
+        CGError error;
+        arv_device_set_string_feature_value(access.device(), "DeviceUserID", "Line3", error.out());
+        access.check(error, QStringLiteral("the name is not set"));
+    });
+    QVERIFY(renamed.wait(30000));
+    QCOMPARE(renamed.first().first().value<CPoolRig::CameraInfoPtr>()->displayName(),
+             QStringLiteral("Line3"));
+    QCOMPARE(rig.pool().control()->state(camera), CCameraControl::Open);
+
+    rig.pool().control()->grabContinuous(camera);
+    QVERIFY(rig.waitFor(QStringLiteral("grabStarted A1")));
+    rig.pool().control()->grabContinuous(camera);
+    QVERIFY(rig.waitFor(QStringLiteral("grabFailed A1")));
+    QCOMPARE(rig.lastFailure(),
+             QStringLiteral("Line3 is grabbing: stop that grab, then start another"));
+
+    QTest::ignoreMessage(QtWarningMsg, "Line3 has stopped answering");
+    QCOMPARE(simulator->command("vanish"), QStringLiteral("vanished"));
+    QVERIFY(rig.waitFor(QStringLiteral("disconnected A1")));
+    rig.pool().control()->open(camera);
+    QVERIFY(rig.waitFor(QStringLiteral("openFailed A1")));
+    QCOMPARE(rig.lastFailure(),
+             QStringLiteral("Line3 is not connected: check its cable and power, then open it"));
 }
 
 QTEST_GUILESS_MAIN(OpenCloseTest)

@@ -33,6 +33,7 @@ private Q_SLOTS:
 
     void testEntriesStandInTheFileMenu();
     void testEntriesAreEnabledWhileTheSelectedCameraIsOpen();
+    void testEntriesFollowACameraThatIsRenamed();
     void testFeaturesAreSavedUnderTheNameOfTheCamera();
     void testFeaturesAreLoadedAndToldInOneLine();
     void testWhatWasNotSetIsListedAndCanBeCopied();
@@ -176,6 +177,18 @@ void FeatureFilesPluginTest::testEntriesAreEnabledWhileTheSelectedCameraIsOpen()
     QVERIFY(save->isEnabled() && load->isEnabled());
     QVERIFY(m_rig->closeCamera());
     QVERIFY(!save->isEnabled() && !load->isEnabled());
+}
+
+void FeatureFilesPluginTest::testEntriesFollowACameraThatIsRenamed()
+{
+    create();
+    m_rig->deviceSelection->select(m_rig->camera);
+    m_rig->camera = m_rig->control->rename(m_rig->camera, "Line3");
+    QVERIFY(m_rig->openCamera());
+    QVERIFY(action("Save &Features...")->isEnabled());
+    action("Save &Features...")->trigger();
+    QVERIFY(shown<QFileDialog>());
+    QVERIFY(shown<QFileDialog>()->selectedFiles().first().endsWith("/Line3.features"));
 }
 
 void FeatureFilesPluginTest::testFeaturesAreSavedUnderTheNameOfTheCamera()

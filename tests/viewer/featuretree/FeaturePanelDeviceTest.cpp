@@ -29,6 +29,7 @@ private Q_SLOTS:
     void testLimitsFollowAnotherFeature();
     void testGrabLocksWhatItMust();
     void testCameraThatVanishesIsToldInWords();
+    void testRenamedCameraThatVanishedShowsItsFeaturesAgain();
     void testAllOf840FeaturesAreShownAndFound();
 
 private:
@@ -143,6 +144,23 @@ void FeaturePanelDeviceTest::testCameraThatVanishesIsToldInWords()
     QTRY_COMPARE_WITH_TIMEOUT(m_rig->notice(),
                               name + " is not connected.\nConnect and open it to see its features.",
                               30000);
+}
+
+// The search describes it anew after the renaming; it is still the camera that is selected.
+void FeaturePanelDeviceTest::testRenamedCameraThatVanishedShowsItsFeaturesAgain()
+{
+    QVERIFY(open());
+    CPoolRig &pool = m_camera->rig();
+    m_camera->feature("DeviceUserID")->setValueText("Line3");
+    QCOMPARE(m_camera->simulator().command("vanish"), QString("vanished"));
+    QTRY_VERIFY_WITH_TIMEOUT(m_rig->notice().contains("is not connected"), 30000);
+    pool.clearLog();
+    QCOMPARE(m_camera->simulator().command("return"), QString("returned"));
+    QVERIFY(pool.waitFor("connected A1"));
+    QTRY_COMPARE(m_rig->notice(), QString("Line3 is closed.\nOpen it to see its features."));
+    QVERIFY(pool.open(pool.camera("A1")));
+    QTRY_VERIFY_WITH_TIMEOUT(m_rig->row("Width").isValid(), 30000);
+    QCOMPARE(m_rig->notice(), QString());
 }
 
 void FeaturePanelDeviceTest::testAllOf840FeaturesAreShownAndFound()

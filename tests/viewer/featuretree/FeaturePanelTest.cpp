@@ -20,6 +20,8 @@ private Q_SLOTS:
     void cleanup();
 
     void testWordsStandWhereThereAreNoFeatures();
+    void testWordsHaveTheNameThatTheCameraHasNow();
+    void testRenamingLeavesTheFeaturesAsTheyAre();
     void testDeviceThatCannotBeReadIsToldWithTheReason();
     void testDeviceIsReadWhileTheWindowGoesOn();
     void testOnlyRowsInSightAreRead();
@@ -77,6 +79,29 @@ void FeaturePanelTest::testWordsStandWhereThereAreNoFeatures()
              QString("A-1 is not connected.\nConnect and open it to see its features."));
     features.deviceSelection->select({});
     QCOMPARE(m_rig->notice(), QString("Select a camera to see its features."));
+}
+
+void FeaturePanelTest::testWordsHaveTheNameThatTheCameraHasNow()
+{
+    QVERIFY(m_rig->show());
+    CFeatureRig &features = m_rig->features;
+    features.deviceSelection->select(features.camera);
+    features.control->rename(features.camera, "Line3");
+    QCOMPARE(m_rig->notice(), QString("Line3 is closed.\nOpen it to see its features."));
+    features.deviceSelection->select({});
+    features.deviceSelection->select(features.camera); // who selects may not know the new name
+    QCOMPARE(m_rig->notice(), QString("Line3 is closed.\nOpen it to see its features."));
+}
+
+void FeaturePanelTest::testRenamingLeavesTheFeaturesAsTheyAre()
+{
+    QVERIFY(m_rig->open());
+    const QSignalSpy reset(&m_rig->panel().controller().model(), &CFeatureModel::modelReset);
+    m_rig->features.control->rename(m_rig->features.camera, "Line3");
+    QCOMPARE(m_rig->notice(), QString());
+    QCOMPARE(reset.count(), 0);
+    QVERIFY(m_rig->features.closeCamera()); // told with the old description, like a real closing
+    QCOMPARE(m_rig->notice(), QString("Line3 is closed.\nOpen it to see its features."));
 }
 
 void FeaturePanelTest::testDeviceThatCannotBeReadIsToldWithTheReason()

@@ -32,6 +32,8 @@ private Q_SLOTS:
 
     void testWithoutAnOpenCameraSaysWhatToDo();
     void testEachOpenCameraHasAPaneWithItsName();
+    void testPaneFollowsTheNewNameOfItsCamera();
+    void testPaneHasTheNewNameOfACameraThatWasOpenedByItsOldOne();
     void testPanesStandInAGrid_data();
     void testPanesStandInAGrid();
     void testPanesAreOfOneWidth();
@@ -117,6 +119,26 @@ void ImageAreaTest::testEachOpenCameraHasAPaneWithItsName()
     Q_EMIT m_control->closed(first->camera().info());
     QCOMPARE(m_area->panes().size(), 1);
     QCOMPARE(&m_area->panes().constFirst()->camera(), &second->camera());
+}
+
+void ImageAreaTest::testPaneFollowsTheNewNameOfItsCamera()
+{
+    CImagePane *pane = open("Ostrand-XQZ-2000-1");
+    open("Ostrand-XQZ-2000-2");
+    m_control->rename(pane->camera().info(), "Left of the belt");
+    QCOMPARE(label(pane, "name")->text(), QString("Left of the belt"));
+    QCOMPARE(label(pane, "name")->toolTip(), QString("Ostrand-XQZ-2000-1"));
+    QCOMPARE(pane->accessibleName(), QString("Left of the belt"));
+    QCOMPARE(pane->camera().info()->displayName(), QString("Left of the belt"));
+    QCOMPARE(label(m_area->panes().at(1), "name")->text(), QString("Ostrand-XQZ-2000-2"));
+}
+
+void ImageAreaTest::testPaneHasTheNewNameOfACameraThatWasOpenedByItsOldOne()
+{
+    const auto camera = m_control->plugIn("Ostrand-XQZ-2000-1");
+    m_control->rename(camera, "Left of the belt");
+    Q_EMIT m_status->deviceOpened(camera);
+    QCOMPARE(label(m_area->panes().constLast(), "name")->text(), QString("Left of the belt"));
 }
 
 void ImageAreaTest::testPanesStandInAGrid_data()

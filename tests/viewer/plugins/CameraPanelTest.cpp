@@ -34,6 +34,8 @@ private Q_SLOTS:
     void testCameraThatIsGoneStaysInTheList();
     void testCameraThatComesBackHasItsRowAgain();
     void testRefreshTellsOfChangesOnly();
+    void testRenamedCameraIsShownUnderItsNewName();
+    void testCamerasOfTheSameNameHaveTheirSerialNumbersBesideIt();
     void testCurrentRowIsTheSelectedDevice();
     void testSelectionByOthersMovesTheCurrentRow();
     void testSelectedCameraIsCurrentOnceItIsInTheList();
@@ -142,6 +144,36 @@ void CameraPanelTest::testRefreshTellsOfChangesOnly()
     m_control->setState(camera, ICameraControlService::Open);
     m_model->refresh();
     QCOMPARE(changed.count(), 1);
+}
+
+void CameraPanelTest::testRenamedCameraIsShownUnderItsNewName()
+{
+    const auto camera = m_control->plugIn("Ostrand-XQZ-2000-1");
+    m_model->refresh();
+    const QSignalSpy changed(m_model.data(), &QAbstractItemModel::dataChanged);
+    m_control->rename(camera, "Left of the belt");
+    m_model->refresh();
+    QCOMPARE(cell(0, CCameraListModel::CameraColumn), QString("Left of the belt"));
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(m_model->index(0, 0).data(Qt::ToolTipRole).toString().contains("Ostrand-XQZ-2000-1"));
+}
+
+void CameraPanelTest::testCamerasOfTheSameNameHaveTheirSerialNumbersBesideIt()
+{
+    m_control->plugIn("Ostrand-XQZ-2000-A1", "XQZ-2000", "Line3");
+    const auto second = m_control->plugIn("Ostrand-XQZ-2000-B-2", "XQZ-2000", "Line4");
+    m_model->refresh();
+    QCOMPARE(cell(0, CCameraListModel::CameraColumn), QString("Line3"));
+    const auto renamed = m_control->rename(second, "Line3");
+    m_model->refresh();
+    QCOMPARE(cell(0, CCameraListModel::CameraColumn), QString("Line3 (A1)"));
+    QCOMPARE(cell(1, CCameraListModel::CameraColumn), QString("Line3 (B-2)"));
+    QCOMPARE(m_model->index(1, 0).data(Qt::AccessibleTextRole).toString(),
+             QString("Line3 (B-2), Free"));
+    m_control->rename(renamed, "Line5");
+    m_model->refresh();
+    QCOMPARE(cell(0, CCameraListModel::CameraColumn), QString("Line3"));
+    QCOMPARE(cell(1, CCameraListModel::CameraColumn), QString("Line5"));
 }
 
 void CameraPanelTest::testCurrentRowIsTheSelectedDevice()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void testNothingIsSelectedAtFirst();
     void testEachChangeIsAnnouncedOnce();
     void testSelectingNothingIsAnnouncedAsNull();
+    void testNewDescriptionOfTheSameCameraIsNoChange();
     void testServiceGoesWithThePlugin();
     void testFirstSearchWithoutACameraSaysWhatToDo();
     void testLaterSearchesSayNothing();
@@ -83,6 +84,21 @@ void DeviceSelectionTest::testSelectingNothingIsAnnouncedAsNull()
     service->select({});
     QCOMPARE(changed.count(), 1);
     QVERIFY(changed.at(0).at(0).value<DeviceBaseInfoPtr>().isNull());
+}
+
+void DeviceSelectionTest::testNewDescriptionOfTheSameCameraIsNoChange()
+{
+    CFakeCameraControl control;
+    const auto service = start();
+    const auto camera = control.plugIn("A-1");
+    service->select(camera);
+    const QSignalSpy changed(service.data(), &IDeviceSelectorService::selectionChanged);
+    const auto renamed = control.rename(camera, "Left of the belt");
+    service->select(renamed);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(service->selected(), DeviceBaseInfoPtr(renamed));
+    service->select(control.plugIn("A-2"));
+    QCOMPARE(changed.count(), 1);
 }
 
 void DeviceSelectionTest::testServiceGoesWithThePlugin()

@@ -32,6 +32,16 @@ void CFakeCameraControl::unplug(const CameraInfoPtr &camera)
     m_states.insert(camera->identity(), Gone);
 }
 
+CFakeCameraControl::CameraInfoPtr CFakeCameraControl::rename(const CameraInfoPtr &camera,
+                                                             const char *displayName)
+{
+    const auto renamedCamera = QSharedPointer<CFakeCamera>::create(
+        camera->identity(), QString::fromUtf8(displayName), camera->modelName());
+    m_cameras.replace(m_cameras.indexOf(camera), renamedCamera);
+    Q_EMIT renamed(renamedCamera);
+    return renamedCamera;
+}
+
 void CFakeCameraControl::setState(const CameraInfoPtr &camera, CameraState state)
 {
     m_states.insert(camera->identity(), state);

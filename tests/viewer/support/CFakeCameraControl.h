@@ -24,6 +24,9 @@ public:
                          const char *displayName = nullptr);
     void unplug(const CameraInfoPtr &camera);
 
+    // As when a search finds that the camera has another name. @return its new description.
+    CameraInfoPtr rename(const CameraInfoPtr &camera, const char *displayName);
+
     // What `state` says from now on. `open` and `close` change it too.
     void setState(const CameraInfoPtr &camera, CameraState state);
 

@@ -19,7 +19,7 @@ QString CCameraInfo::identity() const
 
 QString CCameraInfo::displayName() const
 {
-    return m_found.userName.isEmpty() ? m_found.identity() : m_found.userName;
+    return m_found.displayName();
 }
 
 QString CCameraInfo::modelName() const

@@ -55,6 +55,16 @@ QList<CCameraTable::CameraInfoPtr> CCameraTable::cameras() const
     return infos;
 }
 
+QString CCameraTable::nameOf(const CameraInfoPtr &camera) const
+{
+    for (const Entry &entry : m_entries) {
+        if (entry.found.identity() == camera->identity()) {
+            return entry.found.displayName();
+        }
+    }
+    return camera->displayName();
+}
+
 const CFoundCamera *CCameraTable::find(const QString &identity) const
 {
     for (const Entry &entry : m_entries) {
@@ -80,8 +90,11 @@ CCameraTable::Entry &CCameraTable::entry(const QString &identity)
 void CCameraTable::take(const CFoundCamera &found, Changes *changes)
 {
     Entry &camera = entry(found.identity());
-    if (!camera.info || camera.found.userName != found.userName) {
+    if (!camera.info) {
         camera.info.reset(new CCameraInfo(found));
+    } else if (camera.found.userName != found.userName) {
+        camera.info.reset(new CCameraInfo(found));
+        changes->renamed.append(camera.info);
     }
     camera.found = found;
     camera.misses = 0;

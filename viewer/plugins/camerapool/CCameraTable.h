@@ -33,7 +33,8 @@ public:
     {
         QList<CameraInfoPtr> connected;
         QList<CameraInfoPtr> gone;
-        QList<CameraInfoPtr> lost; ///< open, and missed as often as that; still in the table
+        QList<CameraInfoPtr> lost;    ///< open, and missed as often as that; still in the table
+        QList<CameraInfoPtr> renamed; ///< have another display name than when they were found last
     };
 
     /// Takes the result of a search. A camera that was renamed keeps its place and gets a new
@@ -49,6 +50,10 @@ public:
     /// The cameras that are there, in the order in which they were first seen. A camera that comes
     /// back gets its old place.
     QList<CameraInfoPtr> cameras() const;
+
+    /// The display name of \a camera, which is not null, as it was found last, also if it is gone
+    /// by now. Its own one if it was never found.
+    QString nameOf(const CameraInfoPtr &camera) const;
 
     /// The camera as it was found last; null if it is not there. Valid until the table changes.
     const CFoundCamera *find(const QString &identity) const;

@@ -46,6 +46,7 @@ CDevice::CDevice(Core::CameraPoolComponents::CameraInfoPtr info, GObjectPtr<ArvD
     , m_onLost(std::move(onLost))
     , m_isAnswering(std::move(isAnswering))
     , m_device(std::move(device))
+    , m_name(m_info->displayName())
     , m_counters(CStreamCounters::none(ARV_IS_GV_DEVICE(m_device.get())))
 {
     g_signal_connect(m_device.get(), "control-lost", G_CALLBACK(&CDevice::onControlLost), this);
@@ -56,25 +57,37 @@ CDevice::~CDevice()
     close();
 }
 
+QString CDevice::name() const
+{
+    const std::lock_guard<std::mutex> lock(m_nameMutex);
+    return m_name;
+}
+
+void CDevice::setName(const QString &name)
+{
+    const std::lock_guard<std::mutex> lock(m_nameMutex);
+    m_name = name;
+}
+
 void CDevice::markLost()
 {
     // Aravis also reports the loss of a connection that is being given back.
     if (m_isOpen && !m_isLost.exchange(true)) {
-        qCWarning(lcCameraPool, "%s has stopped answering", qUtf8Printable(m_info->identity()));
+        qCWarning(lcCameraPool, "%s has stopped answering", qUtf8Printable(name()));
         m_onLost();
     }
 }
 
 void CDevice::throwIfUnusable() const
 {
-    const QString name = m_info->displayName();
     if (m_isLost) {
         throw ParameterCollection::CParameterException(
-            QStringLiteral("%1 is gone: check its cable and power, then open it again").arg(name));
+            QStringLiteral("%1 is gone: check its cable and power, then open it again")
+                .arg(name()));
     }
     if (!m_isOpen) {
         throw ParameterCollection::CParameterException(
-            QStringLiteral("%1 is closed: open it again").arg(name));
+            QStringLiteral("%1 is closed: open it again").arg(name()));
     }
 }
 

@@ -52,6 +52,10 @@ public:
         return m_info;
     }
 
+    /// What the user reads in messages. It follows a renaming; `info` does not.
+    QString name() const;
+    void setName(const QString &name);
+
     /// True once the device has stopped answering. It does not come back in this object.
     bool isLost() const
     {
@@ -107,6 +111,8 @@ private:
     GObjectPtr<ArvDevice> m_device; // guarded by m_lock; null once closed
     std::mutex m_keptMutex;
     std::vector<std::shared_ptr<void>> m_kept; // guarded by m_keptMutex
+    mutable std::mutex m_nameMutex;
+    QString m_name; // guarded by m_nameMutex
     mutable std::mutex m_countersMutex;
     CStreamCounters m_counters; // guarded by m_countersMutex
     CTaskThread m_thread;       // last, so that it ends first

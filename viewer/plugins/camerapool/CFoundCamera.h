@@ -22,6 +22,12 @@ struct CFoundCamera
     {
         return QStringLiteral("%1-%2-%3").arg(vendor, model, serial);
     }
+
+    /// What the user reads.
+    QString displayName() const
+    {
+        return userName.isEmpty() ? identity() : userName;
+    }
 };
 
 } // namespace CameraPool

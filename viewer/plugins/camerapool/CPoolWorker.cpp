@@ -71,6 +71,12 @@ QVector<CFoundCamera> CPoolWorker::search()
 
 void CPoolWorker::report(const CCameraTable::Changes &changes)
 {
+    for (const CameraInfoPtr &camera : changes.renamed) {
+        if (const auto device = m_open.value(camera->identity())) {
+            device->setName(camera->displayName());
+        }
+        Q_EMIT m_outlets.control->renamed(camera);
+    }
     for (const CameraInfoPtr &camera : changes.gone) {
         qCInfo(lcCameraPool, "%s is gone", qUtf8Printable(camera->identity()));
         Q_EMIT m_outlets.status->deviceDisconnected(camera);
@@ -112,10 +118,10 @@ void CPoolWorker::open(const CameraInfoPtr &camera)
     const CFoundCamera *found = m_table.find(identity);
     if (m_isEnding) {
         fail(camera, QStringLiteral("%1 is not opened: the viewer is closing; start it again")
-                         .arg(camera->displayName()));
+                         .arg(m_table.nameOf(camera)));
     } else if (!found) {
         fail(camera, QStringLiteral("%1 is not connected: check its cable and power, then open it")
-                         .arg(camera->displayName()));
+                         .arg(m_table.nameOf(camera)));
     } else if (m_releaser.isReleasing(identity)) {
         waitForRelease(camera);
     } else {
@@ -139,7 +145,7 @@ void CPoolWorker::waitForRelease(const CameraInfoPtr &camera)
 void CPoolWorker::failWaiting(const QString &identity, const QString &reason)
 {
     if (const CameraInfoPtr camera = m_waiting.take(identity).first) {
-        fail(camera, QStringLiteral("%1 %2").arg(camera->displayName(), reason));
+        fail(camera, QStringLiteral("%1 %2").arg(m_table.nameOf(camera), reason));
     }
 }
 
@@ -153,6 +159,7 @@ void CPoolWorker::connectDevice(const CFoundCamera &found, const CameraInfoPtr &
     };
     try {
         const auto device = openDevice(found, camera, postLoss, m_releaser);
+        device->setName(found.displayName());
         m_open.insert(identity, device);
         m_sessions.insert(identity, session);
         m_outlets.devices->put(device);
@@ -185,13 +192,13 @@ void CPoolWorker::startGrab(const CameraInfoPtr &camera, GrabMode mode)
 {
     const auto device = camera ? m_open.value(camera->identity()) : nullptr;
     if (!device) {
-        const QString name = camera ? camera->displayName() : QStringLiteral("no camera");
+        const QString name = camera ? m_table.nameOf(camera) : QStringLiteral("no camera");
         return failGrab(camera, QStringLiteral("%1 is not open: open it, then grab").arg(name));
     }
     const QString identity = camera->identity();
     if (m_grabs.contains(identity) && !m_grabs.value(identity)->hasEnded()) {
         return failGrab(camera, QStringLiteral("%1 is grabbing: stop that grab, then start another")
-                                    .arg(camera->displayName()));
+                                    .arg(m_table.nameOf(camera)));
     }
     m_grabs.remove(identity); // waits until the earlier one has told its end
     CGrab::Listeners listeners;

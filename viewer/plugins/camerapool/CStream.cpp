@@ -147,7 +147,7 @@ CStream::CStream(QSharedPointer<CDevice> device, GrabMode mode)
     : m_device(std::move(device))
 {
     const auto started =
-        m_device->call([name = m_device->info()->displayName(), mode](const CDeviceAccess &access) {
+        m_device->call([name = m_device->name(), mode](const CDeviceAccess &access) {
             return start(access, name, mode);
         });
     m_stream = std::move(started->stream);

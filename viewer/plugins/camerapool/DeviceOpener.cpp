@@ -99,23 +99,23 @@ QSharedPointer<CDevice> openDevice(const CFoundCamera &found,
             throw COpenException(COpenException::Other,
                                  QStringLiteral("%1 does not answer: check its cable and power, "
                                                 "then open it again")
-                                     .arg(info->displayName()));
+                                     .arg(found.displayName()));
         }
     }
     GObjectPtr<ArvDevice> device = std::move(opening.get()->device);
     if (!device) {
-        throwFailed(info->displayName(), opening.get()->error);
+        throwFailed(found.displayName(), opening.get()->error);
     }
     // A second program gets a connection too, but one that may only read.
     if (ARV_IS_GV_DEVICE(device.get())
         && !arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()))) {
-        throwInUse(info->displayName());
+        throwInUse(found.displayName());
     }
     if (!arv_device_get_genicam(device.get())) {
         throw COpenException(COpenException::Other,
                              QStringLiteral("%1 cannot be opened: its description of features "
                                             "cannot be read; update the camera's firmware")
-                                 .arg(info->displayName()));
+                                 .arg(found.displayName()));
     }
     arv_device_set_range_check_policy(device.get(), ARV_RANGE_CHECK_POLICY_ENABLE);
     arv_device_set_access_check_policy(device.get(), ARV_ACCESS_CHECK_POLICY_ENABLE);

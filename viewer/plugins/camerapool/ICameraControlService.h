@@ -65,6 +65,11 @@ Q_SIGNALS:
     /// \a camera is closed; `deviceClosing` came before if it was open.
     void closed(Core::CameraPoolComponents::CameraInfoPtr camera);
 
+    /// The camera has another display name than before, which the search found out. \a camera is
+    /// its description from now on; those that were handed out before keep the old name. It may be
+    /// open, or just have come back; then this comes before `deviceConnected`.
+    void renamed(Core::CameraPoolComponents::CameraInfoPtr camera);
+
     void allClosed();
 
 protected:

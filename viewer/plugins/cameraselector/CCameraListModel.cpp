@@ -13,6 +13,18 @@
 
 namespace CameraSelector {
 
+namespace {
+
+// The identity is the maker, the model and the serial number.
+QString serialNumberOf(const Core::CameraPoolComponents::ICameraInfo &camera)
+{
+    const QString before = QStringLiteral("%1-%2-").arg(camera.vendorName(), camera.modelName());
+    const QString identity = camera.identity();
+    return identity.startsWith(before) ? identity.mid(before.size()) : identity;
+}
+
+} // namespace
+
 CCameraListModel::CCameraListModel(QSharedPointer<CameraPool::ICameraControlService> control,
                                    QObject *parent)
     : QAbstractTableModel(parent)
@@ -26,6 +38,7 @@ CCameraListModel::~CCameraListModel() = default;
 void CCameraListModel::refresh()
 {
     addNew();
+    updateNames();
     updateStates();
 }
 
@@ -39,9 +52,29 @@ void CCameraListModel::addNew()
             continue;
         }
         beginInsertRows({}, m_rows.size(), m_rows.size());
-        m_rows.append({camera, m_control->state(camera)});
+        m_rows.append({camera, m_control->state(camera), camera->displayName()});
         endInsertRows();
     }
+}
+
+void CCameraListModel::updateNames()
+{
+    for (int row = 0; row < m_rows.size(); ++row) {
+        const QString name = nameOf(m_rows.at(row).camera);
+        if (name != m_rows.at(row).name) {
+            m_rows[row].name = name;
+            Q_EMIT dataChanged(index(row, CameraColumn), index(row, CameraColumn));
+        }
+    }
+}
+
+QString CCameraListModel::nameOf(const CameraInfoPtr &camera) const
+{
+    const QString name = camera->displayName();
+    const auto bearers = std::count_if(m_rows.begin(), m_rows.end(), [&](const CRow &row) {
+        return row.camera->displayName() == name;
+    });
+    return bearers > 1 ? QStringLiteral("%1 (%2)").arg(name, serialNumberOf(*camera)) : name;
 }
 
 void CCameraListModel::updateStates()
@@ -101,7 +134,7 @@ QVariant CCameraListModel::data(const QModelIndex &index, int role) const
     const bool isName = index.column() == CameraColumn;
     switch (role) {
     case Qt::DisplayRole:
-        return isName ? row.camera->displayName() : stateText(row.state);
+        return isName ? row.name : stateText(row.state);
     case Qt::DecorationRole:
         return isName ? stateIcon(row.state) : QVariant();
     case Qt::ToolTipRole:
@@ -112,9 +145,8 @@ QVariant CCameraListModel::data(const QModelIndex &index, int role) const
                    ? QVariant(QGuiApplication::palette().color(QPalette::Disabled, QPalette::Text))
                    : QVariant();
     case Qt::AccessibleTextRole:
-        return isName
-                   ? QStringLiteral("%1, %2").arg(row.camera->displayName(), stateText(row.state))
-                   : stateText(row.state);
+        return isName ? QStringLiteral("%1, %2").arg(row.name, stateText(row.state))
+                      : stateText(row.state);
     default:
         return {};
     }

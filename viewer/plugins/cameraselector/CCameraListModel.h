@@ -11,7 +11,8 @@
 namespace CameraSelector {
 
 /// The cameras that were seen in this run, with what each is doing. One that is gone stays, so that
-/// the user sees what happened to it. GUI thread.
+/// the user sees what happened to it. Cameras with the same name are told apart by their serial
+/// numbers. GUI thread.
 class CCameraListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -50,10 +51,13 @@ private:
     {
         CameraInfoPtr camera;
         CameraState state;
+        QString name = {}; // as it is shown
     };
 
     void addNew();
+    void updateNames();
     void updateStates();
+    QString nameOf(const CameraInfoPtr &camera) const;
     int rowOf(const QString &identity) const;
 
     QSharedPointer<CameraPool::ICameraControlService> m_control;

@@ -3,6 +3,8 @@
 
 #include "plugins/cameraselector/CDeviceSelectionService.h"
 
+#include "plugins/camerapool/SameCamera.h"
+
 namespace CameraSelector {
 
 CDeviceSelectionService::CDeviceSelectionService(QObject *parent)
@@ -18,8 +20,9 @@ Core::CameraPoolComponents::DeviceBaseInfoPtr CDeviceSelectionService::selected(
 
 void CDeviceSelectionService::select(const Core::CameraPoolComponents::DeviceBaseInfoPtr &device)
 {
-    if (device != m_selected) {
-        m_selected = device;
+    const bool isChange = !CameraPool::isSameCamera(device, m_selected);
+    m_selected = device;
+    if (isChange) {
         Q_EMIT selectionChanged(device);
     }
 }

@@ -116,7 +116,7 @@ void CCameraSelectorPlugin::connectNews()
               &ICameraStatusService::deviceDisconnected, &ICameraStatusService::cameraGrabStarted,
               &ICameraStatusService::cameraGrabStopped);
     refreshOn(Core::Plugin::findService<ICameraControlService>(m_initializer),
-              &ICameraControlService::closed);
+              &ICameraControlService::closed, &ICameraControlService::renamed);
     refreshOn(Core::Plugin::findService<ICameraEnumerationService>(m_initializer),
               &ICameraEnumerationService::enumerationChanged);
     if (const auto status = Core::Plugin::findService<ICameraStatusService>(m_initializer)) {

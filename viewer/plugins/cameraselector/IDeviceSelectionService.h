@@ -15,7 +15,8 @@ public:
     /// Null: nothing is selected.
     virtual Core::CameraPoolComponents::DeviceBaseInfoPtr selected() const = 0;
 
-    /// Selects \a device; null selects nothing. Emits `selectionChanged` if that is a change.
+    /// Selects \a device; null selects nothing. Emits `selectionChanged` if that is a change;
+    /// another description of the same camera is none.
     virtual void select(const Core::CameraPoolComponents::DeviceBaseInfoPtr &device) = 0;
 
 protected:

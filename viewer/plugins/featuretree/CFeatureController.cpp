@@ -32,6 +32,7 @@ CFeatureController::CFeatureController(const CFeatureServices &services)
     m_refreshSoon.setSingleShot(true);
     m_refreshSoon.setInterval(afterChange);
     connect(&m_device, &CShownDevice::changed, this, &CFeatureController::showDevice);
+    connect(&m_device, &CShownDevice::renamed, this, &CFeatureController::noticeChanged);
     connect(&m_model, &CFeatureModel::changeWanted, this, &CFeatureController::onChangeWanted);
     connect(&m_access, &CFeatureAccess::described, this, &CFeatureController::onDescribed);
     connect(&m_access, &CFeatureAccess::notDescribed, this, &CFeatureController::onNotDescribed);

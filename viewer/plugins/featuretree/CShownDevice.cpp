@@ -3,13 +3,14 @@
 
 #include "plugins/featuretree/CShownDevice.h"
 
-#include "plugins/camerapool/ICameraControlService.h"
+#include "plugins/camerapool/SameCamera.h"
 #include "plugins/cameraselector/IDeviceSelectionService.h"
 
 namespace FeatureTree {
 
 using CameraPool::ICameraControlService;
 using CameraPool::ICameraStatusService;
+using CameraPool::isSameCamera;
 using Core::CameraPoolComponents::ICameraInfo;
 
 CShownDevice::CShownDevice(const QSharedPointer<CameraSelector::IDeviceSelectionService> &selection,
@@ -33,11 +34,18 @@ CShownDevice::CShownDevice(const QSharedPointer<CameraSelector::IDeviceSelection
     // It is still open in the moment in which `deviceClosing` is emitted: a device that is selected
     // just then is found out to be closed by this.
     connect(control.data(), &ICameraControlService::closed, this, [this](const DevicePtr &device) {
-        if (device == m_camera && m_condition == Condition::Open
+        if (isSameCamera(device, m_camera) && m_condition == Condition::Open
             && askCondition() != Condition::Open) {
             set(askCondition());
         }
     });
+    connect(control.data(), &ICameraControlService::renamed, this,
+            [this](const Core::CameraPoolComponents::CameraInfoPtr &camera) {
+                if (isSameCamera(camera, m_camera)) {
+                    m_camera = camera;
+                    Q_EMIT renamed();
+                }
+            });
     show(selection->selected());
 }
 
@@ -45,14 +53,15 @@ CShownDevice::~CShownDevice() = default;
 
 void CShownDevice::show(const DevicePtr &device)
 {
-    m_camera = qSharedPointerDynamicCast<ICameraInfo>(device);
+    m_camera =
+        CameraPool::newestDescription(*m_control, qSharedPointerDynamicCast<ICameraInfo>(device));
     set(askCondition());
 }
 
 // Opening it anew comes with a closing before, so the same condition again is no news.
 void CShownDevice::onNews(const DevicePtr &device, Condition condition)
 {
-    if (m_camera && device == m_camera && condition != m_condition) {
+    if (m_camera && isSameCamera(device, m_camera) && condition != m_condition) {
         set(condition);
     }
 }

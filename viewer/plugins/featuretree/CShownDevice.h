@@ -43,7 +43,7 @@ public:
         return m_condition;
     }
 
-    /// Null for none.
+    /// Described as it was found last. Null for none.
     Core::CameraPoolComponents::CameraInfoPtr camera() const
     {
         return m_camera;
@@ -52,6 +52,9 @@ public:
 Q_SIGNALS:
     /// Another device, another condition, or the same device opened anew.
     void changed();
+
+    /// The same device in the same condition, but `camera` has another name.
+    void renamed();
 
 private:
     void show(const DevicePtr &device);

@@ -43,6 +43,7 @@ CImagePane::CImagePane(CLiveCamera &camera, QWidget *parent)
     , m_format(newLabel(this, "format", Qt::ElideLeft))
 {
     build();
+    connect(&m_camera, &CLiveCamera::infoChanged, this, &CImagePane::retranslate);
     connect(&m_camera, &CLiveCamera::imageChanged, this, &CImagePane::showImage);
     connect(&m_camera, &CLiveCamera::stateChanged, this, &CImagePane::showState);
     connect(m_view, &CImageView::pointerChanged, this, &CImagePane::showPointer);

@@ -51,6 +51,12 @@ const CLiveCamera::CameraInfoPtr &CLiveCamera::info() const
     return m_info;
 }
 
+void CLiveCamera::setInfo(const CameraInfoPtr &info)
+{
+    m_info = info;
+    Q_EMIT infoChanged();
+}
+
 const ShownImage &CLiveCamera::image() const
 {
     return m_image;

@@ -29,7 +29,12 @@ public:
     CLiveCamera(CameraInfoPtr info, std::shared_ptr<CMailbox> mailbox, QThreadPool &workers);
     ~CLiveCamera() override;
 
+    /// Described as it was found last; never null.
     const CameraInfoPtr &info() const;
+
+    /// Takes another description of the same camera.
+    void setInfo(const CameraInfoPtr &info);
+
     const ShownImage &image() const;
     bool isGrabbing() const;
 
@@ -47,6 +52,8 @@ public:
 Q_SIGNALS:
     void imageChanged();
 
+    void infoChanged();
+
     /// `isGrabbing`, `failureCount` or `lastFailure` is another one.
     void stateChanged();
 
@@ -59,7 +66,7 @@ private:
     void convert(const Nerix::CGrabResultPtr &result, const QDateTime &time);
     void show(const ShownImage &image);
 
-    const CameraInfoPtr m_info;
+    CameraInfoPtr m_info;
     const std::shared_ptr<CMailbox> m_mailbox;
     QThreadPool &m_workers;
     QTimer m_pace;

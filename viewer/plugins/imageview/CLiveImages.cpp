@@ -3,6 +3,7 @@
 
 #include "plugins/imageview/CLiveImages.h"
 
+#include "plugins/camerapool/SameCamera.h"
 #include "plugins/imageview/CLiveCamera.h"
 #include "plugins/imageview/CMailbox.h"
 
@@ -25,7 +26,8 @@ constexpr int mostWorkers = 2;
 } // namespace
 
 CLiveImages::CLiveImages(const Services &services)
-    : m_mailbox(std::make_shared<CMailbox>([this](const QString &identity) {
+    : m_control(services.control)
+    , m_mailbox(std::make_shared<CMailbox>([this](const QString &identity) {
         QMetaObject::invokeMethod(
             this, [this, identity] { onNews(identity); }, Qt::QueuedConnection);
     }))
@@ -47,6 +49,8 @@ void CLiveImages::listen(const Services &services)
     connect(status, &ICameraStatusService::deviceOpened, this, &CLiveImages::add);
     connect(services.control.data(), &ICameraControlService::closed, this, &CLiveImages::remove);
     connect(status, &ICameraStatusService::deviceDisconnected, this, &CLiveImages::remove);
+    connect(services.control.data(), &ICameraControlService::renamed, this,
+            &CLiveImages::onRenamed);
     connect(status, &ICameraStatusService::cameraGrabStarted, this,
             [this](const CameraInfoPtr &info) {
                 if (CLiveCamera *camera = find(info)) {
@@ -98,7 +102,8 @@ void CLiveImages::add(const DeviceBaseInfoPtr &device)
     if (!info || find(info->identity())) {
         return;
     }
-    m_cameras.push_back(std::make_unique<CLiveCamera>(info, m_mailbox, m_workers));
+    m_cameras.push_back(std::make_unique<CLiveCamera>(
+        CameraPool::newestDescription(*m_control, info), m_mailbox, m_workers));
     CLiveCamera *camera = m_cameras.back().get();
     connect(camera, &CLiveCamera::imagesFailed, this,
             [this, camera](const QString &text, int count) {
@@ -118,6 +123,13 @@ void CLiveImages::remove(const DeviceBaseInfoPtr &device)
     const std::unique_ptr<CLiveCamera> camera = std::move(*found);
     m_cameras.erase(found);
     Q_EMIT cameraRemoved(camera.get());
+}
+
+void CLiveImages::onRenamed(const CameraInfoPtr &info)
+{
+    if (CLiveCamera *camera = find(info)) {
+        camera->setInfo(info);
+    }
 }
 
 void CLiveImages::onNews(const QString &identity)

@@ -59,8 +59,10 @@ private:
     void add(const Core::CameraPoolComponents::DeviceBaseInfoPtr &device);
     void remove(const Core::CameraPoolComponents::DeviceBaseInfoPtr &device);
     void onNews(const QString &identity);
+    void onRenamed(const Core::CameraPoolComponents::CameraInfoPtr &info);
     CLiveCamera *find(const QString &identity) const;
 
+    const QSharedPointer<CameraPool::ICameraControlService> m_control;
     const std::shared_ptr<CMailbox> m_mailbox;
     std::vector<std::unique_ptr<CLiveCamera>> m_cameras;
     QThreadPool m_workers; // last: its work ends before the cameras do
