@@ -15,6 +15,8 @@ private Q_SLOTS:
     void testEntryReopensThePage();
     void testMainWindowDoesNotWaitForThePage();
     void testPrivacyStatementIsShown();
+    void testPrivacyStatementIsShownInTheLanguageOfTheViewer_data();
+    void testPrivacyStatementIsShownInTheLanguageOfTheViewer();
     void testOtherLinksAreWebAddresses();
     void testAddressThatIsNoWebAddressIsRefused();
 };
@@ -66,6 +68,32 @@ void HelpEntryTest::testPrivacyStatementIsShown()
     QFile file(document);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().contains("# Privacy statement"));
+}
+
+void HelpEntryTest::testPrivacyStatementIsShownInTheLanguageOfTheViewer_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("document");
+    QTest::newRow("ja") << "ja_JP.UTF-8"
+                        << "ja/privacy.md";
+    QTest::newRow("ko") << "ko_KR.UTF-8"
+                        << "ko/privacy.md";
+    QTest::newRow("zh") << "zh_CN.UTF-8"
+                        << "zh/privacy.md";
+    QTest::newRow("a language that the viewer does not speak") << "de_DE.UTF-8"
+                                                               << "privacy.md";
+}
+
+void HelpEntryTest::testPrivacyStatementIsShownInTheLanguageOfTheViewer()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, document);
+    CViewerProcess viewer;
+    viewer.setEnvironment("LC_ALL", locale);
+    QCOMPARE(viewer.run("consent.openLink('DataPrivacy.txt'); print(help.lastShown());"), 0);
+    const QString path = NERIX_BUILD_DIR "/share/doc/nerix-viewer/" + document;
+    QCOMPARE(viewer.printed(), QStringList({path}));
+    QCOMPARE(viewer.logged(), QStringList({"help document: " + path}));
 }
 
 void HelpEntryTest::testOtherLinksAreWebAddresses()

@@ -111,7 +111,9 @@ void PackageTest::testPackageHas_data()
           "usr/share/applications/example.ostrand.NerixViewer.desktop",
           "usr/share/metainfo/example.ostrand.NerixViewer.metainfo.xml",
           "usr/share/icons/hicolor/scalable/apps/example.ostrand.NerixViewer.svg",
-          "usr/share/doc/nerix-viewer/copyright", "usr/share/doc/nerix-viewer/privacy.md"}) {
+          "usr/share/doc/nerix-viewer/copyright", "usr/share/doc/nerix-viewer/privacy.md",
+          "usr/share/doc/nerix-viewer/ja/privacy.md", "usr/share/doc/nerix-viewer/ko/privacy.md",
+          "usr/share/doc/nerix-viewer/zh/privacy.md"}) {
         QTest::newRow(file) << QString(file);
     }
 }

@@ -9,7 +9,9 @@
 #include <Core/Plugin/ServiceLookup.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 using Plugin::AppCore::IMenuControlService;
@@ -56,6 +58,7 @@ HelpWindowFixture::~HelpWindowFixture()
 void HelpWindowFixture::write(const char *name, const QByteArray &text)
 {
     QFile file(m_folder.filePath(QString::fromLatin1(name)));
+    QVERIFY(QDir().mkpath(QFileInfo(file).path()));
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(text), qint64(text.size()));
 }
@@ -63,13 +66,23 @@ void HelpWindowFixture::write(const char *name, const QByteArray &text)
 void HelpWindowFixture::start()
 {
     registry.addService(QSharedPointer<CTestWindows>::create());
+    m_localization =
+        std::make_unique<Plugin::Localization::CLocalizationPlugin>([](const QString &) {});
     m_appCore = std::make_unique<Plugin::AppCore::CAppCorePlugin>();
     plugin = std::make_unique<Plugin::Help::CHelpPlugin>(m_folder.path());
+    QVERIFY(m_localization->preInitialize(&registry));
     QVERIFY(m_appCore->preInitialize(&registry));
     QVERIFY(plugin->preInitialize(&registry));
     const auto menus = Core::Plugin::findService<IMenuControlService>(&registry);
     menus->createActionContainer(Core::CId("NerixViewer.Menu.Help"), QStringLiteral("Help"));
     QVERIFY(plugin->initialize());
+}
+
+void HelpWindowFixture::setLanguage(const char *language)
+{
+    const auto languages =
+        Core::Plugin::findService<Plugin::Localization::ILanguageService>(&registry);
+    languages->setLanguage(QString::fromLatin1(language));
 }
 
 void HelpWindowFixture::trigger(const char *id)

@@ -6,6 +6,7 @@
 #include "plugins/help/CHelpBrowser.h"
 #include "plugins/help/CHelpWindow.h"
 #include "plugins/help/HelpPlugin.h"
+#include "plugins/localization/LocalizationPlugin.h"
 
 #include <pluginsystem/CServiceRegistry.h>
 
@@ -21,10 +22,13 @@ public:
     HelpWindowFixture();
     ~HelpWindowFixture();
 
-    // Before `start`.
+    // Before `start`; \a name may be in a folder of its own, as in "ja/help.md".
     void write(const char *name, const QByteArray &text);
 
     void start();
+
+    // As choosing it in the menu of the languages.
+    void setLanguage(const char *language);
 
     // As choosing the entry in its menu.
     void trigger(const char *id);
@@ -41,5 +45,6 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    std::unique_ptr<Plugin::Localization::CLocalizationPlugin> m_localization;
     std::unique_ptr<Plugin::AppCore::CAppCorePlugin> m_appCore;
 };

@@ -55,13 +55,26 @@ CHelpBrowser::~CHelpBrowser() = default;
 void CHelpBrowser::showDocument(const QString &path, const QString &heading)
 {
     const QUrl url = QUrl::fromLocalFile(path);
-    if (source() == url) {
+    if (source().fileName() == url.fileName()) {
         reload();
     } else {
         setSource(url, path.endsWith(QLatin1String(".md")) ? QTextDocument::MarkdownResource
                                                            : QTextDocument::HtmlResource);
     }
     goToHeading(heading);
+}
+
+// A document has the same blocks in each language.
+void CHelpBrowser::readAnew()
+{
+    if (source().isEmpty()) {
+        return;
+    }
+    const int top = cursorForPosition({}).blockNumber();
+    reload();
+    if (top > 0) {
+        bringToTheTop(document()->findBlockByNumber(top));
+    }
 }
 
 QString CHelpBrowser::title() const
@@ -104,7 +117,8 @@ void CHelpBrowser::setZoom(int steps)
     }
 }
 
-// Qt would read the file in the encoding of the system.
+// Qt would read the file in the encoding of the system, and in the language of its path: the way
+// back has paths of other languages after a change.
 QVariant CHelpBrowser::loadResource(int type, const QUrl &name)
 {
     const bool isText =
@@ -150,12 +164,17 @@ void CHelpBrowser::goToHeading(const QString &heading)
     }
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         if (isHeading(block) && anchorOf(block.text()) == heading) {
-            // From the end, so that the heading comes to the top.
-            moveCursor(QTextCursor::End);
-            setTextCursor(QTextCursor(block));
+            bringToTheTop(block);
             return;
         }
     }
+}
+
+// From the end, since the view moves no farther than it must.
+void CHelpBrowser::bringToTheTop(const QTextBlock &block)
+{
+    moveCursor(QTextCursor::End);
+    setTextCursor(QTextCursor(block));
 }
 
 } // namespace Help

@@ -24,6 +24,10 @@ public:
     /// written as in a link ("how-to-withdraw").
     void showDocument(const QString &path, const QString &heading = {});
 
+    /// Shows the same document once more, in the language of the moment. What stands at the top
+    /// stays there.
+    void readAnew();
+
     /// The first heading of the document.
     QString title() const;
 
@@ -45,6 +49,7 @@ private:
     void follow(const QUrl &link);
     void giveTablesRoom();
     void goToHeading(const QString &heading);
+    void bringToTheTop(const QTextBlock &block);
 
     CHelpDocuments m_documents;
     int m_zoom = 0;

@@ -3,9 +3,12 @@
 
 #include "plugins/help/CHelpDocuments.h"
 
+#include <utility>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace Plugin {
 namespace Help {
@@ -42,28 +45,41 @@ QString withoutComments(const QString &text)
     return rest;
 }
 
+bool isReadable(const QString &path)
+{
+    return QFileInfo(path).isFile() && QFileInfo(path).isReadable();
+}
+
+// The folders for "zh_CN" are "zh_CN" and "zh", as with the catalogues of the menus.
+QStringList foldersOf(const QString &language)
+{
+    static const QRegularExpression region(QStringLiteral("[_-].*$"));
+    return {language, QString(language).remove(region)};
+}
+
 } // namespace
 
-CHelpDocuments::CHelpDocuments(const QString &folder)
+CHelpDocuments::CHelpDocuments(const QString &folder, Language language)
     : m_folder(QDir::cleanPath(folder))
+    , m_language(std::move(language))
 {}
 
 QString CHelpDocuments::path(CHelpHelper::HelpType type) const
 {
     const QString fileName = fileNameOf(type);
-    return fileName.isEmpty() ? QString() : QDir(m_folder).absoluteFilePath(fileName);
+    return fileName.isEmpty() ? QString() : pathOf(fileName);
 }
 
 bool CHelpDocuments::has(CHelpHelper::HelpType type) const
 {
-    const QString file = path(type);
-    return !file.isEmpty() && QFileInfo(file).isFile() && QFileInfo(file).isReadable();
+    return isReadable(path(type));
 }
 
 QString CHelpDocuments::text(const QString &path) const
 {
     QFile file(path);
-    const bool isOurs = QFileInfo(path).absolutePath() == QDir(m_folder).absolutePath();
+    const QString folder = QDir(m_folder).absolutePath() + QLatin1Char('/');
+    const bool isOurs = QDir::cleanPath(QFileInfo(path).absoluteFilePath()).startsWith(folder);
     if (!isOurs || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -73,8 +89,21 @@ QString CHelpDocuments::text(const QString &path) const
 QString CHelpDocuments::resolve(const QUrl &link) const
 {
     const bool isLocal = link.scheme().isEmpty() || link.isLocalFile();
-    const QFileInfo file(QDir(m_folder).absoluteFilePath(QFileInfo(link.path()).fileName()));
-    return isLocal && file.isFile() ? file.absoluteFilePath() : QString();
+    const QString path = pathOf(QFileInfo(link.path()).fileName());
+    return isLocal && QFileInfo(path).isFile() ? path : QString();
+}
+
+QString CHelpDocuments::pathOf(const QString &fileName) const
+{
+    const QDir folder(m_folder);
+    const QStringList languages = foldersOf(m_language ? m_language() : QString());
+    for (const QString &language : languages) {
+        const QString path = folder.absoluteFilePath(language + QLatin1Char('/') + fileName);
+        if (!language.isEmpty() && isReadable(path)) {
+            return path;
+        }
+    }
+    return folder.absoluteFilePath(fileName);
 }
 
 } // namespace Help

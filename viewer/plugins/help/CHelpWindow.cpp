@@ -67,6 +67,12 @@ void CHelpWindow::showDocument(const QString &path, QWindow *over)
     m_browser->setFocus();
 }
 
+void CHelpWindow::readAnew()
+{
+    m_browser->readAnew();
+    setTitle();
+}
+
 CHelpBrowser *CHelpWindow::browser() const
 {
     return m_browser;
@@ -113,10 +119,9 @@ void CHelpWindow::fillToolBar(const CHelpDocuments &documents)
     forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     forward->setEnabled(false);
     connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
-    const QString contents = documents.path(CHelpHelper::HelpContents);
     addEntry(
         "go-home", [] { return tr("Contents"); }, {QKeySequence(Qt::ALT + Qt::Key_Home)},
-        [this, contents] { m_browser->showDocument(contents); })
+        [this, documents] { m_browser->showDocument(documents.path(CHelpHelper::HelpContents)); })
         ->setEnabled(documents.has(CHelpHelper::HelpContents));
     m_toolBar->addSeparator();
     addEntry(

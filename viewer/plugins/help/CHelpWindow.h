@@ -32,6 +32,9 @@ public:
     /// a window that blocks the others lets only those through that stand over it.
     void showDocument(const QString &path, QWindow *over);
 
+    /// Shows the same document in the language of the moment.
+    void readAnew();
+
     CHelpBrowser *browser() const;
 
 protected:

@@ -6,6 +6,7 @@
 #include "plugins/help/CHelpEntries.h"
 #include "plugins/help/CHelpViewService.h"
 #include "plugins/help/CHelpWindow.h"
+#include "plugins/localization/ILanguageService.h"
 #include "plugins/nerixviewer/IMainWindowService.h"
 
 #include <CHelpHelper.h>
@@ -21,7 +22,8 @@ namespace Help {
 
 CHelpPlugin::CHelpPlugin(const QString &documentFolder, QObject *parent)
     : IPlugin(parent)
-    , m_documents(documentFolder)
+    , m_documents(documentFolder,
+                  [this] { return m_languages ? m_languages->language() : QString(); })
     , m_service(QSharedPointer<CHelpViewService>::create(m_documents))
 {}
 
@@ -44,6 +46,7 @@ bool CHelpPlugin::initialize()
         [service](CHelpHelper::HelpType type) { return service->showDocument(type); });
     DocumentationHelper::setHandler(
         [service](const QUrl &url, bool /*inViewer*/) { return service->showAddress(url); });
+    followTheLanguage();
     addWindow();
     if (const auto menus = Core::Plugin::findService<AppCore::IMenuService>(m_initializer)) {
         m_entries = std::make_unique<CHelpEntries>(*menus, m_documents, m_mainWindow);
@@ -58,8 +61,24 @@ bool CHelpPlugin::uninitialize(const QPointer<Core::Plugin::IPluginInitializer> 
     m_service->setViewer({});
     m_entries.reset();
     delete m_window;
+    if (m_languages) {
+        m_languages->disconnect(this);
+        m_languages.reset();
+    }
     initializer->removeService(m_service);
     return true;
+}
+
+void CHelpPlugin::followTheLanguage()
+{
+    m_languages = Core::Plugin::findService<Localization::ILanguageService>(m_initializer);
+    if (m_languages) {
+        connect(m_languages.data(), &Localization::ILanguageService::languageChanged, this, [this] {
+            if (m_window) {
+                m_window->readAnew();
+            }
+        });
+    }
 }
 
 void CHelpPlugin::addWindow()

@@ -12,6 +12,11 @@
 #include <QString>
 
 namespace Plugin {
+
+namespace Localization {
+class ILanguageService;
+}
+
 namespace Help {
 
 class CHelpEntries;
@@ -25,7 +30,8 @@ class CHelpPlugin : public Core::Plugin::IPlugin
     Q_OBJECT
 
 public:
-    /// \a documentFolder holds the documents that are installed with the viewer.
+    /// \a documentFolder holds the documents that are installed with the viewer. They are shown in
+    /// the language of the viewer, in English without an `ILanguageService`.
     explicit CHelpPlugin(const QString &documentFolder, QObject *parent = nullptr);
     ~CHelpPlugin() override;
 
@@ -34,9 +40,11 @@ public:
     bool uninitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
 
 private:
+    void followTheLanguage();
     void addWindow();
     void showInWindow(const QString &path);
 
+    QSharedPointer<Localization::ILanguageService> m_languages; // null before and after the run
     CHelpDocuments m_documents;
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
     QSharedPointer<CHelpViewService> m_service;
