@@ -11,6 +11,10 @@
         <source>&amp;Close Camera</source>
         <translation>カメラを閉じる(&amp;C)</translation>
     </message>
+    <message>
+        <source>%1 is grabbing and stays open: to close it all the same, choose Close Camera in the menu Camera or press %2</source>
+        <translation>%1 は取り込み中のため、開いたままにします。それでも閉じるには、［カメラ］メニューの［カメラを閉じる］を選ぶか、%2 を押してください</translation>
+    </message>
 </context>
 <context>
     <name>CameraSelector::CCameraListModel</name>

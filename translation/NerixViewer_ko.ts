@@ -11,6 +11,10 @@
         <source>&amp;Close Camera</source>
         <translation>카메라 닫기(&amp;C)</translation>
     </message>
+    <message>
+        <source>%1 is grabbing and stays open: to close it all the same, choose Close Camera in the menu Camera or press %2</source>
+        <translation>%1은(는) 획득 중이므로 열린 채로 둡니다. 그래도 닫으려면 카메라 메뉴에서 카메라 닫기를 선택하거나 %2 키를 누르십시오</translation>
+    </message>
 </context>
 <context>
     <name>CameraSelector::CCameraListModel</name>

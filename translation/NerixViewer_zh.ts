@@ -11,6 +11,10 @@
         <source>&amp;Close Camera</source>
         <translation>关闭相机(&amp;C)</translation>
     </message>
+    <message>
+        <source>%1 is grabbing and stays open: to close it all the same, choose Close Camera in the menu Camera or press %2</source>
+        <translation>%1 正在采集，因此保持打开。如仍要关闭，请在“相机”菜单中选择“关闭相机”，或按 %2</translation>
+    </message>
 </context>
 <context>
     <name>CameraSelector::CCameraListModel</name>

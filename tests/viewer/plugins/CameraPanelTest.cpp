@@ -2,12 +2,17 @@
 // SPDX-License-Identifier: MIT
 
 #include "plugins/appcore/CMenuService.h"
+#include "plugins/cameraselector/CameraSelectorPlugin.h"
 #include "plugins/cameraselector/CCameraCommands.h"
 #include "plugins/cameraselector/CCameraListModel.h"
 #include "plugins/cameraselector/CCameraPanel.h"
 #include "plugins/cameraselector/CDeviceSelectionService.h"
+#include "plugins/nerixviewer/IMessageService.h"
 #include "support/CFakeCameraControl.h"
+#include "support/CFakeMainWindow.h"
 #include "support/Texts.h"
+
+#include <pluginsystem/CServiceRegistry.h>
 
 #include <QAction>
 #include <QLabel>
@@ -20,6 +25,18 @@ using CameraSelector::CCameraCommands;
 using CameraSelector::CCameraListModel;
 using CameraSelector::CCameraPanel;
 using CameraSelector::CDeviceSelectionService;
+
+// Keeps what is told to the user.
+class CKeptMessages : public Plugin::NerixViewer::IMessageService
+{
+public:
+    void add(Severity, const QString &text) override
+    {
+        texts.append(text);
+    }
+
+    QStringList texts;
+};
 
 class CameraPanelTest : public QObject
 {
@@ -41,6 +58,8 @@ private Q_SLOTS:
     void testSelectedCameraIsCurrentOnceItIsInTheList();
     void testEnterOpensAndCloses();
     void testDoubleClickOpens();
+    void testDoubleClickAndEnterLeaveAGrabbingCameraAloneAndSayHowToCloseIt();
+    void testHintStandsInTheMessages();
     void testEntriesAreEnabledAsTheStateAllows_data();
     void testEntriesAreEnabledAsTheStateAllows();
     void testEntriesOpenAndCloseTheSelectedCamera();
@@ -232,6 +251,57 @@ void CameraPanelTest::testDoubleClickOpens()
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, point);
     QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, point);
     QTRY_COMPARE(m_control->state(camera), ICameraControlService::Open);
+}
+
+// The requests come to their ends in turn: had an earlier one closed it, that would have been told.
+void CameraPanelTest::testDoubleClickAndEnterLeaveAGrabbingCameraAloneAndSayHowToCloseIt()
+{
+    const auto camera = m_control->plugIn("Ostrand-XQZ-2000-1", "XQZ-2000", "Left of the belt");
+    m_model->refresh();
+    m_panel->resize(400, 300);
+    m_panel->show();
+    m_selection->select(camera);
+    m_control->setState(camera, ICameraControlService::Grabbing);
+    m_commands->update();
+    const QSignalSpy hints(m_commands.data(), &CCameraCommands::leftAlone);
+    const QSignalSpy closed(m_control.data(), &ICameraControlService::closed);
+    auto *view = m_panel->findChild<QTreeView *>();
+    const QPoint point = view->visualRect(m_model->index(0, 0)).center();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, point);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, point);
+    QCOMPARE(hints.count(), 1);
+    QTest::keyClick(view, Qt::Key_Return);
+    QCOMPARE(hints.count(), 2);
+    QCOMPARE(
+        hints.at(1).first().toString(),
+        QString("Left of the belt is grabbing and stays open: to close it all the same, choose "
+                "Close Camera in the menu Camera or press Ctrl+W"));
+    QCOMPARE(m_commands->closeAction()->shortcut(), QKeySequence("Ctrl+W"));
+    m_menus->trigger(Core::CId("CameraSelector.Action.Close"));
+    QTRY_COMPARE(m_control->state(camera), ICameraControlService::Free);
+    QCOMPARE(closed.count(), 1);
+}
+
+void CameraPanelTest::testHintStandsInTheMessages()
+{
+    const auto messages = QSharedPointer<CKeptMessages>::create();
+    const auto window = QSharedPointer<CFakeMainWindow>::create();
+    const auto menus = QSharedPointer<Plugin::AppCore::CMenuService>::create();
+    PluginSystem::CServiceRegistry registry;
+    registry.addService(messages);
+    registry.addService(window);
+    registry.addService(menus);
+    registry.addService(m_control);
+    const auto camera = m_control->plugIn("Ostrand-XQZ-2000-1");
+    m_control->setState(camera, ICameraControlService::Grabbing);
+    CameraSelector::CCameraSelectorPlugin plugin;
+    QVERIFY(plugin.preInitialize(&registry) && plugin.initialize());
+    auto *view = window->panels.first()->findChild<QTreeView *>();
+    view->setCurrentIndex(view->model()->index(0, 0));
+    QTest::keyClick(view, Qt::Key_Return);
+    QCOMPARE(messages->texts.size(), 1);
+    QVERIFY(messages->texts.first().startsWith("Ostrand-XQZ-2000-1 is grabbing and stays open"));
+    QVERIFY(plugin.uninitialize(&registry));
 }
 
 void CameraPanelTest::testEntriesAreEnabledAsTheStateAllows_data()

@@ -19,6 +19,11 @@ using Core::CameraPoolComponents::ICameraInfo;
 
 namespace {
 
+QKeySequence closeKey()
+{
+    return QKeySequence(Qt::CTRL + Qt::Key_W);
+}
+
 bool isOpen(ICameraControlService::CameraState state)
 {
     return state == ICameraControlService::Open || state == ICameraControlService::Grabbing;
@@ -50,7 +55,7 @@ void CCameraCommands::addEntries(Plugin::AppCore::IMenuService &menus)
     m_close = Windows::addMenuEntry(
         menus,
         {"CameraSelector.Action.Close", "NerixViewer.Menu.Camera",
-         "NerixViewer.Group.Camera.Device", QKeySequence(Qt::CTRL + Qt::Key_W)},
+         "NerixViewer.Group.Camera.Device", closeKey()},
         [] { return tr("&Close Camera"); }, this);
     m_close->setIcon(stateIcon(ICameraControlService::Free));
     connect(m_close, &QAction::triggered, this, [this] { m_control->close(selected()); });
@@ -75,9 +80,17 @@ void CCameraCommands::openOrClose(const CameraInfoPtr &camera)
     if (!camera) {
         return;
     }
-    if (isOpen(m_control->state(camera))) {
+    switch (m_control->state(camera)) {
+    case ICameraControlService::Grabbing:
+        Q_EMIT leftAlone(
+            tr("%1 is grabbing and stays open: to close it all the same, choose Close Camera in "
+               "the menu Camera or press %2")
+                .arg(camera->displayName(), closeKey().toString(QKeySequence::NativeText)));
+        break;
+    case ICameraControlService::Open:
         m_control->close(camera);
-    } else {
+        break;
+    default:
         m_control->open(camera);
     }
 }

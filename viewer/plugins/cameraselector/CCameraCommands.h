@@ -36,12 +36,17 @@ public:
     /// Looks again at what the selected camera is doing.
     void update();
 
-    /// What a double click does: opens a camera that is not open, closes one that is.
+    /// What a double click does: opens a camera that is not open, closes one that is. One that
+    /// grabs is left alone, because images may be lost by a slip of the hand; `leftAlone` tells.
     void openOrClose(const Core::CameraPoolComponents::CameraInfoPtr &camera);
 
     /// Null before addEntries.
     QAction *openAction() const;
     QAction *closeAction() const;
+
+Q_SIGNALS:
+    /// \a hint is one line: why the camera was not closed, and how to close it all the same.
+    void leftAlone(const QString &hint);
 
 private:
     Core::CameraPoolComponents::CameraInfoPtr selected() const;

@@ -16,7 +16,8 @@ class CCameraCommands;
 class CCameraListModel;
 class IDeviceSelectionService;
 
-/// The panel with the list of cameras: a double click or Enter opens and closes, the row that is
+/// The panel with the list of cameras: a double click or Enter opens, and closes a camera that does
+/// not grab, the row that is
 /// current is the selected device. What could not be opened is said below the list, until something
 /// works. GUI thread.
 class CCameraPanel : public QWidget

@@ -9,6 +9,7 @@
 #include "plugins/cameraselector/CCameraPanel.h"
 #include "plugins/cameraselector/CDeviceSelectionService.h"
 #include "plugins/nerixviewer/IMainWindowService.h"
+#include "plugins/nerixviewer/IMessageService.h"
 
 #include <CameraPool/ICameraEnumerationService.h>
 #include <CameraPool/ICameraStatusService.h>
@@ -79,6 +80,7 @@ void CCameraSelectorPlugin::addCommands()
     m_commands->addEntries(*menus);
     connect(control.data(), &CameraPool::ICameraControlService::openFailed, this,
             [this](const auto &, const QString &message) { showProblem(message); });
+    connect(m_commands.get(), &CCameraCommands::leftAlone, this, &CCameraSelectorPlugin::hint);
     connectNews();
     addPanel();
 }
@@ -140,6 +142,14 @@ void CCameraSelectorPlugin::showProblem(const QString &message)
 {
     if (m_panel) {
         m_panel->setProblem(message);
+    }
+}
+
+void CCameraSelectorPlugin::hint(const QString &text)
+{
+    using Plugin::NerixViewer::IMessageService;
+    if (const auto messages = Core::Plugin::findService<IMessageService>(m_initializer)) {
+        messages->add(IMessageService::Severity::Information, text);
     }
 }
 

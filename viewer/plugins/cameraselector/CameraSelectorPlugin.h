@@ -37,6 +37,7 @@ private:
     void connectNews();
     void onFirstSearchEnded();
     void showProblem(const QString &message);
+    void hint(const QString &text);
     void refresh();
 
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
