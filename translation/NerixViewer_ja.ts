@@ -564,6 +564,17 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     </message>
 </context>
 <context>
+    <name>Plugin::Help::CHelpViewService</name>
+    <message>
+        <source>The document %1 cannot be read: install the viewer&apos;s documents again</source>
+        <translation>ドキュメント %1 を読み取れません。ビューアのドキュメントをインストールし直してください</translation>
+    </message>
+    <message>
+        <source>No browser could be started for %1: choose a default browser, or open the address elsewhere</source>
+        <translation>%1 を開くブラウザーを起動できませんでした。既定のブラウザーを選ぶか、別の場所でこのアドレスを開いてください</translation>
+    </message>
+</context>
+<context>
     <name>Plugin::Help::CHelpWindow</name>
     <message>
         <source>Back</source>

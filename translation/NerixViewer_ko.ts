@@ -564,6 +564,17 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     </message>
 </context>
 <context>
+    <name>Plugin::Help::CHelpViewService</name>
+    <message>
+        <source>The document %1 cannot be read: install the viewer&apos;s documents again</source>
+        <translation>문서 %1을(를) 읽을 수 없습니다. 뷰어의 문서를 다시 설치하세요</translation>
+    </message>
+    <message>
+        <source>No browser could be started for %1: choose a default browser, or open the address elsewhere</source>
+        <translation>%1을(를) 열 브라우저를 시작할 수 없습니다. 기본 브라우저를 선택하거나 다른 곳에서 이 주소를 여세요</translation>
+    </message>
+</context>
+<context>
     <name>Plugin::Help::CHelpWindow</name>
     <message>
         <source>Back</source>

@@ -564,6 +564,17 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     </message>
 </context>
 <context>
+    <name>Plugin::Help::CHelpViewService</name>
+    <message>
+        <source>The document %1 cannot be read: install the viewer&apos;s documents again</source>
+        <translation>无法读取文档 %1：请重新安装查看器的文档</translation>
+    </message>
+    <message>
+        <source>No browser could be started for %1: choose a default browser, or open the address elsewhere</source>
+        <translation>无法启动浏览器打开 %1：请选择默认浏览器，或在其他地方打开此地址</translation>
+    </message>
+</context>
+<context>
     <name>Plugin::Help::CHelpWindow</name>
     <message>
         <source>Back</source>

@@ -98,8 +98,13 @@ void HelpPluginTest::testDocumentThatIsMissingIsOneWarning()
                                            "documents again")
                                 .arg(document("privacy.md"));
     QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+    QSignalSpy failed(m_service.data(), &IHelpViewService::failed);
     QVERIFY(!CHelpHelper::showHelp(CHelpHelper::HelpPrivacyStatement));
     QCOMPARE(m_service->lastShown(), QString());
+    QCOMPARE(failed.count(), 1);
+    QCOMPARE(failed.at(0).at(0).toString(),
+             QStringLiteral("The document %1 cannot be read: install the viewer's documents again")
+                 .arg(document("privacy.md")));
 }
 
 void HelpPluginTest::testTypeWithoutADocumentIsOneWarning()

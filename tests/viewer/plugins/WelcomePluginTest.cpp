@@ -3,9 +3,11 @@
 
 #include "plugins/appcore/AppCorePlugin.h"
 #include "plugins/appcore/IMenuControlService.h"
+#include "plugins/help/IHelpViewService.h"
 #include "plugins/nerixviewer/NerixViewerPlugin.h"
 #include "plugins/nerixwelcome/CNerixWelcomeController.h"
 #include "plugins/nerixwelcome/NerixWelcomePlugin.h"
+#include "support/CFakeMainWindow.h"
 #include "support/CSettingsSandbox.h"
 #include "support/CTestTab.h"
 
@@ -14,11 +16,38 @@
 
 #include <pluginsystem/CServiceRegistry.h>
 
+#include <QApplication>
+#include <QLabel>
 #include <QTest>
 
 using Core::Plugin::findService;
 using Plugin::NerixWelcome::CNerixWelcomeController;
 using Plugin::NerixWelcome::INerixWelcomeService;
+
+namespace {
+
+// Shows nothing; the test emits its signals.
+class CHelpViews : public Plugin::Help::IHelpViewService
+{
+public:
+    QString lastShown() const override
+    {
+        return {};
+    }
+};
+
+QWidget *welcomeWindow()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->objectName() == QLatin1String("welcomeWindow")) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
 
 class WelcomePluginTest : public QObject
 {
@@ -34,6 +63,7 @@ private Q_SLOTS:
     void testViewMenuBringsUpTheScreen();
     void testEntryIsDisabledWithoutTabs();
     void testServiceMayBeKeptLongerThanThePlugin();
+    void testWindowTellsThatALinkFailed();
 
 private:
     PluginSystem::CServiceRegistry *registry()
@@ -142,6 +172,27 @@ void WelcomePluginTest::testServiceMayBeKeptLongerThanThePlugin()
     CTestTab tab;
     service->addTab(&tab);
     service->showTab(&tab, this);
+}
+
+void WelcomePluginTest::testWindowTellsThatALinkFailed()
+{
+    const auto help = QSharedPointer<CHelpViews>::create();
+    m_plugin->uninitialize(registry());
+    m_registry->addService(QSharedPointer<CFakeMainWindow>::create());
+    m_registry->addService(help);
+    QVERIFY(m_plugin->preInitialize(registry()));
+    QVERIFY(m_plugin->initialize());
+    Q_EMIT m_registry->initializationDone();
+    const QWidget *window = nullptr;
+    QVERIFY(QTest::qWaitFor([&] { return (window = welcomeWindow()) != nullptr; }));
+    findService<CNerixWelcomeController>(registry())->show();
+    QVERIFY(QTest::qWaitForWindowActive(welcomeWindow()));
+
+    const auto *notice = window->findChild<QLabel *>(QStringLiteral("notice"));
+    Q_EMIT help->failed(QStringLiteral("No browser could be started"));
+    QCOMPARE(notice->text(), QStringLiteral("No browser could be started"));
+    Q_EMIT help->shown(QStringLiteral("https://ostrand.example/faq"));
+    QCOMPARE(notice->text(), QString());
 }
 
 QTEST_MAIN(WelcomePluginTest)

@@ -53,6 +53,8 @@ private Q_SLOTS:
     void testQuestionThatComesLateBlocksTheOthersToo();
     void testSecondRequestBringsTheWindowBack();
     void testTextsFollowTheLanguage();
+    void testLinkThatFailsIsToldInTheWindow();
+    void testProblemElsewhereIsNotTold();
 
 private:
     void close(Way way);
@@ -189,6 +191,37 @@ void WelcomeWindowClosingTest::testTextsFollowTheLanguage()
     QCOMPARE(m_screen->notice()->text(), QStringLiteral("translated Privacy"));
     QCoreApplication::removeTranslator(&translator);
     QCOMPARE(m_screen->window->windowTitle(), QStringLiteral("Welcome to the Nerix Viewer"));
+}
+
+void WelcomeWindowClosingTest::testLinkThatFailsIsToldInTheWindow()
+{
+    CPageTab tab(WelcomeWindowFixture::emptyPage, "News");
+    m_screen->controller.addTab(&tab);
+    m_screen->makeWindow();
+    m_screen->controller.show();
+    QVERIFY(QTest::qWaitForWindowActive(m_screen->window.get()));
+    m_screen->window->showProblem("No browser");
+    QCOMPARE(m_screen->notice()->text(), QStringLiteral("No browser"));
+    m_screen->window->dropProblem(); // the next link did not fail
+    QCOMPARE(m_screen->notice()->text(), QString());
+    m_screen->window->showProblem("No browser");
+    m_screen->controller.close();
+    m_screen->controller.show();
+    QCOMPARE(m_screen->notice()->text(), QString());
+}
+
+void WelcomeWindowClosingTest::testProblemElsewhereIsNotTold()
+{
+    CPageTab tab(WelcomeWindowFixture::emptyPage, "News");
+    m_screen->controller.addTab(&tab);
+    m_screen->makeWindow();
+    m_screen->controller.show();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    m_screen->window->showProblem("No browser");
+    QCOMPARE(m_screen->notice()->text(), QString());
 }
 
 QTEST_MAIN(WelcomeWindowClosingTest)

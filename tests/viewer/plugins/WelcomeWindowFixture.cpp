@@ -29,9 +29,9 @@ WelcomeWindowFixture::WelcomeWindowFixture() = default;
 
 WelcomeWindowFixture::~WelcomeWindowFixture() = default;
 
-void WelcomeWindowFixture::makeWindow()
+void WelcomeWindowFixture::makeWindow(QWidget *parent)
 {
-    window = std::make_unique<CWelcomeWindow>(controller);
+    window = std::make_unique<CWelcomeWindow>(controller, parent);
 }
 
 QTabBar *WelcomeWindowFixture::tabBar() const

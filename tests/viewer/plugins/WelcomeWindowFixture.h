@@ -28,7 +28,7 @@ public:
     WelcomeWindowFixture();
     ~WelcomeWindowFixture();
 
-    void makeWindow();
+    void makeWindow(QWidget *parent = nullptr);
     QTabBar *tabBar() const;
     QLabel *notice() const;
 

@@ -7,6 +7,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
@@ -36,6 +37,8 @@ private Q_SLOTS:
     void testTabThatIsGoneTakesItsPageAlong();
     void testPageHasTheSizeOfTheWindow();
     void testWindowIsNotLargerThanTheScreen();
+    void testWindowStandsOverItsParent_data();
+    void testWindowStandsOverItsParent();
     void testPageScrollsToWhereTheKeyboardIs();
     void testPageThatCannotBeLoadedShowsWhy();
     void testTabKeyWalksThroughThePageAndOut_data();
@@ -182,6 +185,36 @@ void WelcomeWindowTest::testWindowIsNotLargerThanTheScreen()
     const auto *view = m_screen->window->findChild<QScrollArea *>();
     QVERIFY(view->verticalScrollBar()->maximum() > 0);
     QCOMPARE(view->horizontalScrollBar()->maximum(), 0);
+}
+
+// On a screen of 800 pixels each way, with a page of 400 x 300.
+void WelcomeWindowTest::testWindowStandsOverItsParent_data()
+{
+    QTest::addColumn<QRect>("parent");
+    QTest::addColumn<QPoint>("offMiddle");
+
+    QTest::newRow("in its middle") << QRect(100, 60, 600, 500) << QPoint(0, 0);
+    QTest::newRow("but not beyond the screen, up and to the left")
+        << QRect(0, 0, 200, 100) << QPoint(1, 1);
+    QTest::newRow("nor down and to the right") << QRect(600, 500, 200, 100) << QPoint(-1, -1);
+}
+
+void WelcomeWindowTest::testWindowStandsOverItsParent()
+{
+    QFETCH(QRect, parent);
+    QWidget main;
+    main.setGeometry(parent);
+    main.show();
+    CPageTab page(WelcomeWindowFixture::emptyPage);
+    m_screen->controller.addTab(&page);
+    m_screen->makeWindow(&main);
+    m_screen->controller.show();
+    const QRect place = m_screen->window->frameGeometry();
+    QVERIFY(m_screen->window->screen()->availableGeometry().contains(place));
+    const QPoint off = place.center() - main.frameGeometry().center();
+    const auto sign = [](int value) { return value < -1 ? -1 : value > 1 ? 1 : 0; };
+    QTEST(QPoint(sign(off.x()), sign(off.y())), "offMiddle");
+    m_screen->window.reset(); // before its parent
 }
 
 void WelcomeWindowTest::testPageScrollsToWhereTheKeyboardIs()

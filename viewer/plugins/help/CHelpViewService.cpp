@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QUrl>
@@ -52,6 +53,8 @@ bool CHelpViewService::showDocument(CHelpHelper::HelpType type)
     if (!m_documents.has(type)) {
         qCWarning(log).noquote().nospace()
             << "help document " << path << " cannot be read: install the viewer's documents again";
+        Q_EMIT failed(tr("The document %1 cannot be read: install the viewer's documents again")
+                          .arg(QDir::toNativeSeparators(path)));
         return false;
     }
     if (m_viewer) {
@@ -69,6 +72,9 @@ bool CHelpViewService::showAddress(const QUrl &address)
     if (hasDisplay() && !QDesktopServices::openUrl(address)) {
         qCWarning(log).noquote().nospace()
             << "web address " << text << " cannot be opened: no browser could be started";
+        Q_EMIT failed(tr("No browser could be started for %1: choose a default browser, or open "
+                         "the address elsewhere")
+                          .arg(text));
         return false;
     }
     qCInfo(log).noquote() << "web address:" << text;

@@ -20,6 +20,9 @@ public:
 Q_SIGNALS:
     void shown(const QString &pathOrAddress);
 
+    /// Something could not be shown. \a message is one line for the user, with the remedy.
+    void failed(const QString &message);
+
 protected:
     using QObject::QObject;
 };

@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
@@ -102,7 +103,9 @@ void CMainWindow::restoreLayout()
     setFirstSizes();
     m_builtState = saveState(layoutVersion);
     const QSettings settings;
-    restoreGeometry(settings.value(geometryKey).toByteArray());
+    if (!restoreGeometry(settings.value(geometryKey).toByteArray())) {
+        moveToTheMiddle();
+    }
     restoreState(settings.value(stateKey).toByteArray(), layoutVersion);
 }
 
@@ -114,6 +117,15 @@ void CMainWindow::setFirstSizes()
         const auto direction = area == Qt::BottomDockWidgetArea ? Qt::Vertical : Qt::Horizontal;
         resizeDocks({dock}, {firstExtent(area)}, direction);
     }
+}
+
+// The window manager would do that too, but when dialogs have placed themselves over the window
+// already.
+void CMainWindow::moveToTheMiddle()
+{
+    const QRect room = screen()->availableGeometry();
+    const QPoint middle = room.center() - rect().center();
+    move(qMax(room.left(), middle.x()), qMax(room.top(), middle.y()));
 }
 
 void CMainWindow::saveLayout() const

@@ -36,8 +36,8 @@ public:
     void addToolBarAction(QAction *action);
 
     /// Where everything stood when the window was closed last; else as it was built, which
-    /// resetLayout brings back. Kept in the settings under "MainWindow/Geometry" and
-    /// "MainWindow/State".
+    /// resetLayout brings back, in the middle of the screen. Kept in the settings under
+    /// "MainWindow/Geometry" and "MainWindow/State".
     void restoreLayout();
     void saveLayout() const;
     void resetLayout();
@@ -51,6 +51,7 @@ protected:
 
 private:
     void setFirstSizes();
+    void moveToTheMiddle();
 
     QToolBar *m_toolBar;
     QByteArray m_builtState;

@@ -72,7 +72,7 @@ void CWelcomeWindow::setTexts()
 {
     setWindowTitle(tr("Welcome to the Nerix Viewer"));
     m_tabBar->setAccessibleName(tr("Pages"));
-    if (!m_notice->text().isEmpty()) {
+    if (m_isSayingWhyItStays) {
         sayWhyItStays();
     }
 }
@@ -101,6 +101,7 @@ void CWelcomeWindow::layOut()
     m_notice->setMargin(4);
     m_notice->setTextFormat(Qt::PlainText);
     m_notice->setWordWrap(true);
+    m_notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, aboveTabs, 0, 0);
@@ -170,6 +171,7 @@ void CWelcomeWindow::followVisibility()
     if (m_controller.isVisible()) {
         bringUp();
     } else {
+        dropProblem();
         hide();
     }
 }
@@ -178,6 +180,7 @@ void CWelcomeWindow::followQuestion()
 {
     if (!m_controller.applyFromTabsIsNeeded()) {
         m_notice->clear();
+        m_isSayingWhyItStays = false;
     } else if (isVisible() && !isModal()) {
         // A window that is shown already cannot begin to block the others.
         hide();
@@ -192,6 +195,7 @@ void CWelcomeWindow::bringUp()
     if (isNew) {
         fitToScreen();
     }
+    moveOverTheParent();
     setWindowModality(m_controller.applyFromTabsIsNeeded() ? Qt::ApplicationModal : Qt::NonModal);
     show();
 }
@@ -213,15 +217,51 @@ void CWelcomeWindow::fitToScreen()
     resize((wanted + beside).boundedTo(room));
 }
 
+// Nearer to its middle than Qt comes, which guesses the frames; those of two windows are alike.
+void CWelcomeWindow::moveOverTheParent()
+{
+    if (!parentWidget() || !parentWidget()->isVisible()) {
+        return;
+    }
+    const QRect over = parentWidget()->frameGeometry();
+    const QSize frame = parentWidget()->frameSize() - parentWidget()->size();
+    const QRect room = parentWidget()->screen()->availableGeometry();
+    QRect place(QPoint(), size() + frame);
+    place.moveCenter(over.center());
+    place.moveBottomRight({qMin(place.right(), room.right()), qMin(place.bottom(), room.bottom())});
+    move(qMax(place.left(), room.left()), qMax(place.top(), room.top()));
+}
+
 void CWelcomeWindow::sayWhyItStays()
 {
     for (const Tab &tab : m_tabs) {
         if (tab.tab->isApplyNeeded()) {
-            m_notice->setText(tr("Please answer the question on \"%1\" first, then choose Apply. "
-                                 "This window can be closed then.")
-                                  .arg(tab.tab->tabTitle()));
+            say(tr("Please answer the question on \"%1\" first, then choose Apply. "
+                   "This window can be closed then.")
+                    .arg(tab.tab->tabTitle()));
+            m_isSayingWhyItStays = true;
         }
     }
+}
+
+void CWelcomeWindow::showProblem(const QString &message)
+{
+    if (isActiveWindow()) {
+        say(message);
+        m_isSayingWhyItStays = false;
+    }
+}
+
+void CWelcomeWindow::dropProblem()
+{
+    if (!m_isSayingWhyItStays) {
+        m_notice->clear();
+    }
+}
+
+void CWelcomeWindow::say(const QString &text)
+{
+    m_notice->setText(text);
     QAccessibleEvent alert(m_notice, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

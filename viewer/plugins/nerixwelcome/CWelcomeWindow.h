@@ -37,6 +37,13 @@ public:
     /// Every way in which a user closes the window.
     void done(int result) override;
 
+    /// Says \a message below the page, if this is the window in which the user is: then a link of
+    /// the page has failed.
+    void showProblem(const QString &message);
+
+    /// The next link has not failed.
+    void dropProblem();
+
 private:
     struct Tab
     {
@@ -56,7 +63,9 @@ private:
     void bringUp();
     void comeToTheFront();
     void fitToScreen();
+    void moveOverTheParent();
     void sayWhyItStays();
+    void say(const QString &text);
 
     CNerixWelcomeController &m_controller;
     CWelcomePages m_pages;
@@ -64,6 +73,7 @@ private:
     QTabBar *m_tabBar;
     QStackedWidget *m_views;
     QLabel *m_notice;
+    bool m_isSayingWhyItStays = false;
 };
 
 } // namespace NerixWelcome

@@ -3,6 +3,7 @@
 
 #include "plugins/nerixwelcome/NerixWelcomePlugin.h"
 
+#include "plugins/help/IHelpViewService.h"
 #include "plugins/nerixviewer/IMainWindowService.h"
 #include "plugins/nerixwelcome/CNerixWelcomeController.h"
 #include "plugins/nerixwelcome/CNerixWelcomeService.h"
@@ -88,6 +89,11 @@ void CNerixWelcomePlugin::addWindow()
     }
     const auto make = [this, windows] {
         m_window = new CWelcomeWindow(*m_controller, windows->window());
+        if (const auto help = Core::Plugin::findService<Help::IHelpViewService>(m_initializer)) {
+            using Help::IHelpViewService;
+            connect(help.data(), &IHelpViewService::failed, m_window, &CWelcomeWindow::showProblem);
+            connect(help.data(), &IHelpViewService::shown, m_window, &CWelcomeWindow::dropProblem);
+        }
     };
     // The main window, and a script, need not wait for a page to be loaded.
     connect(m_initializer, &Core::Plugin::IPluginInitializer::initializationDone, this,
