@@ -13,7 +13,7 @@ namespace rui::tool {
 void showStatistics(const Options &options, std::ostream &out);
 
 // Delivers what waits now, whatever was scheduled, and says how far it is. Throws Failure when
-// something is left, with the reason.
+// something is left, with the reason; what the server refuses is left.
 void sendNow(const Options &options, std::ostream &out);
 
 void purgeAll(const Options &options, std::ostream &out);

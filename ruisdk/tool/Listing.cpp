@@ -23,13 +23,14 @@ std::int64_t printNew(const RecordReader &reader, const Options &options, std::i
     return last;
 }
 
-// Prints what comes until the database is replaced or stop is set.
+// Prints what comes until the database is replaced or the end is wanted.
+template <typename Wanted>
 void followOne(const RecordReader &reader, const Options &options, Printer &printer,
-               const std::atomic<bool> &stop)
+               Wanted isEndWanted)
 {
     std::int64_t version = reader.version();
     std::int64_t last = printNew(reader, options, 0, printer);
-    while (!stop && !reader.hasMoved()) {
+    while (!isEndWanted() && !reader.hasMoved()) {
         std::this_thread::sleep_for(lookEvery);
         const std::int64_t now = reader.version();
         if (now != version) {
@@ -51,12 +52,13 @@ void list(const Options &options, std::ostream &out)
 
 void follow(const Options &options, std::ostream &out, const std::atomic<bool> &stop)
 {
+    const auto isEndWanted = [&] { return stop || !out; };
     const auto printer = makePrinter(options.format, out);
     printer->begin();
     printer->flush();
-    while (!stop) {
+    while (!isEndWanted()) {
         if (const auto reader = RecordReader::tryOpen(StorePaths(options.directory))) {
-            followOne(*reader, options, *printer, stop);
+            followOne(*reader, options, *printer, isEndWanted);
         } else {
             std::this_thread::sleep_for(lookEvery);
         }

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 
 namespace rui::tool {
 
@@ -86,12 +87,65 @@ void requireComplete(const Options &options)
     }
 }
 
+using Given = std::set<std::string>;
+
+void requireOnce(Given &given, const std::string &option)
+{
+    if (!given.insert(option).second) {
+        throw UsageError(option + " is given twice; once is enough");
+    }
+}
+
+struct Fitting
+{
+    const char *command;
+    Given options;
+};
+
+const Fitting &fitting(Command command)
+{
+    static const Fitting list{
+        "a list of events",
+        {"--json", "--csv", "--raw", "--follow", "--category", "--name", "--since", "--until"}};
+    static const Fitting statistics{"--stats", {"--stats", "--json"}};
+    static const Fitting send{"send", {"--to"}};
+    static const Fitting purge{"purge", {}};
+    switch (command) {
+    case Command::Statistics:
+        return statistics;
+    case Command::Send:
+        return send;
+    case Command::Purge:
+        return purge;
+    default:
+        return list;
+    }
+}
+
+// What a command would pass over in silence is a mistake: "purge --name A" deletes more than A.
+void requireFitting(const Options &options, const Given &given)
+{
+    if (options.command == Command::Help || options.command == Command::Version) {
+        return;
+    }
+    const Fitting &fits = fitting(options.command);
+    for (const std::string &option : given) {
+        if (fits.options.count(option) == 0) {
+            throw UsageError(option + " does not go with " + fits.command + "; see --help");
+        }
+    }
+    if (given.count("--json") + given.count("--csv") + given.count("--raw") > 1) {
+        throw UsageError("choose one of --json, --csv and --raw");
+    }
+}
+
 // Handles the argument at the index, and returns how many it took.
-std::size_t takeArgument(Options &options, const std::vector<std::string> &arguments,
+std::size_t takeArgument(Options &options, Given &given, const std::vector<std::string> &arguments,
                          std::size_t at)
 {
     const std::string &argument = arguments[at];
     if (const auto flag = flags().find(argument); flag != flags().end()) {
+        requireOnce(given, argument);
         flag->second(options);
         return 1;
     }
@@ -99,7 +153,12 @@ std::size_t takeArgument(Options &options, const std::vector<std::string> &argum
         if (at + 1 == arguments.size()) {
             throw UsageError(argument + " needs a value");
         }
+        requireOnce(given, argument);
         option->second(options, arguments[at + 1]);
+        return 2;
+    }
+    if (argument == "--" && at + 2 == arguments.size()) {
+        takeDirectory(options, arguments[at + 1]);
         return 2;
     }
     if (argument.rfind('-', 0) == 0) {
@@ -116,10 +175,12 @@ std::size_t takeArgument(Options &options, const std::vector<std::string> &argum
 Options parseOptions(const std::vector<std::string> &arguments)
 {
     Options options;
+    Given given;
     for (std::size_t at = 0; at < arguments.size();) {
-        at += takeArgument(options, arguments, at);
+        at += takeArgument(options, given, arguments, at);
     }
     requireComplete(options);
+    requireFitting(options, given);
     return options;
 }
 

@@ -35,6 +35,13 @@ void printRecords(const Options &options)
     }
 }
 
+void requireWritten(std::ostream &out)
+{
+    if (!out.flush()) {
+        throw std::runtime_error("the output cannot be written; make room where it goes");
+    }
+}
+
 void run(const Options &options)
 {
     switch (options.command) {
@@ -65,6 +72,7 @@ int main(int argc, char **argv)
 {
     try {
         run(parseOptions(std::vector<std::string>(argv + 1, argv + argc)));
+        requireWritten(std::cout);
         return 0;
     } catch (const UsageError &error) {
         std::cerr << "rui-events: " << error.what() << '\n';

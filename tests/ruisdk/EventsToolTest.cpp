@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 namespace {
 
 using namespace rui::test;
@@ -139,7 +141,40 @@ TEST_F(EventsTool, DirectoryWithoutEventsIsOneLineOfError)
     const Outcome outcome = run({m_path});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.output, "");
-    EXPECT_EQ(outcome.errors, "rui-events: " + m_path + ": no usage events are stored here\n");
+    EXPECT_EQ(outcome.errors, "rui-events: " + m_path
+                                  + ": no usage events are stored here; name the directory"
+                                    " that holds usage-events.sqlite\n");
+}
+
+TEST_F(EventsTool, DirectoryAfterTwoDashesMayBeginWithOne)
+{
+    const Outcome outcome = run({"--", "-folder"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "rui-events: -folder: no usage events are stored here; name the"
+                              " directory that holds usage-events.sqlite\n");
+}
+
+TEST_F(EventsTool, OutputThatCannotBeWrittenIsOneLineOfError)
+{
+    storeTwo();
+    for (const char *option : {"--json", "--csv", "--raw", "--stats", "--follow", "--help"}) {
+        const Outcome outcome = runProgram(
+            {"/bin/sh", "-c", "exec \"$@\" >/dev/full", "sh", RUI_EVENTS_PROGRAM, option, m_path});
+        EXPECT_EQ(outcome.status, 1) << option;
+        EXPECT_EQ(outcome.errors,
+                  "rui-events: the output cannot be written; make room where it goes\n");
+    }
+}
+
+TEST_F(EventsTool, DamagedDatabaseIsOneLineOfError)
+{
+    storeTwo();
+    std::ofstream(databasePath(m_path)) << "junk that is long enough to be no database at all";
+    const Outcome outcome = run({m_path});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "rui-events: " + databasePath(m_path)
+                                  + ": is damaged, or no database of usage events; the next session"
+                                    " sets it aside and begins a new one\n");
 }
 
 TEST_F(EventsTool, NewerDatabaseIsOneLineOfError)
@@ -194,6 +229,22 @@ INSTANTIATE_TEST_SUITE_P(
         BadLine{{"a", "b"}, "rui-events: 'b': one directory is enough\n"},
         BadLine{{"--colour", "a"}, "rui-events: unknown option '--colour'; see --help\n"},
         BadLine{{"a", "--name"}, "rui-events: --name needs a value\n"},
+        BadLine{{"--name", "A", "--name", "B", "a"},
+                "rui-events: --name is given twice; once is enough\n"},
+        BadLine{{"--json", "--csv", "a"}, "rui-events: choose one of --json, --csv and --raw\n"},
+        BadLine{{"--json", "--raw", "a"}, "rui-events: choose one of --json, --csv and --raw\n"},
+        BadLine{{"purge", "--category", "Camera", "a"},
+                "rui-events: --category does not go with purge; see --help\n"},
+        BadLine{{"purge", "--until", "2020-01-01", "a"},
+                "rui-events: --until does not go with purge; see --help\n"},
+        BadLine{{"send", "--name", "A", "--to", "http://127.0.0.1:1", "a"},
+                "rui-events: --name does not go with send; see --help\n"},
+        BadLine{{"--stats", "--category", "A", "a"},
+                "rui-events: --category does not go with --stats; see --help\n"},
+        BadLine{{"--stats", "--csv", "a"},
+                "rui-events: --csv does not go with --stats; see --help\n"},
+        BadLine{{"--stats", "--follow", "a"},
+                "rui-events: --follow does not go with --stats; see --help\n"},
         BadLine{{"--since", "noon", "a"},
                 "rui-events: --since 'noon': write a UTC time as"
                 " 2026-11-20 or 2026-11-20T18:30:00\n"}));

@@ -38,6 +38,11 @@ std::string describe(const Response &response)
                                 : "the server answered " + std::to_string(response.status);
 }
 
+std::string describeRejected(std::int64_t count)
+{
+    return count == 0 ? std::string() : "the server rejected " + std::to_string(count);
+}
+
 } // namespace
 
 Sender::Sender(Database &database, const std::string &lockPath, Transport &transport,
@@ -64,10 +69,15 @@ Step Sender::step()
     if (due > m_clock.now() && m_outbox.hasRecords()) {
         return {Step::Kind::NotDue, due, {}, 0};
     }
-    return stepNow();
+    return tryNow(Refused::Dropped);
 }
 
 Step Sender::stepNow()
+{
+    return tryNow(Refused::Kept);
+}
+
+Step Sender::tryNow(Refused refused)
 {
     if (!m_outbox.hasRecords()) {
         return {};
@@ -76,11 +86,11 @@ Step Sender::stepNow()
         return {Step::Kind::OtherSends, m_clock.now() + otherSenderWait, {}, 0};
     }
     const Unlock unlock(m_lock);
-    return send();
+    return send(refused);
 }
 
 // Everything is read anew for each try: an opt-out may have come in between.
-Step Sender::send()
+Step Sender::send(Refused refused)
 {
     const Batch batch = m_outbox.next(m_batchRecords, m_limits.batchBytes, m_clock.now());
     if (batch.seqs.empty()) {
@@ -90,26 +100,32 @@ Step Sender::send()
     if (response.cancelled) {
         return {Step::Kind::Failed, m_clock.now(), "cancelled", 0};
     }
-    return apply(batch, response);
+    return apply(batch, response, refused);
 }
 
-Step Sender::apply(const Batch &batch, const Response &response)
+Step Sender::apply(const Batch &batch, const Response &response, Refused refused)
 {
     const Verdict verdict = verdictOf(response);
     switch (verdict.kind) {
     case Verdict::Kind::Delivered:
         m_outbox.settle(batch, verdict.rejected, m_clock.now());
         m_batchRecords = std::min(m_limits.batchRecords, m_batchRecords * 2);
-        return {Step::Kind::Progress, 0, {}, batch.seqs.size()};
+        return {Step::Kind::Progress, 0, describeRejected(verdict.rejected), batch.seqs.size()};
     case Verdict::Kind::Split:
-        return batch.seqs.size() > 1 ? split(batch)
-                                     : refuse(batch, response, LossReason::RequestSize);
-    case Verdict::Kind::Refused:
-        return refuse(batch, response, LossReason::Rejected);
-    case Verdict::Kind::Retry:
+        if (batch.seqs.size() > 1) {
+            return split(batch);
+        }
         break;
+    case Verdict::Kind::Refused:
+        break;
+    case Verdict::Kind::Retry:
+        return retry(response);
     }
-    return retry(response);
+    if (refused == Refused::Kept) {
+        return {Step::Kind::Failed, m_clock.now(), describe(response), 0};
+    }
+    const bool isTooLarge = verdict.kind == Verdict::Kind::Split;
+    return refuse(batch, response, isTooLarge ? LossReason::RequestSize : LossReason::Rejected);
 }
 
 Step Sender::retry(const Response &response)

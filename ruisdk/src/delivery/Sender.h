@@ -18,7 +18,7 @@ struct Step
         NotDue,     // it is too early for the next try, which is due at `due`
         OtherSends, // another process is sending
         Progress,   // a request was answered for good: records were delivered or dropped
-        Failed      // a request is to be repeated at `due`
+        Failed      // a request is to be repeated at `due`, or was refused and its records are kept
     };
 
     Kind kind = Kind::Idle;
@@ -38,7 +38,8 @@ public:
     // Sends one request if one is due.
     Step step();
 
-    // The same, whatever was scheduled.
+    // The same, whatever was scheduled. What the server refuses for good is kept, which fails:
+    // somebody tries an address by hand, and a wrong one shall cost nothing.
     Step stepNow();
 
     // How many records wait.
@@ -48,8 +49,11 @@ public:
     }
 
 private:
-    Step send();
-    Step apply(const Batch &batch, const Response &response);
+    enum class Refused { Dropped, Kept };
+
+    Step tryNow(Refused refused);
+    Step send(Refused refused);
+    Step apply(const Batch &batch, const Response &response, Refused refused);
     Step retry(const Response &response);
     Step split(const Batch &batch);
     Step refuse(const Batch &batch, const Response &response, LossReason reason);

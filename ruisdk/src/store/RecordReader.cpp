@@ -5,8 +5,12 @@
 #include "core/Failure.h"
 #include "store/Schema.h"
 #include "store/SqliteError.h"
+#include "store/StoreOpening.h"
+
+#include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 
 namespace rui {
@@ -16,19 +20,15 @@ namespace {
 // Reading never waits for a writer; only opening does, for a moment.
 constexpr std::chrono::milliseconds openingLimit{2000};
 
-std::optional<Database> openForReading(const StorePaths &paths)
+// Throws what a person can do about the error, if anything is known.
+void explain(const SqliteError &error, const StorePaths &paths)
 {
-    if (!std::filesystem::exists(paths.database())) {
-        return std::nullopt;
+    if (error.isDamage()) {
+        throw Failure(error.result(), paths.database()
+                                          + ": is damaged, or no database of usage events; the"
+                                            " next session sets it aside and begins a new one");
     }
-    try {
-        Database database(paths.database(), Database::Access::ReadOnly,
-                          std::make_shared<BusyLimit>(openingLimit));
-        return hasSchema(database) ? std::optional<Database>(std::move(database)) : std::nullopt;
-    } catch (const SqliteError &error) {
-        if ((error.extendedCode() & 0xFF) != SQLITE_CANTOPEN) {
-            throw;
-        }
+    if ((error.extendedCode() & 0xFF) == SQLITE_CANTOPEN) {
         // A write-ahead log needs a file beside the database even to be read.
         throw Failure(error.result(),
                       paths.database()
@@ -37,11 +37,41 @@ std::optional<Database> openForReading(const StorePaths &paths)
     }
 }
 
+// Whether there is a database that this user may read.
+bool isThere(const StorePaths &paths)
+{
+    std::error_code problem;
+    const bool exists = std::filesystem::exists(paths.database(), problem);
+    if (exists && access(paths.database().c_str(), R_OK) != 0) {
+        problem.assign(errno, std::generic_category());
+    }
+    if (problem) {
+        throw Failure(RUI_STORAGE, paths.database() + ": " + problem.message()
+                                       + "; run this as the user whose events these are");
+    }
+    return exists;
+}
+
+std::optional<Database> openForReading(const StorePaths &paths)
+{
+    if (!isThere(paths)) {
+        return std::nullopt;
+    }
+    try {
+        Database database(paths.database(), Database::Access::ReadOnly,
+                          std::make_shared<BusyLimit>(openingLimit));
+        return hasSchema(database) ? std::optional<Database>(std::move(database)) : std::nullopt;
+    } catch (const SqliteError &error) {
+        explain(error, paths);
+        throw;
+    }
+}
+
 Database requireDatabase(const StorePaths &paths)
 {
     auto database = openForReading(paths);
     if (!database) {
-        throw Failure(RUI_STORAGE, paths.directory() + ": no usage events are stored here");
+        throw noEventsIn(paths);
     }
     return std::move(*database);
 }

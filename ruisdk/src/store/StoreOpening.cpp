@@ -75,13 +75,20 @@ std::optional<Database> openUnlessDamaged(const StorePaths &paths, const Opening
 
 } // namespace
 
+Failure noEventsIn(const StorePaths &paths)
+{
+    return Failure(RUI_STORAGE, paths.directory()
+                                    + ": no usage events are stored here; name the directory that"
+                                      " holds usage-events.sqlite");
+}
+
 Database openStore(const StorePaths &paths, const OpeningOptions &options,
                    const std::shared_ptr<BusyLimit> &busyLimit)
 {
     if (options.create) {
         makePrivateDirectory(paths.directory());
     } else if (!std::filesystem::exists(paths.database())) {
-        throw Failure(RUI_STORAGE, paths.directory() + ": no usage events are stored here");
+        throw noEventsIn(paths);
     }
     FileLock opening(paths.openingLock());
     opening.lock(*busyLimit);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Failure.h"
 #include "store/Database.h"
 #include "store/StorePaths.h"
 
@@ -22,5 +23,8 @@ struct OpeningOptions
 // and replaced. Throws Failure; RUI_STORAGE when it is missing and must not be created.
 Database openStore(const StorePaths &paths, const OpeningOptions &options,
                    const std::shared_ptr<BusyLimit> &busyLimit);
+
+// What to say of a directory without a database.
+Failure noEventsIn(const StorePaths &paths);
 
 } // namespace rui

@@ -5,7 +5,9 @@
 #include "plugins/featurefiles/CFeatureFile.h"
 
 #include <FakeParameterCollection.h>
+#include <sys/resource.h>
 
+#include <csignal>
 #include <functional>
 
 #include <QDir>
@@ -25,6 +27,7 @@ private Q_SLOTS:
 
     void testSavedFileIsTheFeatureStream();
     void testFileThatCannotBeWrittenIsToldAndNoneIsLeft();
+    void testSavingWithoutRoomIsToldAndLeavesTheFileAsItIs();
     void testCameraThatCannotBeReadLeavesTheFileAsItIs();
     void testSavingThatIsNoLongerWantedLeavesTheFileAsItIs();
 
@@ -73,6 +76,27 @@ public:
 
     std::function<QString(const QString &)> rule = [](const QString &) { return QString(); };
     std::function<void(RuledInteger &)> afterSet = [](RuledInteger &) {};
+};
+
+// While it lives no file may grow beyond \a bytes, as on a disk that is nearly full.
+class CSmallFiles
+{
+public:
+    explicit CSmallFiles(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~CSmallFiles()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+    }
+    Q_DISABLE_COPY_MOVE(CSmallFiles)
+
+private:
+    rlimit m_before{};
 };
 
 QString messageOf(const std::function<void()> &work)
@@ -130,6 +154,17 @@ void FeatureFileTest::testFileThatCannotBeWrittenIsToldAndNoneIsLeft()
     QCOMPARE(message, "file " + path
                           + " cannot be written: No such file or directory; choose another folder");
     QVERIFY(!QFile::exists(path));
+}
+
+void FeatureFileTest::testSavingWithoutRoomIsToldAndLeavesTheFileAsItIs()
+{
+    m_folder.writeRaw("out", "old");
+    m_parameters.stream = QString(2000, 'x');
+    const CSmallFiles limit(1000);
+    QCOMPARE(messageOf([&] { CFeatureFile(m_folder.path("out")).save(m_parameters); }),
+             "file " + m_folder.path("out")
+                 + " cannot be written: File too large; choose another folder");
+    QCOMPARE(m_folder.read("out"), QByteArray("old"));
 }
 
 void FeatureFileTest::testCameraThatCannotBeReadLeavesTheFileAsItIs()

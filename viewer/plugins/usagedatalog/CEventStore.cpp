@@ -133,7 +133,7 @@ void CEventStore::compareWith(const CEventsTool::Result &statistics)
     m_isComparing = false;
     if (!statistics.succeeded) {
         m_model.setEvents({});
-        const bool isMissing = statistics.error.endsWith(noStore);
+        const bool isMissing = statistics.error.contains(noStore);
         setState(isMissing ? State::NothingStored : State::Failed,
                  isMissing ? QString() : statistics.error);
         return;
