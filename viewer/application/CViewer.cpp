@@ -13,10 +13,10 @@
 
 #include <chrono>
 #include <cstdio>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
-#include <QTimer>
 
 namespace Application {
 
@@ -41,6 +41,9 @@ CViewer::CViewer(const CommandLine &commandLine, QObject *parent)
 {
     connect(&m_plugins.registry(), &Core::Plugin::IPluginInitializer::initializationDone, this,
             &CViewer::onPluginsInitialized);
+    m_askAgain.setSingleShot(true);
+    m_askAgain.setInterval(askAgainAfter);
+    connect(&m_askAgain, &QTimer::timeout, this, &CViewer::closeApplication);
     if (!m_commandLine.scriptFile.isEmpty()) {
         m_script = std::make_unique<Scripting::CScriptRunner>(m_plugins);
     }
@@ -67,14 +70,8 @@ void CViewer::shutDown()
 
 void CViewer::requestQuit()
 {
-    if (m_isShuttingDown) {
-        return;
-    }
-    if (m_script && m_script->isRunning()) {
-        m_script->quit();
-    } else {
-        closeApplication(0);
-    }
+    m_toldObjections.clear();
+    quit();
 }
 
 void CViewer::quitBySignal()
@@ -83,7 +80,7 @@ void CViewer::quitBySignal()
     if (m_script) {
         m_script->interrupt();
     }
-    QMetaObject::invokeMethod(this, &CViewer::requestQuit, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &CViewer::quit, Qt::QueuedConnection);
 }
 
 PluginSystem::CPluginManager &CViewer::plugins()
@@ -124,21 +121,49 @@ void CViewer::runScript()
     const QString failure = m_script->run(m_commandLine.scriptFile);
     if (!failure.isEmpty()) {
         std::fputs((failure + QLatin1Char('\n')).toUtf8().constData(), stderr);
+        m_status = scriptFailed;
     }
-    closeApplication(failure.isEmpty() ? 0 : scriptFailed);
+    closeApplication();
 }
 
-void CViewer::closeApplication(int status)
+void CViewer::quit()
 {
-    if (m_signalCount >= insistingSignals || m_plugins.canClose()) {
-        QCoreApplication::exit(status);
+    if (m_isShuttingDown) {
         return;
     }
-    if (m_signalCount > 0) {
-        qCInfo(log) << "the signal was heeded but a plug-in objects; send it again to insist";
+    if (m_script && m_script->isRunning()) {
+        m_script->quit();
+    } else {
+        closeApplication();
     }
+}
+
+void CViewer::closeApplication()
+{
+    QStringList objections;
+    if (m_signalCount >= insistingSignals || m_plugins.canClose(&objections)) {
+        m_askAgain.stop();
+        QCoreApplication::exit(m_status);
+        return;
+    }
+    tell(objections);
     if (m_script) {
-        QTimer::singleShot(askAgainAfter, this, [this, status] { closeApplication(status); });
+        m_askAgain.start();
+    }
+}
+
+// Each once, however often the plug-ins are asked again.
+void CViewer::tell(const QStringList &objections)
+{
+    for (const QString &objection : objections) {
+        if (!m_toldObjections.contains(objection)) {
+            qCInfo(log).noquote() << objection;
+        }
+    }
+    m_toldObjections = objections;
+    const int signalCount = m_signalCount;
+    if (std::exchange(m_toldSignals, signalCount) < signalCount) {
+        qCInfo(log) << "the signal was heeded but a plug-in objects; send it again to insist";
     }
 }
 

@@ -10,6 +10,8 @@
 #include <memory>
 
 #include <QObject>
+#include <QStringList>
+#include <QTimer>
 
 namespace Scripting {
 class CScriptRunner;
@@ -37,7 +39,9 @@ public:
     /// loop meanwhile.
     void shutDown();
 
-    /// Ends the script if one runs, then the event loop, unless a plug-in objects.
+    /// Ends the script if one runs, then the event loop, unless a plug-in objects: the log then
+    /// says which and why, once a request. After a script, which nobody watches, the plug-ins are
+    /// asked again without words until none objects.
     void requestQuit();
 
     /// Callable in any thread: as `requestQuit`, but a script that runs has failed. The second call
@@ -50,12 +54,18 @@ private:
     void addPluginFolders();
     void onPluginsInitialized();
     void runScript();
-    void closeApplication(int status);
+    void quit();
+    void closeApplication();
+    void tell(const QStringList &objections);
 
     CommandLine m_commandLine;
     PluginSystem::CPluginManager m_plugins;
     std::unique_ptr<Scripting::CScriptRunner> m_script;
     std::atomic<int> m_signalCount{0};
+    int m_toldSignals = 0;
+    QStringList m_toldObjections;
+    QTimer m_askAgain;
+    int m_status = 0;
     bool m_isShuttingDown = false;
 };
 

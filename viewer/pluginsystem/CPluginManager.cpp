@@ -107,7 +107,6 @@ bool CPluginManager::canClose(QStringList *vetoes)
     forEachDependentFirst([&](CHostedPlugin &plugin) {
         if (!plugin.isClosable()) {
             lines += vetoOf(plugin.spec());
-            qCInfo(pluginSystem).noquote() << lines.last();
         }
     });
     if (vetoes) {

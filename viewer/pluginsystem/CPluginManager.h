@@ -55,8 +55,8 @@ public:
 
     /// Asks every running plug-in, dependents first, whether the viewer may be closed, also after
     /// the first that objects, so that the user reads all reasons at once.
-    /// @return whether none objects; \a vetoes receives a line for each that does, which is logged
-    /// as well.
+    /// @return whether none objects; \a vetoes receives a line for each that does. Nothing is
+    /// logged, since the caller knows whether this is the first time.
     bool canClose(QStringList *vetoes = nullptr);
 
     /// Ends the plug-ins, dependents first: tells all of them, uninitialises all of them while the

@@ -106,8 +106,6 @@ void PluginShutDownTest::testVetoNamesThePlugin()
                                Outcome::ReturnFalse);
     QStringList vetoes;
 
-    QTest::ignoreMessage(QtInfoMsg, "Plug-in \"Middle\" does not let the viewer close: wait until "
-                                    "it has finished, or end what it does");
     QVERIFY(!manager.canClose(&vetoes));
 
     QCOMPARE(vetoes, texts({"Plug-in \"Middle\" does not let the viewer close: wait until it has "
