@@ -17,8 +17,12 @@ QString CScriptLanguage::get()
 
 void CScriptLanguage::set(const QString &language)
 {
-    if (const auto languages = service<ILanguageService>("Localization")) {
-        languages->setLanguage(language);
+    const auto languages = service<ILanguageService>("Localization");
+    if (languages && !languages->setLanguage(language)) {
+        fail(QStringLiteral(
+                 "there is no language \"%1\": give one of %2, or an empty text to follow "
+                 "the system")
+                 .arg(language, languages->languages().join(QStringLiteral(", "))));
     }
 }
 

@@ -30,6 +30,9 @@ private Q_SLOTS:
     void testNewLanguageTakesEffectAtOnceAndIsKept();
     void testEmptyLanguageFollowsTheSystemAgain();
     void testChoiceIsEmptyWhileTheSystemIsFollowed();
+    void testUnknownLanguageIsRefused_data();
+    void testUnknownLanguageIsRefused();
+    void testUnknownLanguageOfTheSettingsIsNotFollowed();
     void testTextsOfQtFollow_data();
     void testTextsOfQtFollow();
 
@@ -111,6 +114,38 @@ void LocalizationPluginTest::testChoiceIsEmptyWhileTheSystemIsFollowed()
     QCOMPARE(m_service->choice(), QString());
     m_service->setLanguage(QStringLiteral("en"));
     QCOMPARE(m_service->choice(), QStringLiteral("en"));
+}
+
+void LocalizationPluginTest::testUnknownLanguageIsRefused_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("of no country") << "klingon";
+    QTest::newRow("without a catalogue") << "de_DE";
+    QTest::newRow("in other letters") << "JA";
+    QTest::newRow("the country alone") << "_JP";
+}
+
+void LocalizationPluginTest::testUnknownLanguageIsRefused()
+{
+    QFETCH(QString, language);
+    QSettings().setValue(languageKey, QStringLiteral("ko"));
+    start();
+    QVERIFY(!m_service->setLanguage(language));
+    QCOMPARE(m_languages, texts({"ko"}));
+    QCOMPARE(QSettings().value(languageKey), QVariant(QStringLiteral("ko")));
+    QCOMPARE(m_service->languages(), texts({"en", "ja", "ko", "zh"}));
+}
+
+void LocalizationPluginTest::testUnknownLanguageOfTheSettingsIsNotFollowed()
+{
+    QSettings().setValue(languageKey, QStringLiteral("klingon"));
+    QTest::ignoreMessage(QtWarningMsg,
+                         "there is no language \"klingon\", which the settings name; the viewer "
+                         "follows the system: choose one of en, ja, ko, zh");
+    start();
+    QCOMPARE(m_languages, texts({"en"}));
+    QCOMPARE(m_service->language(), QStringLiteral("en"));
+    QCOMPARE(m_service->choice(), QString());
 }
 
 void LocalizationPluginTest::testTextsOfQtFollow_data()

@@ -41,6 +41,7 @@ private Q_SLOTS:
 
     void testHelpTellsWhatWasShown();
     void testLanguageIsSwitched();
+    void testUnknownLanguageIsRefused();
     void testSettingsAreRead();
     void testPluginsAreListed();
 
@@ -214,6 +215,22 @@ void ScriptScreensTest::testLanguageIsSwitched()
         QSharedPointer<Plugin::Localization::CLanguageService>::create([](const QString &) {}));
     QCOMPARE(run.run("language.set('ja'); print(language.get());"), QString());
     QCOMPARE(run.printed(), texts({"ja"}));
+}
+
+void ScriptScreensTest::testUnknownLanguageIsRefused()
+{
+    CScriptRun run;
+    run.addService(
+        QSharedPointer<Plugin::Localization::CLanguageService>::create([](const QString &) {}));
+    QCOMPARE(run.run("language.set('ko'); print(language.get());\n"
+                     "try { language.set('klingon'); } catch (error) { print(error.message); }\n"
+                     "print(language.get(), settings.get('Localization/Language'));"),
+             QString());
+    QCOMPARE(run.printed(),
+             texts({"ko",
+                    "there is no language \"klingon\": give one of en, ja, ko, zh, or "
+                    "an empty text to follow the system",
+                    "ko ko"}));
 }
 
 void ScriptScreensTest::testSettingsAreRead()

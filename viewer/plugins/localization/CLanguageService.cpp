@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QSettings>
 
 namespace Plugin {
@@ -13,7 +14,14 @@ namespace Localization {
 
 namespace {
 
+Q_LOGGING_CATEGORY(log, "nerix.localization", QtInfoMsg)
+
 const QLatin1String languageKey("Localization/Language");
+
+QString storedLanguage()
+{
+    return QSettings().value(languageKey).toString();
+}
 
 // The locale "C" is what a system without any language says; the texts in the source are English.
 QString systemLanguage()
@@ -39,26 +47,50 @@ QString CLanguageService::language() const
 
 QString CLanguageService::choice() const
 {
-    return QSettings().value(languageKey).toString();
+    const QString stored = storedLanguage();
+    return canBeChosen(stored) ? stored : QString();
 }
 
-void CLanguageService::setLanguage(const QString &language)
+QStringList CLanguageService::languages() const
 {
-    QSettings settings;
+    return {QStringLiteral("en"), QStringLiteral("ja"), QStringLiteral("ko"), QStringLiteral("zh")};
+}
+
+bool CLanguageService::setLanguage(const QString &language)
+{
     if (language.isEmpty()) {
-        settings.remove(languageKey);
+        QSettings().remove(languageKey);
+    } else if (canBeChosen(language)) {
+        QSettings().setValue(languageKey, language);
     } else {
-        settings.setValue(languageKey, language);
+        return false;
     }
     apply();
+    return true;
 }
 
 void CLanguageService::apply()
 {
+    warnOfUnknownChoice();
     const QString current = language();
     m_qtTexts.setLanguage(current);
     m_switchPlugins(current);
     Q_EMIT languageChanged(current);
+}
+
+bool CLanguageService::canBeChosen(const QString &language) const
+{
+    return languages().contains(language.section(QLatin1Char('_'), 0, 0));
+}
+
+void CLanguageService::warnOfUnknownChoice() const
+{
+    const QString stored = storedLanguage();
+    if (!stored.isEmpty() && !canBeChosen(stored)) {
+        qCWarning(log).noquote().nospace()
+            << "there is no language \"" << stored << "\", which the settings name; the viewer "
+            << "follows the system: choose one of " << languages().join(QStringLiteral(", "));
+    }
 }
 
 } // namespace Localization

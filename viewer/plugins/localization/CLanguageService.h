@@ -24,12 +24,16 @@ public:
 
     QString language() const override;
     QString choice() const override;
-    void setLanguage(const QString &language) override;
+    QStringList languages() const override;
+    bool setLanguage(const QString &language) override;
 
     /// Switches every plug-in, and Qt's own texts, to `language()`.
     void apply();
 
 private:
+    bool canBeChosen(const QString &language) const;
+    void warnOfUnknownChoice() const;
+
     Switch m_switchPlugins;
     CQtTexts m_qtTexts;
 };
