@@ -56,14 +56,14 @@ CameraInfoPtr CScriptCameraObject::find(const QJSValue &camera) const
 }
 
 // A wait that was stopped needs no exception: the script is being ended.
-bool CScriptCameraObject::waitUntil(const std::function<bool()> &condition, int timeoutMs,
+bool CScriptCameraObject::waitUntil(const std::function<bool()> &condition, int ms,
                                     const QString &what) const
 {
-    const auto result = m_wait.until(condition, std::chrono::milliseconds(timeoutMs));
+    const auto result = m_wait.until(condition, std::chrono::milliseconds(ms));
     if (result == CScriptWait::Result::TimedOut) {
         const auto pool = control();
         fail(QStringLiteral("%1 after %2 ms (%3)")
-                 .arg(what, QString::number(timeoutMs), namesOf(pool->cameras())));
+                 .arg(what, QString::number(ms), namesOf(pool->cameras())));
     }
     return result == CScriptWait::Result::Met;
 }

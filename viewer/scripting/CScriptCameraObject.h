@@ -33,8 +33,7 @@ protected:
 
     /// Waits for \a condition. @return whether it is met; if it is not in time, an exception in the
     /// script says \a what.
-    bool waitUntil(const std::function<bool()> &condition, int timeoutMs,
-                   const QString &what) const;
+    bool waitUntil(const std::function<bool()> &condition, int ms, const QString &what) const;
 
 private:
     CScriptWait &m_wait;

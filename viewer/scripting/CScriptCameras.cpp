@@ -57,21 +57,21 @@ QVariantList CScriptCameras::list()
     return descriptions;
 }
 
-QVariant CScriptCameras::waitFor(const QJSValue &what, int timeoutMs)
+QVariant CScriptCameras::waitFor(const QJSValue &numberOrPattern, int ms)
 {
-    return what.isNumber() ? waitForCount(what.toInt(), timeoutMs)
-                           : waitForMatch(what.toString(), timeoutMs);
+    return numberOrPattern.isNumber() ? waitForCount(numberOrPattern.toInt(), ms)
+                                      : waitForMatch(numberOrPattern.toString(), ms);
 }
 
-void CScriptCameras::waitForGone(const QString &pattern, int timeoutMs)
+void CScriptCameras::waitForGone(const QString &pattern, int ms)
 {
     if (const auto pool = control()) {
-        waitUntil([&] { return !firstMatch(pool->cameras(), pattern); }, timeoutMs,
+        waitUntil([&] { return !firstMatch(pool->cameras(), pattern); }, ms,
                   QStringLiteral("camera \"%1\" is still there").arg(pattern));
     }
 }
 
-QVariant CScriptCameras::open(const QJSValue &camera, int timeoutMs)
+QVariant CScriptCameras::open(const QJSValue &camera, int ms)
 {
     const auto pool = control();
     const CameraInfoPtr found = pool ? find(camera) : nullptr;
@@ -87,7 +87,7 @@ QVariant CScriptCameras::open(const QJSValue &camera, int timeoutMs)
                 }
             });
     pool->open(found);
-    waitUntil([&] { return !failure.isEmpty() || isOpen(*pool, found); }, timeoutMs,
+    waitUntil([&] { return !failure.isEmpty() || isOpen(*pool, found); }, ms,
               QStringLiteral("camera \"%1\" is not open").arg(found->identity()));
     if (!failure.isEmpty()) {
         fail(failure);
@@ -96,7 +96,7 @@ QVariant CScriptCameras::open(const QJSValue &camera, int timeoutMs)
     return describeCamera(found, *pool);
 }
 
-void CScriptCameras::close(const QJSValue &camera, int timeoutMs)
+void CScriptCameras::close(const QJSValue &camera, int ms)
 {
     const auto pool = control();
     const CameraInfoPtr found = pool ? find(camera) : nullptr;
@@ -110,19 +110,19 @@ void CScriptCameras::close(const QJSValue &camera, int timeoutMs)
                 isClosed = isClosed || closed->identity() == found->identity();
             });
     pool->close(found);
-    waitUntil([&] { return isClosed; }, timeoutMs,
+    waitUntil([&] { return isClosed; }, ms,
               QStringLiteral("camera \"%1\" is not closed").arg(found->identity()));
 }
 
-void CScriptCameras::select(const QJSValue &camera)
+void CScriptCameras::select(const QJSValue &cameraOrNull)
 {
     const auto selection = service<CameraSelector::IDeviceSelectionService>("CameraSelector");
     if (!selection) {
         return;
     }
-    if (camera.isNull()) {
+    if (cameraOrNull.isNull()) {
         selection->select({});
-    } else if (const CameraInfoPtr found = find(camera)) {
+    } else if (const CameraInfoPtr found = find(cameraOrNull)) {
         selection->select(found);
     }
 }
@@ -143,24 +143,24 @@ QVariantList CScriptCameras::takeEvents()
     return m_journal->take();
 }
 
-QVariant CScriptCameras::waitForCount(int count, int timeoutMs)
+QVariant CScriptCameras::waitForCount(int count, int ms)
 {
     if (const auto pool = control()) {
-        waitUntil([&] { return pool->cameras().size() >= count; }, timeoutMs,
+        waitUntil([&] { return pool->cameras().size() >= count; }, ms,
                   QStringLiteral("there are not %1 cameras").arg(count));
         return list();
     }
     return {};
 }
 
-QVariant CScriptCameras::waitForMatch(const QString &pattern, int timeoutMs)
+QVariant CScriptCameras::waitForMatch(const QString &pattern, int ms)
 {
     const auto pool = control();
     if (!pool) {
         return {};
     }
     CameraInfoPtr camera;
-    waitUntil([&] { return (camera = firstMatch(pool->cameras(), pattern)) != nullptr; }, timeoutMs,
+    waitUntil([&] { return (camera = firstMatch(pool->cameras(), pattern)) != nullptr; }, ms,
               QStringLiteral("there is no camera \"%1\"").arg(pattern));
     return camera ? describeCamera(camera, *pool) : QVariant();
 }

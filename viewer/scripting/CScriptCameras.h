@@ -25,21 +25,22 @@ public:
     /// The connected cameras, in the order in which they were first seen.
     Q_INVOKABLE QVariantList list();
 
-    /// \a what is a number: returns `list` once that many are connected. Or a text, in which * and
-    /// ? stand for anything: returns the first camera with that identity, display name or model.
-    Q_INVOKABLE QVariant waitFor(const QJSValue &what, int timeoutMs = 10000);
+    /// \a numberOrPattern is a number: returns `list` once that many are connected. Or a text, in
+    /// which * and ? stand for anything: returns the first camera with that identity, display name
+    /// or model.
+    Q_INVOKABLE QVariant waitFor(const QJSValue &numberOrPattern, int ms = 10000);
 
     /// Returns once no camera matches \a pattern.
-    Q_INVOKABLE void waitForGone(const QString &pattern, int timeoutMs = 10000);
+    Q_INVOKABLE void waitForGone(const QString &pattern, int ms = 10000);
 
     /// Returns the camera once it is open.
-    Q_INVOKABLE QVariant open(const QJSValue &camera, int timeoutMs = 30000);
+    Q_INVOKABLE QVariant open(const QJSValue &camera, int ms = 30000);
 
     /// Returns once the camera is closed.
-    Q_INVOKABLE void close(const QJSValue &camera, int timeoutMs = 30000);
+    Q_INVOKABLE void close(const QJSValue &camera, int ms = 30000);
 
     /// Null selects none.
-    Q_INVOKABLE void select(const QJSValue &camera);
+    Q_INVOKABLE void select(const QJSValue &cameraOrNull);
 
     /// Null if none is selected.
     Q_INVOKABLE QVariant selected();
@@ -48,8 +49,8 @@ public:
     Q_INVOKABLE QVariantList takeEvents();
 
 private:
-    QVariant waitForCount(int count, int timeoutMs);
-    QVariant waitForMatch(const QString &pattern, int timeoutMs);
+    QVariant waitForCount(int count, int ms);
+    QVariant waitForMatch(const QString &pattern, int ms);
 
     CCameraJournal *m_journal;
 };

@@ -24,19 +24,19 @@ CScriptGrab::CScriptGrab(const Core::Plugin::IPluginInitializer &services, CScri
 
 CScriptGrab::~CScriptGrab() = default;
 
-void CScriptGrab::single(const QJSValue &camera, int timeoutMs)
+void CScriptGrab::single(const QJSValue &camera, int ms)
 {
-    request(&ICameraControlService::grabSingle, &Grab::stops, camera, timeoutMs,
+    request(&ICameraControlService::grabSingle, &Grab::stops, camera, ms,
             QStringLiteral("has not grabbed its image"));
 }
 
-void CScriptGrab::start(const QJSValue &camera, int timeoutMs)
+void CScriptGrab::start(const QJSValue &camera, int ms)
 {
-    request(&ICameraControlService::grabContinuous, &Grab::starts, camera, timeoutMs,
+    request(&ICameraControlService::grabContinuous, &Grab::starts, camera, ms,
             QStringLiteral("has not begun to grab"));
 }
 
-void CScriptGrab::stop(const QJSValue &camera, int timeoutMs)
+void CScriptGrab::stop(const QJSValue &camera, int ms)
 {
     const CameraInfoPtr found = find(camera);
     if (!found) {
@@ -47,18 +47,18 @@ void CScriptGrab::stop(const QJSValue &camera, int timeoutMs)
         fail(QStringLiteral("camera \"%1\" does not grab").arg(found->identity()));
         return;
     }
-    request(&ICameraControlService::stopGrab, &Grab::stops, camera, timeoutMs,
+    request(&ICameraControlService::stopGrab, &Grab::stops, camera, ms,
             QStringLiteral("has not stopped its grab"));
 }
 
-void CScriptGrab::waitFor(const QJSValue &camera, int images, int timeoutMs)
+void CScriptGrab::waitFor(const QJSValue &camera, int images, int ms)
 {
     const CameraInfoPtr found = find(camera);
     if (!found) {
         return;
     }
     const Grab &grab = m_grabs[found->identity()];
-    waitUntil([&] { return grab.images + grab.failures >= images; }, timeoutMs,
+    waitUntil([&] { return grab.images + grab.failures >= images; }, ms,
               QStringLiteral("camera \"%1\" has not grabbed %2 images")
                   .arg(found->identity(), QString::number(images)));
 }
@@ -122,8 +122,8 @@ void CScriptGrab::noteImage(Grab &grab, const Nerix::CGrabResultData &result)
     }
 }
 
-void CScriptGrab::request(Request operation, int Grab::*count, const QJSValue &camera,
-                          int timeoutMs, const QString &what)
+void CScriptGrab::request(Request operation, int Grab::*count, const QJSValue &camera, int ms,
+                          const QString &what)
 {
     const auto pool = control();
     const CameraInfoPtr found = pool ? find(camera) : nullptr;
@@ -134,7 +134,7 @@ void CScriptGrab::request(Request operation, int Grab::*count, const QJSValue &c
     grab.refusal.clear();
     const int before = grab.*count;
     (pool.data()->*operation)(found);
-    waitUntil([&] { return grab.*count > before || !grab.refusal.isEmpty(); }, timeoutMs,
+    waitUntil([&] { return grab.*count > before || !grab.refusal.isEmpty(); }, ms,
               QStringLiteral("camera \"%1\" %2").arg(found->identity(), what));
     if (!grab.refusal.isEmpty()) {
         fail(grab.refusal);

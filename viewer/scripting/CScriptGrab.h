@@ -27,16 +27,16 @@ public:
     ~CScriptGrab() override;
 
     /// Grabs one image; returns once the grab has ended.
-    Q_INVOKABLE void single(const QJSValue &camera, int timeoutMs = 10000);
+    Q_INVOKABLE void single(const QJSValue &camera, int ms = 10000);
 
     /// Grabs until `stop`; returns once the grab has begun.
-    Q_INVOKABLE void start(const QJSValue &camera, int timeoutMs = 10000);
+    Q_INVOKABLE void start(const QJSValue &camera, int ms = 10000);
 
     /// Returns once the grab has ended.
-    Q_INVOKABLE void stop(const QJSValue &camera, int timeoutMs = 10000);
+    Q_INVOKABLE void stop(const QJSValue &camera, int ms = 10000);
 
     /// Returns once \a images of the grab have arrived or failed.
-    Q_INVOKABLE void waitFor(const QJSValue &camera, int images, int timeoutMs = 10000);
+    Q_INVOKABLE void waitFor(const QJSValue &camera, int images, int ms = 10000);
 
     /// Of the grab that runs, or else the last one: "isGrabbing", "images" and "failures" as they
     /// arrived, "lastFailure", and from the status bar "imagesGrabbedCount", "imagesFailedCount",
@@ -61,7 +61,7 @@ private:
     void noteImage(Grab &grab, const Nerix::CGrabResultData &result);
 
     /// Asks the pool, and waits until \a count of the camera's grab has risen.
-    void request(Request operation, int Grab::*count, const QJSValue &camera, int timeoutMs,
+    void request(Request operation, int Grab::*count, const QJSValue &camera, int ms,
                  const QString &what);
 
     QMap<QString, Grab> m_grabs;

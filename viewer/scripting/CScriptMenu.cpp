@@ -51,12 +51,12 @@ QVariantList CScriptMenu::list()
     return entries;
 }
 
-void CScriptMenu::trigger(const QString &actionId)
+void CScriptMenu::trigger(const QString &id)
 {
     if (const auto menus = service<IMenuControlService>("AppCore")) {
-        const QString reason = obstacle(menus->trigger(Core::CId(actionId)));
+        const QString reason = obstacle(menus->trigger(Core::CId(id)));
         if (!reason.isEmpty()) {
-            fail(QStringLiteral("action \"%1\" %2").arg(actionId, reason));
+            fail(QStringLiteral("action \"%1\" %2").arg(id, reason));
         }
     }
 }

@@ -20,7 +20,7 @@ public:
     Q_INVOKABLE QVariantList list();
 
     /// Does what choosing the action in its menu does.
-    Q_INVOKABLE void trigger(const QString &actionId);
+    Q_INVOKABLE void trigger(const QString &id);
 };
 
 } // namespace Scripting

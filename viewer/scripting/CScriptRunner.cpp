@@ -16,6 +16,7 @@
 #include "scripting/CScriptWelcome.h"
 #include "scripting/CScriptWindows.h"
 #include "scripting/ScriptError.h"
+#include "scripting/ScriptFunctions.h"
 
 #include <pluginsystem/CPluginManager.h>
 
@@ -69,8 +70,10 @@ void CScriptRunner::setPrinter(Printer printer)
 QString CScriptRunner::run(const QString &file)
 {
     m_isRunning = true;
+    evaluateResource(":/scripting/arguments.js");
+    addHost();
+    evaluateResource(":/scripting/prelude.js");
     addObjects();
-    addPrelude();
     // A script may throw what is no Error, which then looks like its result: only a script that
     // comes to its last line has not thrown.
     const QString program = contentOf(file) + QStringLiteral("\n;__nerix.endReached();");
@@ -89,13 +92,17 @@ void CScriptRunner::interrupt()
     end(Ending::Interrupted);
 }
 
-void CScriptRunner::addObjects()
+void CScriptRunner::addHost()
 {
-    const Core::Plugin::IPluginInitializer &services = m_plugins.registry();
     auto *host = new CScriptHost(m_wait, m_printer, this);
     connect(host, &CScriptHost::quitRequested, this, &CScriptRunner::quit);
     connect(host, &CScriptHost::lastLineReached, this, [this] { m_hasReachedEnd = true; });
-    addObject("__nerix", host);
+    m_engine.globalObject().setProperty(QStringLiteral("__nerix"), m_engine.newQObject(host));
+}
+
+void CScriptRunner::addObjects()
+{
+    const Core::Plugin::IPluginInitializer &services = m_plugins.registry();
     addObject("cameras", new CScriptCameras(services, m_wait, this));
     addObject("consent", new CScriptConsent(services, this));
     addObject("features", new CScriptFeatures(services, m_wait, this));
@@ -111,15 +118,22 @@ void CScriptRunner::addObjects()
 
 void CScriptRunner::addObject(const char *name, QObject *object)
 {
-    m_engine.globalObject().setProperty(QString::fromLatin1(name), m_engine.newQObject(object));
+    QJSValue bring = m_engine.globalObject().property(QStringLiteral("__brought"));
+    const QString text = QString::fromLatin1(name);
+    const QJSValue functions = m_engine.toScriptValue(functionsOf(*object->metaObject()));
+    const QJSValue brought = bring.call({text, m_engine.newQObject(object), functions});
+    Q_ASSERT_X(!brought.isError() || m_ending != Ending::None, name,
+               qPrintable(brought.toString()));
+    m_engine.globalObject().setProperty(text, brought);
 }
 
-void CScriptRunner::addPrelude()
+void CScriptRunner::evaluateResource(const char *fileName)
 {
     initResource();
-    const QString prelude = QStringLiteral(":/scripting/prelude.js");
-    const QJSValue result = m_engine.evaluate(contentOf(prelude), prelude);
-    Q_ASSERT_X(!result.isError(), "prelude.js", qPrintable(result.toString()));
+    const QString file = QString::fromLatin1(fileName);
+    const QJSValue result = m_engine.evaluate(contentOf(file), file);
+    Q_ASSERT_X(!result.isError() || m_ending != Ending::None, fileName,
+               qPrintable(result.toString()));
 }
 
 // The first ending counts: a script that was told to quit does not fail by a later signal.

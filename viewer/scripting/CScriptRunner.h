@@ -50,9 +50,10 @@ public:
 private:
     enum class Ending { None, Quit, Interrupted };
 
+    void addHost();
     void addObjects();
     void addObject(const char *name, QObject *object);
-    void addPrelude();
+    void evaluateResource(const char *fileName);
     void end(Ending ending);
     QString failureOf(const QString &file, const QJSValue &result) const;
 

@@ -7,30 +7,33 @@ function print() {
     __nerix.printLine(Array.prototype.map.call(arguments, String).join(" "));
 }
 
-function fail(text) {
-    throw new Error(text);
-}
-
-function sleep(milliseconds) {
-    __nerix.sleep(milliseconds);
-}
-
-function quit() {
-    __nerix.quit();
-}
-
-function waitUntil(condition, timeoutMs, what) {
-    if (typeof condition !== "function") {
-        throw new TypeError("waitUntil: the condition is not a function");
-    }
-    var limit = timeoutMs === undefined ? 10000 : timeoutMs;
-    var start = __nerix.milliseconds();
-    while (!condition()) {
-        if (__nerix.milliseconds() - start >= limit) {
-            throw new Error("not within " + limit + " ms: " + (what || condition));
-        }
-        __nerix.sleep(5);
-    }
-}
-
 var console = { log: print };
+
+var fail = __checked("fail", 1, [{ name: "text", type: "QString" }], function (given) {
+    throw new Error(given[0]);
+});
+
+var sleep = __checked("sleep", 1, [{ name: "ms" }], function (given) {
+    __nerix.sleep(given[0]);
+});
+
+var quit = __checked("quit", 0, [], function () {
+    __nerix.quit();
+});
+
+var waitUntil = (function () {
+    var parameters = [{ name: "condition" }, { name: "ms" }, { name: "what", type: "QString" }];
+
+    return __checked("waitUntil", 1, parameters, function (given) {
+        var condition = given[0];
+        var limit = given[1] === undefined ? 10000 : given[1];
+        var what = given[2] || "the condition of waitUntil (its third argument names it here)";
+        var start = __nerix.milliseconds();
+        while (!condition()) {
+            if (__nerix.milliseconds() - start >= limit) {
+                throw new Error("not within " + limit + " ms: " + what);
+            }
+            __nerix.sleep(5);
+        }
+    });
+})();

@@ -64,11 +64,11 @@ void ScriptErrorTest::testFailureNamesFileLineAndReason_data()
     row("a function of the viewer", "\nmenu.trigger('x');",
         "test.js:2: plug-in AppCore is not running: plugins.list() says why");
     row("a function of the viewer with too few arguments", "\nmenu.trigger();",
-        "test.js:2: Insufficient arguments");
+        "test.js:2: menu.trigger: id is missing: give a text");
     row("a wait that times out", "\nwaitUntil(function () { return false; }, 10, 'it rains');",
         "test.js:2: not within 10 ms: it rains");
     row("a wait for no function", "\nwaitUntil(true, 10);",
-        "test.js:2: TypeError: waitUntil: the condition is not a function");
+        "test.js:2: waitUntil: condition is true: give a function");
     row("a condition that throws, by its own line",
         "waitUntil(function () {\n  return nothing.x;\n}, 10);",
         "test.js:2: ReferenceError: nothing is not defined");
