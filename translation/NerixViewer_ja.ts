@@ -148,6 +148,10 @@
         <source>%1; cancelled</source>
         <translation>%1（キャンセル）</translation>
     </message>
+    <message>
+        <source>%1; left alone: %2 (the file is not known to be of this camera; set them by hand in the panel Features)</source>
+        <translation>%1；変更しなかった項目：%2（このカメラから保存されたファイルと確認できません。機能パネルで手動で設定してください）</translation>
+    </message>
 </context>
 <context>
     <name>FeatureFiles::CLoadReportDialog</name>

@@ -148,6 +148,10 @@
         <source>%1; cancelled</source>
         <translation>%1 (취소됨)</translation>
     </message>
+    <message>
+        <source>%1; left alone: %2 (the file is not known to be of this camera; set them by hand in the panel Features)</source>
+        <translation>%1; 그대로 둔 항목: %2(이 카메라에서 저장한 파일인지 확인되지 않았습니다. 기능 패널에서 직접 설정하십시오)</translation>
+    </message>
 </context>
 <context>
     <name>FeatureFiles::CLoadReportDialog</name>

@@ -148,6 +148,10 @@
         <source>%1; cancelled</source>
         <translation>%1；已取消</translation>
     </message>
+    <message>
+        <source>%1; left alone: %2 (the file is not known to be of this camera; set them by hand in the panel Features)</source>
+        <translation>%1；保持不变：%2（无法确认该文件出自此相机；请在“功能”面板中手动设置）</translation>
+    </message>
 </context>
 <context>
     <name>FeatureFiles::CLoadReportDialog</name>

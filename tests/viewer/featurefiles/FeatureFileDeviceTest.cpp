@@ -25,6 +25,7 @@ private Q_SLOTS:
     void testOffsetIsSetOnceTheWidthAllowsIt();
     void testLockedFeatureIsRefusedAndTheRestIsSet();
     void testFeaturesOfAnotherCameraComeBackWithoutARefusal();
+    void testNameComesBackToItsCameraAndGoesToNoOther();
     void testCameraThatVanishesIsToldForEachFeature();
     void testSavingACameraThatVanishedLeavesTheFileAndSaysWhy();
 
@@ -121,6 +122,25 @@ void FeatureFileDeviceTest::testFeaturesOfAnotherCameraComeBackWithoutARefusal()
     const CLoadReport report = CFeatureFile(path).load(m_camera->parameters());
     QCOMPARE(refusedIn(report).join("\n"), QString());
     QCOMPARE(report.set, 1);
+}
+
+void FeatureFileDeviceTest::testNameComesBackToItsCameraAndGoesToNoOther()
+{
+    set("DeviceUserID", "Line3");
+    CFeatureFile(m_folder.path("out")).save(m_camera->parameters());
+    COpenCamera other({"--address", "127.0.0.2"}, "B2");
+    QVERIFY(other.isOpen());
+    other.feature("DeviceUserID")->setValueText("Line4");
+    other.feature("Width")->setValueText("1024");
+    const CLoadReport report = CFeatureFile(m_folder.path("out")).load(other.parameters());
+    QCOMPARE(report.leftAlone, QStringList{"DeviceUserID"});
+    QCOMPARE(other.feature("DeviceUserID")->valueText(), QString("Line4"));
+    QCOMPARE(other.feature("Width")->valueText(), value("Width"));
+
+    set("DeviceUserID", "");
+    QCOMPARE(CFeatureFile(m_folder.path("out")).load(m_camera->parameters()).set, 1);
+    QCOMPARE(value("DeviceUserID"), QString("Line3"));
+    set("DeviceUserID", "");
 }
 
 void FeatureFileDeviceTest::testCameraThatVanishesIsToldForEachFeature()

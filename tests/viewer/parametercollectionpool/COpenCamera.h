@@ -18,13 +18,14 @@
 class COpenCamera
 {
 public:
-    explicit COpenCamera(const QStringList &options = {})
-        : m_simulator(options + QStringList{QStringLiteral("--serial"), QStringLiteral("A1")})
+    explicit COpenCamera(const QStringList &options = {},
+                         const QString &serial = QStringLiteral("A1"))
+        : m_simulator(options + QStringList{QStringLiteral("--serial"), serial})
     {
         if (!m_simulator.start() || !m_rig.search()) {
             return;
         }
-        m_info = m_rig.camera(QStringLiteral("A1"));
+        m_info = m_rig.camera(serial);
         if (m_info && m_rig.open(m_info)) {
             m_parameters = m_service.parameterCollection(m_info);
         }

@@ -132,18 +132,20 @@ void ScriptFeaturesTest::testFeaturesAreSavedAndLoadedWithAReport()
 {
     const QTemporaryDir folder;
     m_parameters->add<FakeInteger>("@CameraDevice/Broken")->throwing.insert("setValueText");
-    m_parameters->stream = "# nerix feature stream 1: 2 features, 0 not readable\n"
-                           "Gain\t8\nBroken\t1\n";
+    m_parameters->add<FakeInteger>("@CameraDevice/DeviceUserID")->stateText = "7";
+    m_parameters->stream = "# nerix feature stream 1: 3 features, 0 not readable\n"
+                           "Gain\t8\nBroken\t1\nDeviceUserID\t9\n";
     const QString file = folder.filePath("a.features");
     QCOMPARE(m_run->run(QStringLiteral("features.save('A-1', '%1');"
                                        "var report = features.load('A-1', '%1');"
                                        "print(report.set, report.unchanged, report.readOnly,"
-                                       "      JSON.stringify(report.refused));")
+                                       "      JSON.stringify(report.refused), report.leftAlone);")
                             .arg(file)
                             .toUtf8()),
              QString());
     QCOMPARE(m_run->printed(),
-             QStringList{"1 0 0 [{\"name\":\"Broken\",\"reason\":\"setValueText failed\"}]"});
+             QStringList{"1 0 0 [{\"name\":\"Broken\",\"reason\":\"setValueText failed\"}] "
+                         "DeviceUserID"});
     QCOMPARE(m_gain->stateText, QStringLiteral("8"));
 }
 

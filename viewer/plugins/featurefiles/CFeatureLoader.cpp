@@ -3,6 +3,7 @@
 
 #include "plugins/featurefiles/CFeatureLoader.h"
 
+#include "plugins/featurefiles/OwnFeatures.h"
 #include "plugins/parametercollectionpool/ValueText.h"
 
 #include <exception>
@@ -56,11 +57,13 @@ QString reasonOf(const std::exception &exception, const QString &name)
 
 CFeatureLoader::CFeatureLoader(const IParameterCollection &parameters, const QVector<Line> &lines)
 {
+    const bool isForeign = !OwnFeatures::areOf(parameters, lines);
     for (const Line &line : lines) {
         Item item;
         item.name = line.first;
         item.wanted = line.second;
         item.parameter = parameters.parameter(tree() + line.first);
+        item.isForeign = isForeign && OwnFeatures::contains(line.first);
         m_items.append(item);
     }
 }
@@ -122,6 +125,9 @@ CFeatureLoader::Result CFeatureLoader::attempt(Item &item)
     if (now && isSame(parameter, *now, item.wanted)) {
         return Result::Unchanged;
     }
+    if (item.isForeign && !parameter.isNull()) {
+        return Result::LeftAlone;
+    }
     parameter.setValueText(item.wanted);
     item.taken = valueOf(parameter);
     return Result::Set;
@@ -173,6 +179,9 @@ CLoadReport CFeatureLoader::report() const
             break;
         case Result::ReadOnly:
             ++report.readOnly;
+            break;
+        case Result::LeftAlone:
+            report.leftAlone.append(item.name);
             break;
         default:
             // What was not tried has no reason.

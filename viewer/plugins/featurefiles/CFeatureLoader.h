@@ -17,7 +17,8 @@ namespace FeatureFiles {
 ///
 /// A value may depend on one that stands after it (an offset on a width, for example), so what is
 /// refused is tried again as long as that helps. What a later value has changed again is set a
-/// second time. What has its value already is not set.
+/// second time. What has its value already is not set. What belongs to one camera alone, see
+/// `OwnFeatures`, is set only if the values are of this camera.
 class CFeatureLoader
 {
 public:
@@ -33,13 +34,14 @@ public:
     CLoadReport load(const Progress &progress);
 
 private:
-    enum class Result { Open, Set, Unchanged, ReadOnly, Refused };
+    enum class Result { Open, Set, Unchanged, ReadOnly, LeftAlone, Refused };
 
     struct Item
     {
         QString name;
         QString wanted;
         QSharedPointer<ParameterCollection::IParameter> parameter;
+        bool isForeign = false; // belongs to another camera alone
         Result result = Result::Open;
         std::optional<QString> taken; // what the camera made of it, right after it was set
         QString reason;               // why it was refused

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QMetaType>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace FeatureFiles {
@@ -26,9 +27,14 @@ public:
     int unchanged = 0; ///< had that value already
     int readOnly = 0;  ///< cannot be set by a user at all, so they were passed over
     QVector<Refused> refused;
+
+    /// Belong to one camera alone, and the file is not known to be of this one: not set. Names
+    /// without the tree.
+    QStringList leftAlone;
     bool isCancelled = false; ///< what comes after the last one that is counted was not tried
 
-    /// One line, for example "12 set, 20 unchanged, 5 read-only, 1 not set".
+    /// One line, for example "12 set, 20 unchanged, 5 read-only, 1 not set". It names what was left
+    /// alone, and says what to do about it.
     QString summary() const;
 };
 
