@@ -345,6 +345,14 @@ Close it and open it again.</source>
         <source>%1, locked</source>
         <translation>%1（ロック中）</translation>
     </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no whole number; give one without points, commas and spaces</source>
+        <translation>%1：「%2」は整数ではありません。小数点、カンマ、スペースを含まない整数を入力してください</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; cannot be read as a number; give one with a point for decimals and no other separators</source>
+        <translation>%1：「%2」を数値として読み取れません。小数点にはピリオドを使い、ほかの区切り文字を入れずに入力してください</translation>
+    </message>
 </context>
 <context>
     <name>Grabbing::CFiguresBar</name>

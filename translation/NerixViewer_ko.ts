@@ -345,6 +345,14 @@ Close it and open it again.</source>
         <source>%1, locked</source>
         <translation>%1 (잠김)</translation>
     </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no whole number; give one without points, commas and spaces</source>
+        <translation>%1: &quot;%2&quot;은(는) 정수가 아닙니다. 소수점, 쉼표, 공백 없이 정수를 입력하세요</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; cannot be read as a number; give one with a point for decimals and no other separators</source>
+        <translation>%1: &quot;%2&quot;을(를) 숫자로 읽을 수 없습니다. 소수점은 마침표로 쓰고 다른 구분 기호 없이 입력하세요</translation>
+    </message>
 </context>
 <context>
     <name>Grabbing::CFiguresBar</name>

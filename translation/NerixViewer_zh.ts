@@ -345,6 +345,14 @@ Close it and open it again.</source>
         <source>%1, locked</source>
         <translation>%1（已锁定）</translation>
     </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no whole number; give one without points, commas and spaces</source>
+        <translation>%1：“%2”不是整数，请输入不含小数点、逗号和空格的整数</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; cannot be read as a number; give one with a point for decimals and no other separators</source>
+        <translation>%1：“%2”无法识别为数字，请用句点作小数点，且不要使用其他分隔符</translation>
+    </message>
 </context>
 <context>
     <name>Grabbing::CFiguresBar</name>

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void testEscapeAndTheSameTextSetNothing_data();
     void testEscapeAndTheSameTextSetNothing();
     void testSwitchIsTurnedByTheKeyboardAndTheMouse();
+    void testClickOnACheckBoxOrAButtonSelectsItsFeature_data();
+    void testClickOnACheckBoxOrAButtonSelectsItsFeature();
     void testCommandIsExecutedByTheKeyboardAndTheMouse_data();
     void testCommandIsExecutedByTheKeyboardAndTheMouse();
     void testCommandIsNotExecutedWhenTheMouseIsReleasedElsewhere();
@@ -42,6 +44,7 @@ private Q_SLOTS:
 
 private:
     QRect valueRect(const char *name) const;
+    QRect checkBox(const char *name) const;
 
     QScopedPointer<CPanelRig> m_rig;
     QSharedPointer<CLiveInteger> m_width;
@@ -77,6 +80,15 @@ void FeatureEditingTest::cleanup()
 QRect FeatureEditingTest::valueRect(const char *name) const
 {
     return m_rig->view().visualRect(m_rig->row(name).siblingAtColumn(1));
+}
+
+QRect FeatureEditingTest::checkBox(const char *name) const
+{
+    QStyleOptionViewItem option;
+    option.initFrom(&m_rig->view());
+    option.rect = valueRect(name);
+    option.features = QStyleOptionViewItem::HasCheckIndicator;
+    return m_rig->view().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option);
 }
 
 void FeatureEditingTest::testOneEditIsOneSet_data()
@@ -144,14 +156,31 @@ void FeatureEditingTest::testSwitchIsTurnedByTheKeyboardAndTheMouse()
     QTRY_COMPARE(m_invert->state().text, QString("true"));
     QTest::keyClick(&m_rig->view(), Qt::Key_Return);
     QTRY_COMPARE(m_invert->sets(), (QStringList{"true", "false"}));
-    QStyleOptionViewItem option;
-    option.initFrom(&m_rig->view());
-    option.rect = valueRect("Invert");
-    option.features = QStyleOptionViewItem::HasCheckIndicator;
-    const QRect box =
-        m_rig->view().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option);
-    QTest::mouseClick(m_rig->view().viewport(), Qt::LeftButton, {}, box.center());
+    QTest::mouseClick(m_rig->view().viewport(), Qt::LeftButton, {}, checkBox("Invert").center());
     QTRY_COMPARE(m_invert->sets(), (QStringList{"true", "false", "true"}));
+}
+
+void FeatureEditingTest::testClickOnACheckBoxOrAButtonSelectsItsFeature_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("check box") << QByteArray("Invert");
+    QTest::newRow("button") << QByteArray("Reset");
+}
+
+void FeatureEditingTest::testClickOnACheckBoxOrAButtonSelectsItsFeature()
+{
+    QFETCH(QByteArray, name);
+    QVERIFY(m_rig->open());
+    QVERIFY(m_rig->goTo(name.constData()) && m_rig->goTo("Width"));
+    const QRect place = name == "Invert" ? checkBox(name.constData()) : valueRect(name.constData());
+    QTest::mouseClick(m_rig->view().viewport(), Qt::LeftButton, {}, place.center());
+    QTRY_COMPARE(m_invert->sets().size() + m_reset->sets().size(), 1);
+    QCOMPARE(m_rig->view().currentIndex().data(CFeatureModel::NameRole).toByteArray(), name);
+    QVERIFY(m_rig->view().selectionModel()->isRowSelected(m_rig->row(name.constData()).row(),
+                                                          m_rig->row("Control")));
+    QCOMPARE(m_rig->features.featureSelection->current()->name(), QString(name));
+    const auto *text = m_rig->panel().findChild<QLabel *>("FeatureTree.Explanation");
+    QVERIFY2(text->text().contains("Name: " + name), qPrintable(text->text()));
 }
 
 void FeatureEditingTest::testCommandIsExecutedByTheKeyboardAndTheMouse_data()

@@ -19,8 +19,8 @@ private Q_SLOTS:
     void testIntegerStepsStayOnAllowedValues();
     void testFloatStepsChangeTheSecondDigit_data();
     void testFloatStepsChangeTheSecondDigit();
-    void testOnlyNumbersCanBeTyped_data();
-    void testOnlyNumbersCanBeTyped();
+    void testWhatIsTypedStaysAsItIs_data();
+    void testWhatIsTypedStaysAsItIs();
     void testTextThatCannotBeTakenIsMarked();
     void testEnterLeavesTheTextAsItIs();
 };
@@ -98,6 +98,8 @@ void NumberEditTest::testFloatStepsChangeTheSecondDigit_data()
     row("three tenths", {0, 10}, "0.29", Qt::Key_Up, "0.3");
     row("from zero", {-1, 1}, "0", Qt::Key_Up, "0.1");
     row("negative", {-10, 10}, "-2", Qt::Key_Down, "-2.1");
+    row("after a comma", {0, 10}, "0,29", Qt::Key_Up, "0.3");
+    row("not from what is no number", exposure, "1,000", Qt::Key_Up, "1,000");
     row("no further than the minimum", exposure, "10", Qt::Key_PageDown, "10");
     row("no further than the maximum", {0, 5000.5}, "5000", Qt::Key_Up, "5000.5");
     row("from no number", exposure, "", Qt::Key_Up, "11");
@@ -115,38 +117,39 @@ void NumberEditTest::testFloatStepsChangeTheSecondDigit()
     QTEST(edit.text(), "result");
 }
 
-void NumberEditTest::testOnlyNumbersCanBeTyped_data()
+void NumberEditTest::testWhatIsTypedStaysAsItIs_data()
 {
     QTest::addColumn<bool>("isFloat");
     QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("whole number") << false << "-12"
-                                  << "-12";
-    QTest::newRow("letters are left out") << false << "1a2"
-                                          << "12";
-    QTest::newRow("hexadecimal") << false << "0xFfg"
-                                 << "0xFf";
-    QTest::newRow("no fraction in a whole number") << false << "1.5"
-                                                   << "15";
-    QTest::newRow("fraction") << true << "1.25"
-                              << "1.25";
-    QTest::newRow("no comma") << true << "1,25"
-                              << "125";
-    QTest::newRow("power of ten") << true << "1e-3"
-                                  << "1e-3";
-    QTest::newRow("one point") << true << "1.2.3"
-                               << "1.23";
+    QTest::addColumn<QString>("number");
+    const auto row = [](const char *rule, bool isFloat, const char *keys, const QString &number) {
+        QTest::newRow(rule) << isFloat << QString(keys) << number;
+    };
+    row("whole number", false, "-12", "-12");
+    row("hexadecimal", false, "0xFf", "0xFf");
+    row("letters in a whole number", false, "1a2", {});
+    row("a fraction in a whole number", false, "-5.5", {});
+    row("a comma in a whole number", false, "1,000", {});
+    row("fraction", true, "1.25", "1.25");
+    row("power of ten", true, "1e-3", "1e-3");
+    row("a comma for the point", true, "12000,5", "12000.5");
+    row("a comma between groups", true, "1,000.5", {});
+    row("two points", true, "1.2.3", {});
+    row("infinity", true, "inf", {});
 }
 
-void NumberEditTest::testOnlyNumbersCanBeTyped()
+void NumberEditTest::testWhatIsTypedStaysAsItIs()
 {
     QFETCH(bool, isFloat);
     QFETCH(QString, keys);
+    QFETCH(QString, number);
     CIntegerEdit integer;
-    CFloatEdit number;
-    CNumberEdit &edit = isFloat ? static_cast<CNumberEdit &>(number) : integer;
+    CFloatEdit fraction;
+    CNumberEdit &edit = isFloat ? static_cast<CNumberEdit &>(fraction) : integer;
     QTest::keyClicks(&edit, keys);
-    QTEST(edit.text(), "text");
+    QCOMPARE(edit.text(), keys);
+    QCOMPARE(edit.number(), number);
+    QCOMPARE(edit.number().isNull(), number.isNull());
 }
 
 void NumberEditTest::testTextThatCannotBeTakenIsMarked()

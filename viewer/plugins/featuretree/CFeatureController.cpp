@@ -80,27 +80,41 @@ QString CFeatureController::notice() const
 
 void CFeatureController::dismissProblem()
 {
-    setProblem(QString());
+    setProblem(-1, QString());
 }
 
 void CFeatureController::explainRefusal(int feature)
 {
-    const CFeatureState &state = m_model.state(feature);
-    const QString name = m_model.description(feature).displayName;
-    if (!state.isKnown) {
+    if (!isThere(feature) || !m_model.state(feature).isKnown) {
         return;
     }
+    const CFeatureState &state = m_model.state(feature);
+    const QString name = m_model.description(feature).displayName;
     if (state.canBeSet()) {
         if (m_model.description(feature).type == ParameterCollection::InterfaceRegister) {
-            setProblem(tr("%1: its bytes can only be set by a script").arg(name));
+            setProblem(feature, tr("%1: its bytes can only be set by a script").arg(name));
         }
     } else if (!state.isOffered()) {
-        setProblem(tr("%1: the camera does not offer it now").arg(name));
+        setProblem(feature, tr("%1: the camera does not offer it now").arg(name));
     } else if (state.isLocked()) {
-        setProblem(tr("%1: it is locked now; stop the grab, then set it").arg(name));
+        setProblem(feature, tr("%1: it is locked now; stop the grab, then set it").arg(name));
     } else {
-        setProblem(tr("%1: it can only be read").arg(name));
+        setProblem(feature, tr("%1: it can only be read").arg(name));
     }
+}
+
+void CFeatureController::refuseNumber(int feature, const QString &typed)
+{
+    if (isThere(feature)) {
+        tell(feature,
+             CFeatureTexts::noNumber(m_model.description(feature), m_model.state(feature), typed));
+    }
+}
+
+// The device may have been closed since the view told of the feature.
+bool CFeatureController::isThere(int feature) const
+{
+    return m_model.indexOf(feature, CFeatureModel::NameColumn).isValid();
 }
 
 void CFeatureController::keepUpToDate(const QVector<int> &features)
@@ -111,6 +125,9 @@ void CFeatureController::keepUpToDate(const QVector<int> &features)
 
 void CFeatureController::select(int feature)
 {
+    if (feature != m_problemFeature) {
+        dismissProblem();
+    }
     const auto parameter = m_access.parameter(feature);
     if (parameter && m_services.featureSelection) {
         m_services.featureSelection->select(parameter);
@@ -156,6 +173,9 @@ void CFeatureController::showCurrent()
     const auto current = m_services.featureSelection->current();
     const int feature = current ? m_model.featureNamed(current->fullName()) : -1;
     if (feature >= 0 && m_access.parameter(feature) == current) {
+        if (feature != m_problemFeature) {
+            dismissProblem();
+        }
         Q_EMIT selected(feature);
     }
 }
@@ -177,9 +197,10 @@ void CFeatureController::onWritten(int feature, const QString &failure)
 {
     if (failure.isEmpty()) {
         m_model.confirm(feature);
+        dismissProblem();
     } else {
         m_model.refuse(feature);
-        tell(CFeatureTexts::withoutTree(failure));
+        tell(feature, CFeatureTexts::withoutTree(failure));
     }
     // First itself, in sight or not, then what may depend on it.
     QVector<int> affected = m_inSight;
@@ -215,19 +236,20 @@ void CFeatureController::onAllRead()
     }
 }
 
-void CFeatureController::tell(const QString &problem)
+void CFeatureController::tell(int feature, const QString &problem)
 {
-    setProblem(problem);
+    setProblem(feature, problem);
     if (m_services.messages) {
         m_services.messages->add(Plugin::NerixViewer::IMessageService::Severity::Warning,
                                  m_device.camera()->displayName() + QStringLiteral(": ") + problem);
     }
 }
 
-void CFeatureController::setProblem(const QString &problem)
+void CFeatureController::setProblem(int feature, const QString &problem)
 {
-    if (problem != m_problem) {
+    if (problem != m_problem || feature != m_problemFeature) {
         m_problem = problem;
+        m_problemFeature = feature;
         Q_EMIT problemChanged();
     }
 }

@@ -60,13 +60,23 @@ public:
     }
     void dismissProblem();
 
+    /// The feature that the problem is about; -1 if there is none.
+    int problemFeature() const
+    {
+        return m_problemFeature;
+    }
+
     /// Tells the user why \a feature cannot be set now. Nothing if it can.
     void explainRefusal(int feature);
+
+    /// Tells the user that \a typed is no number for \a feature.
+    void refuseNumber(int feature, const QString &typed);
 
     /// Reads \a features at once, and again from time to time and when something was set.
     void keepUpToDate(const QVector<int> &features);
 
-    /// Makes \a feature the current one of the viewer.
+    /// Makes \a feature the current one of the viewer; -1 for none of them. The problem of another
+    /// one is dismissed.
     void select(int feature);
 
     /// How long the values that are in sight are left alone.
@@ -89,8 +99,9 @@ private:
     void showCurrent();
     void onSomethingSet();
     void onAllRead();
-    void tell(const QString &problem);
-    void setProblem(const QString &problem);
+    bool isThere(int feature) const;
+    void tell(int feature, const QString &problem);
+    void setProblem(int feature, const QString &problem);
 
     const CFeatureServices m_services;
     CShownDevice m_device;
@@ -99,6 +110,7 @@ private:
     bool m_isDescribed = false;
     QString m_describeFailure; // null: none
     QString m_problem;
+    int m_problemFeature = -1;
     QVector<int> m_inSight;
     bool m_isOutdated = false; // something was set while values were read
     QTimer m_refresh;          // when nothing happens

@@ -9,6 +9,7 @@
 #include "plugins/featuretree/CIntegerEdit.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
@@ -21,6 +22,9 @@ namespace {
 
 // What the editor held at first: null until it is filled.
 constexpr const char *firstText = "firstText";
+
+// The feature that is edited.
+constexpr const char *editedFeature = "editedFeature";
 
 // Room for the frame of a button around the text.
 constexpr int verticalRoom = 8;
@@ -44,7 +48,7 @@ bool isButton(const QModelIndex &index)
 QString textOf(const QWidget *editor)
 {
     if (const auto *number = qobject_cast<const CNumberEdit *>(editor)) {
-        return number->text().trimmed();
+        return number->number();
     }
     if (const auto *choice = qobject_cast<const CChoiceEdit *>(editor)) {
         return choice->currentText();
@@ -72,6 +76,28 @@ void setLimits(QWidget *editor, const CFeatureState &state)
         number->setLimits(state.floatLimits);
     } else if (auto *choice = qobject_cast<CChoiceEdit *>(editor)) {
         choice->setEntries(state.entries);
+    }
+}
+
+bool isNoNumber(const QWidget *editor)
+{
+    const auto *number = qobject_cast<const CNumberEdit *>(editor);
+    return number && number->number().isNull();
+}
+
+bool isEnd(const QEvent &event)
+{
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    switch (static_cast<const QKeyEvent &>(event).key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return true;
+    default:
+        return false;
     }
 }
 
@@ -103,6 +129,7 @@ QWidget *CFeatureDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
     QWidget *editor =
         type == InterfaceEnumeration ? createChoice(parent) : createLine(parent, type);
     editor->setAutoFillBackground(true);
+    editor->setProperty(editedFeature, index.data(CFeatureModel::FeatureRole));
     editor->setAccessibleName(
         index.siblingAtColumn(CFeatureModel::NameColumn).data(Qt::DisplayRole).toString());
     return editor;
@@ -137,11 +164,31 @@ void CFeatureDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
 void CFeatureDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
                                     const QModelIndex &index) const
 {
+    if (isNoNumber(editor)) {
+        tellNoNumber(*editor);
+        return;
+    }
     const QString text = textOf(editor);
     if (text != editor->property(firstText).toString()
         && !model->setData(index, text, Qt::EditRole)) {
         Q_EMIT notTaken(index);
     }
+}
+
+void CFeatureDelegate::tellNoNumber(const QWidget &editor) const
+{
+    Q_EMIT notANumber(editor.property(editedFeature).toInt(),
+                      qobject_cast<const CNumberEdit *>(&editor)->text());
+}
+
+bool CFeatureDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *editor = qobject_cast<QWidget *>(watched);
+    if (isEnd(*event) && isNoNumber(editor)) {
+        tellNoNumber(*editor);
+        return true;
+    }
+    return QStyledItemDelegate::eventFilter(watched, event);
 }
 
 void CFeatureDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,

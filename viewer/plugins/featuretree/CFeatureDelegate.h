@@ -29,12 +29,19 @@ public:
     bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
                      const QModelIndex &index) override;
 
+    /// Enter and Tab do not end an editor whose text is no number.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 Q_SIGNALS:
+    /// \a typed cannot be taken as a number for \a feature, and nothing was set.
+    void notANumber(int feature, const QString &typed) const;
+
     /// What was typed cannot be set any more, because the feature was locked meanwhile.
     void notTaken(const QModelIndex &index) const;
 
 private:
     QWidget *createChoice(QWidget *parent) const;
+    void tellNoNumber(const QWidget &editor) const;
 
     QPersistentModelIndex m_pressed; // the command whose button is held down
 };

@@ -123,6 +123,9 @@ void CFeaturePanel::connectWidgets()
             [this] { m_controller.keepUpToDate(m_view->featuresInSight()); });
     connect(m_view, &CFeatureView::cannotBeChanged, &m_controller,
             &CFeatureController::explainRefusal);
+    connect(m_view, &CFeatureView::notANumber, &m_controller, &CFeatureController::refuseNumber);
+    connect(m_view, &CFeatureView::editingEnded, &m_controller,
+            &CFeatureController::dismissProblem);
     connect(m_view, &CFeatureView::picked, this, [this](int feature) {
         explain(feature);
         m_controller.select(feature);
@@ -143,6 +146,9 @@ void CFeaturePanel::connectWidgets()
         }
     });
 
+    m_escape = new QShortcut(QKeySequence::Cancel, this);
+    m_escape->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(m_escape, &QShortcut::activated, &m_controller, &CFeatureController::dismissProblem);
     auto *find = new QShortcut(QKeySequence::Find, this);
     find->setContext(Qt::WidgetWithChildrenShortcut);
     connect(find, &QShortcut::activated, m_search, QOverload<>::of(&QWidget::setFocus));
@@ -209,6 +215,10 @@ void CFeaturePanel::showProblem()
 {
     m_problem->setText(m_controller.problem());
     m_problemRow->setVisible(!m_controller.problem().isEmpty());
+    m_escape->setEnabled(!m_controller.problem().isEmpty());
+    layout()->activate(); // the view has its new height now
+    m_view->scrollTo(m_filter.mapFromSource(
+        m_controller.model().indexOf(m_controller.problemFeature(), CFeatureModel::NameColumn)));
 }
 
 void CFeaturePanel::explain(int feature)

@@ -10,6 +10,7 @@
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QShortcut;
 class QStackedWidget;
 class QToolButton;
 
@@ -58,7 +59,8 @@ private:
     QWidget *m_problemRow = nullptr;
     QLabel *m_problem = nullptr;
     QToolButton *m_dismiss = nullptr;
-    int m_explained = -1; // the feature that is explained; -1 for none
+    QShortcut *m_escape = nullptr; // ends the problem
+    int m_explained = -1;          // the feature that is explained; -1 for none
 };
 
 } // namespace FeatureTree

@@ -96,6 +96,19 @@ QString CFeatureTexts::spoken(const CFeatureDescription &description, const CFea
     return state.isLocked() ? tr("%1, locked").arg(text) : text;
 }
 
+QString CFeatureTexts::noNumber(const CFeatureDescription &description, const CFeatureState &state,
+                                const QString &typed)
+{
+    const QString reason =
+        description.type == InterfaceInteger
+            ? tr("%1: \"%2\" is no whole number; give one without points, commas and spaces")
+            : tr("%1: \"%2\" cannot be read as a number; give one with a point for decimals and no "
+                 "other separators");
+    const QString allowed = limits(description, state);
+    return reason.arg(description.displayName, typed)
+           + (allowed.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(allowed));
+}
+
 QString CFeatureTexts::withoutTree(QString message)
 {
     return message.remove(QStringLiteral("@CameraDevice/"));

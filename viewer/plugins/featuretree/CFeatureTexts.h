@@ -29,6 +29,10 @@ public:
     /// The value for a screen reader, for example "on, locked".
     static QString spoken(const CFeatureDescription &description, const CFeatureState &state);
 
+    /// Why \a typed cannot be taken as a number for the feature, with what can; one line.
+    static QString noNumber(const CFeatureDescription &description, const CFeatureState &state,
+                            const QString &typed);
+
     /// \a message, which names a feature of the camera with its tree, without the tree.
     static QString withoutTree(QString message);
 };

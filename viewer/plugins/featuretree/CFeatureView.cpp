@@ -6,8 +6,12 @@
 #include "plugins/featuretree/CFeatureDelegate.h"
 #include "plugins/featuretree/CFeatureModel.h"
 
+#include <utility>
+
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTimer>
@@ -45,7 +49,13 @@ CFeatureView::CFeatureView(QWidget *parent)
 {
     auto *delegate = new CFeatureDelegate(this);
     setItemDelegate(delegate);
-    connect(delegate, &CFeatureDelegate::notTaken, this, &CFeatureView::refuseToChange);
+    connect(delegate, &CFeatureDelegate::notTaken, this, [this](const QModelIndex &index) {
+        onceChosen([this, index = QPersistentModelIndex(index)] { refuseToChange(index); });
+    });
+    connect(delegate, &CFeatureDelegate::notANumber, this,
+            [this](int feature, const QString &typed) {
+                onceChosen([this, feature, typed] { Q_EMIT notANumber(feature, typed); });
+            });
     setEditTriggers(NoEditTriggers); // see `activate`
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
@@ -203,6 +213,76 @@ void CFeatureView::activate(const QModelIndex &row)
     }
 }
 
+void CFeatureView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    QTreeView::closeEditor(editor, hint);
+    Q_EMIT editingEnded();
+}
+
+// What is told of a row may change the height of the view; no row moves away from under the mouse
+// while its button is down.
+void CFeatureView::onceReleased(const std::function<void()> &work)
+{
+    if (m_isHeld) {
+        m_onceReleased.append(work);
+    } else {
+        work();
+    }
+}
+
+// A click on another row ends an editor before it chooses that row, which would end the message.
+void CFeatureView::onceChosen(const std::function<void()> &work)
+{
+    QMetaObject::invokeMethod(
+        this, [this, work] { onceReleased(work); }, Qt::QueuedConnection);
+}
+
+void CFeatureView::letGo()
+{
+    m_isHeld = false;
+    const auto all = std::exchange(m_onceReleased, {});
+    for (const auto &work : all) {
+        work();
+    }
+}
+
+void CFeatureView::mousePressEvent(QMouseEvent *event)
+{
+    letGo();
+    m_isHeld = event->button() == Qt::LeftButton;
+    QTreeView::mousePressEvent(event);
+    chooseRow(indexAt(event->pos()));
+}
+
+// Qt leaves the current row alone if the delegate takes the click, as for a check box or a button.
+void CFeatureView::chooseRow(const QModelIndex &index)
+{
+    if (!m_isHeld || index.column() != CFeatureModel::ValueColumn
+        || index.siblingAtColumn(0) == currentIndex().siblingAtColumn(0)) {
+        return;
+    }
+    setAutoScroll(false);
+    setCurrentIndex(index);
+    setAutoScroll(true);
+}
+
+void CFeatureView::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTreeView::mouseReleaseEvent(event);
+    letGo();
+}
+
+// Qt keeps the first row where it is.
+void CFeatureView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    const QRect row = visualRect(currentIndex());
+    if (row.isValid() && row.top() < event->oldSize().height()
+        && row.bottom() >= viewport()->height()) {
+        onceReleased([this] { scrollTo(currentIndex()); });
+    }
+}
+
 void CFeatureView::keyPressEvent(QKeyEvent *event)
 {
     if (state() != EditingState && isActivation(*event) && currentIndex().isValid()) {
@@ -218,7 +298,7 @@ void CFeatureView::currentChanged(const QModelIndex &current, const QModelIndex 
     QTreeView::currentChanged(current, previous);
     const int feature = featureOf(current);
     if (!m_isQuiet) {
-        Q_EMIT picked(feature);
+        onceReleased([this, feature] { Q_EMIT picked(feature); });
     }
 }
 
@@ -237,6 +317,7 @@ void CFeatureView::showEvent(QShowEvent *event)
 void CFeatureView::hideEvent(QHideEvent *event)
 {
     QTreeView::hideEvent(event);
+    letGo();
     m_sightTimer->start();
 }
 

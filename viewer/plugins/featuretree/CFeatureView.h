@@ -51,7 +51,17 @@ Q_SIGNALS:
     /// The user wanted to change \a feature, which cannot be changed now.
     void cannotBeChanged(int feature);
 
+    /// The user typed \a typed for \a feature, which is no number.
+    void notANumber(int feature, const QString &typed);
+
+    /// An editor was closed, whatever became of what was typed.
+    void editingEnded();
+
 protected:
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void updateGeometries() override;
@@ -60,6 +70,10 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
+    void onceReleased(const std::function<void()> &work);
+    void onceChosen(const std::function<void()> &work);
+    void letGo();
+    void chooseRow(const QModelIndex &index);
     void onClicked(const QModelIndex &index);
     void refuseToChange(const QModelIndex &index);
     void activate(const QModelIndex &index);
@@ -69,6 +83,8 @@ private:
 
     QTimer *m_sightTimer;   // several causes in a row lead to one signal
     QSet<QString> m_closed; // full names of the categories that the user closed
+    QVector<std::function<void()>> m_onceReleased;
+    bool m_isHeld = false; // a button of the mouse is down on a row
     bool m_isEverythingOpen = false;
     bool m_isQuiet = false;
 };

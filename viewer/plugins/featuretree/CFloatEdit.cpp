@@ -20,6 +20,22 @@ namespace {
 constexpr CFloatLimits unlimited{std::numeric_limits<double>::lowest(),
                                  std::numeric_limits<double>::max()};
 
+const QLatin1Char comma(',');
+const QLatin1Char point('.');
+
+// "1,250" is a thousand and more to some people and little more than one to others.
+bool isPerhapsThousand(const QString &text)
+{
+    static const QRegularExpression group(
+        QStringLiteral("^[-+]?[1-9][0-9]{0,2},[0-9]{3}([eE].*)?$"));
+    return group.match(text).hasMatch();
+}
+
+bool isDecimalComma(const QString &text)
+{
+    return text.count(comma) == 1 && !text.contains(point) && !isPerhapsThousand(text);
+}
+
 // The power of ten of the digit that a step changes.
 int stepExponent(double value)
 {
@@ -52,24 +68,26 @@ void CFloatEdit::setLimits(const std::optional<CFloatLimits> &limits)
     markText();
 }
 
-QString CFloatEdit::stepped(const QString &text, int steps) const
+QString CFloatEdit::notated(const QString &typed) const
 {
-    const double value = ValueText::toFloat(text).value_or(m_limits.minimum);
+    QString text = typed.trimmed();
+    if (isDecimalComma(text)) {
+        text.replace(comma, point);
+    }
+    return ValueText::toFloat(text) ? text : QString();
+}
+
+QString CFloatEdit::stepped(const QString &number, int steps) const
+{
+    const double value = ValueText::toFloat(number).value_or(m_limits.minimum);
     return ValueText::fromFloat(
         std::clamp(moved(value, steps), m_limits.minimum, m_limits.maximum));
 }
 
-bool CFloatEdit::isAllowed(const QString &text) const
+bool CFloatEdit::isAllowed(const QString &number) const
 {
-    const auto value = ValueText::toFloat(text);
+    const auto value = ValueText::toFloat(number);
     return value && *value >= m_limits.minimum && *value <= m_limits.maximum;
-}
-
-QValidator::State CFloatEdit::validate(QString &text, int &) const
-{
-    static const QRegularExpression begun(
-        QStringLiteral("^\\s*[-+]?[0-9]*[.]?[0-9]*([eE][-+]?[0-9]*)?\\s*$"));
-    return begun.match(text).hasMatch() ? QValidator::Acceptable : QValidator::Invalid;
 }
 
 } // namespace FeatureTree

@@ -9,8 +9,9 @@
 
 namespace FeatureTree {
 
-/// An editor for a number with a fraction, with a point and without a rounding of its own. A step
-/// changes the second digit.
+/// An editor for a number with a fraction, without a rounding of its own. A comma that can only be
+/// meant as the point is taken as one; separators of groups are not guessed at. A step changes the
+/// second digit.
 class CFloatEdit : public CNumberEdit
 {
     Q_OBJECT
@@ -23,9 +24,9 @@ public:
     void setLimits(const std::optional<CFloatLimits> &limits);
 
 protected:
-    QString stepped(const QString &text, int steps) const override;
-    bool isAllowed(const QString &text) const override;
-    QValidator::State validate(QString &text, int &position) const override;
+    QString notated(const QString &typed) const override;
+    QString stepped(const QString &number, int steps) const override;
+    bool isAllowed(const QString &number) const override;
 
 private:
     CFloatLimits m_limits;

@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <limits>
 
-#include <QRegularExpression>
-
 namespace FeatureTree {
 
 namespace ValueText = ParameterCollectionPool::ValueText;
@@ -41,10 +39,15 @@ void CIntegerEdit::setLimits(const std::optional<CIntegerLimits> &limits)
     markText();
 }
 
-// From a value between two allowed ones, the first step leads to the next allowed one.
-QString CIntegerEdit::stepped(const QString &text, int steps) const
+QString CIntegerEdit::notated(const QString &typed) const
 {
-    const qint64 typed = ValueText::toInteger(text).value_or(m_limits.minimum);
+    return ValueText::toInteger(typed) ? typed.trimmed() : QString();
+}
+
+// From a value between two allowed ones, the first step leads to the next allowed one.
+QString CIntegerEdit::stepped(const QString &number, int steps) const
+{
+    const qint64 typed = ValueText::toInteger(number).value_or(m_limits.minimum);
     const qint64 value = std::clamp(typed, m_limits.minimum, m_limits.maximum);
     const quint64 increment = quint64(m_limits.increment);
     const quint64 last = distance(m_limits.minimum, m_limits.maximum) / increment;
@@ -57,18 +60,11 @@ QString CIntegerEdit::stepped(const QString &text, int steps) const
     return ValueText::fromInteger(qint64(quint64(m_limits.minimum) + there * increment));
 }
 
-bool CIntegerEdit::isAllowed(const QString &text) const
+bool CIntegerEdit::isAllowed(const QString &number) const
 {
-    const auto value = ValueText::toInteger(text);
+    const auto value = ValueText::toInteger(number);
     return value && *value >= m_limits.minimum && *value <= m_limits.maximum
            && distance(m_limits.minimum, *value) % quint64(m_limits.increment) == 0;
-}
-
-QValidator::State CIntegerEdit::validate(QString &text, int &) const
-{
-    static const QRegularExpression begun(
-        QStringLiteral("^\\s*([-+]?[0-9]*|0[xX][0-9a-fA-F]*)\\s*$"));
-    return begun.match(text).hasMatch() ? QValidator::Acceptable : QValidator::Invalid;
 }
 
 } // namespace FeatureTree

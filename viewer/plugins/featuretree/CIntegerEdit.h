@@ -22,9 +22,9 @@ public:
     void setLimits(const std::optional<CIntegerLimits> &limits);
 
 protected:
-    QString stepped(const QString &text, int steps) const override;
-    bool isAllowed(const QString &text) const override;
-    QValidator::State validate(QString &text, int &position) const override;
+    QString notated(const QString &typed) const override;
+    QString stepped(const QString &number, int steps) const override;
+    bool isAllowed(const QString &number) const override;
 
 private:
     CIntegerLimits m_limits;

@@ -36,7 +36,9 @@ void CNumberEdit::setText(const QString &text)
 
 void CNumberEdit::stepBy(int steps)
 {
-    setText(stepped(text(), steps));
+    if (!number().isNull() || text().trimmed().isEmpty()) {
+        setText(stepped(number(), steps));
+    }
 }
 
 QAbstractSpinBox::StepEnabled CNumberEdit::stepEnabled() const
@@ -47,7 +49,7 @@ QAbstractSpinBox::StepEnabled CNumberEdit::stepEnabled() const
 void CNumberEdit::markText()
 {
     QPalette marked = palette();
-    if (!isAllowed(text())) {
+    if (!isAllowed(number())) {
         marked.setColor(QPalette::Text, refusedColour(marked.color(QPalette::Base)));
     }
     lineEdit()->setPalette(marked);
