@@ -99,7 +99,9 @@ void HelpDocumentsTest::testDocumentSaysWhatTheEnglishOneSays()
     const QByteArray english = contentOf(QStringLiteral("docs/") + document);
     const QStringList faults =
         faultsOf(english, documentIn(language, document), CWords(messagesIn(language)));
-    QVERIFY2(english.contains("\n# ") && faults.isEmpty(), qPrintable(faults.join('\n')));
+    const QString remedy = QStringLiteral("docs/%1/%2 does not follow docs/%2:\n%3")
+                               .arg(language, document, faults.join('\n'));
+    QVERIFY2(english.contains("\n# ") && faults.isEmpty(), qPrintable(remedy));
 }
 
 void HelpDocumentsTest::testLinksLeadToFilesThatAreThere_data()
