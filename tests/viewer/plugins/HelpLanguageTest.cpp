@@ -13,6 +13,18 @@
 
 using Plugin::Help::CHelpDocuments;
 
+namespace {
+
+void write(const QString &path)
+{
+    QFile document(path);
+    QVERIFY(QDir().mkpath(QFileInfo(document).path()));
+    QVERIFY(document.open(QIODevice::WriteOnly));
+    QCOMPARE(document.write("text"), qint64(4));
+}
+
+} // namespace
+
 // The documents are shown in the language of the viewer, as far as they are translated.
 class HelpLanguageTest : public QObject
 {
@@ -24,6 +36,8 @@ private Q_SLOTS:
 
     void testDocumentIsInTheLanguageOfTheViewer_data();
     void testDocumentIsInTheLanguageOfTheViewer();
+    void testDocumentOfALanguage_data();
+    void testDocumentOfALanguage();
     void testDocumentFollowsAChangeOfTheLanguage();
     void testPlaceIsKeptWhenTheLanguageChanges();
     void testChangeOfTheLanguageShowsNoWindow();
@@ -72,10 +86,9 @@ void HelpLanguageTest::testDocumentIsInTheLanguageOfTheViewer_data()
     const QByteArray contents = "Help.Action.Contents";
     QTest::newRow("translated") << "ja" << contents << "Mokuji - Help";
     QTest::newRow("for every region") << "zh_CN" << contents << "Mulu - Help";
-    QTest::newRow("for every region, with a hyphen") << "ja-JP" << contents << "Mokuji - Help";
     QTest::newRow("document without a translation")
         << "ja" << QByteArray("Help.Action.PrivacyStatement") << "Privacy - Help";
-    QTest::newRow("language without documents") << "de" << contents << "The Contents - Help";
+    QTest::newRow("language without documents") << "ko" << contents << "The Contents - Help";
     QTest::newRow("English") << "en" << contents << "The Contents - Help";
 }
 
@@ -87,6 +100,38 @@ void HelpLanguageTest::testDocumentIsInTheLanguageOfTheViewer()
     m_help->start();
     m_help->trigger(entry);
     QTEST(title(), "title");
+}
+
+void HelpLanguageTest::testDocumentOfALanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("language") << "zh"
+                              << "zh/help.md";
+    QTest::newRow("region") << "zh_CN"
+                            << "zh/help.md";
+    QTest::newRow("region with a hyphen") << "zh-CN"
+                                          << "zh/help.md";
+    QTest::newRow("region with documents of its own") << "zh_TW"
+                                                      << "zh_TW/help.md";
+    QTest::newRow("without documents") << "de_DE"
+                                       << "help.md";
+    QTest::newRow("English") << "en"
+                             << "help.md";
+    QTest::newRow("none") << ""
+                          << "help.md";
+}
+
+void HelpLanguageTest::testDocumentOfALanguage()
+{
+    QFETCH(QString, language);
+    const QTemporaryDir folder;
+    for (const char *name : {"help.md", "zh/help.md", "zh_TW/help.md"}) {
+        write(folder.filePath(name));
+    }
+    const CHelpDocuments documents(folder.path(), [language] { return language; });
+    const QString path = documents.path(CHelpHelper::HelpContents);
+    QTEST(QDir(folder.path()).relativeFilePath(path), "file");
 }
 
 void HelpLanguageTest::testDocumentFollowsAChangeOfTheLanguage()
@@ -203,10 +248,7 @@ void HelpLanguageTest::testOtherFoldersAreNotRead()
     QFETCH(bool, isRead);
     const QTemporaryDir folder;
     for (const char *name : {"docs/help.md", "docs/ja/help.md", "help.md", "docs2/help.md"}) {
-        QFile document(folder.filePath(name));
-        QVERIFY(QDir().mkpath(QFileInfo(document).path()));
-        QVERIFY(document.open(QIODevice::WriteOnly));
-        QCOMPARE(document.write("text"), qint64(4));
+        write(folder.filePath(name));
     }
     const CHelpDocuments documents(folder.filePath("docs"));
     QCOMPARE(documents.text(folder.filePath(file)), isRead ? QString("text") : QString());

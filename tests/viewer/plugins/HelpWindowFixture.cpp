@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
 #include <QTest>
 
 using Plugin::AppCore::IMenuControlService;
@@ -42,6 +43,7 @@ QByteArray privacy()
 
 HelpWindowFixture::HelpWindowFixture()
 {
+    QSettings().setValue("Localization/Language", "en"); // whatever the system speaks
     write("help.md", contents);
     write("cameras.md", cameras);
     write("privacy.md", privacy());

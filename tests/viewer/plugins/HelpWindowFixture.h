@@ -15,7 +15,8 @@
 #include <QTemporaryDir>
 
 // The help in a run with windows, with the documents "help.md" ("The Contents", with links to the
-// others and to an address), "cameras.md" and the long "privacy.md".
+// others and to an address), "cameras.md" and the long "privacy.md". In English until a language is
+// set; a sandbox for the settings must be there.
 class HelpWindowFixture
 {
 public:
