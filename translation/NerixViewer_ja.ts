@@ -12,8 +12,8 @@
         <translation>カメラを閉じる(&amp;C)</translation>
     </message>
     <message>
-        <source>%1 is grabbing and stays open: to close it all the same, choose Close Camera in the menu Camera or press %2</source>
-        <translation>%1 は取り込み中のため、開いたままにします。それでも閉じるには、［カメラ］メニューの［カメラを閉じる］を選ぶか、%2 を押してください</translation>
+        <source>%1 is grabbing: press %2 to close it (Camera &gt; Close Camera)</source>
+        <translation>%1 は取り込み中です。閉じるには %2 を押してください（［カメラ］&gt;［カメラを閉じる］）</translation>
     </message>
 </context>
 <context>
@@ -149,8 +149,8 @@
         <translation>%1（キャンセル）</translation>
     </message>
     <message>
-        <source>%1; left alone: %2 (the file is not known to be of this camera; set them by hand in the panel Features)</source>
-        <translation>%1；変更しなかった項目：%2（このカメラから保存されたファイルと確認できません。機能パネルで手動で設定してください）</translation>
+        <source>left alone: %1; the file is not from this camera, so set them by hand</source>
+        <translation>変更しなかった機能：%1。このカメラから保存されたファイルではないため、手動で設定してください</translation>
     </message>
 </context>
 <context>

@@ -12,8 +12,8 @@
         <translation>카메라 닫기(&amp;C)</translation>
     </message>
     <message>
-        <source>%1 is grabbing and stays open: to close it all the same, choose Close Camera in the menu Camera or press %2</source>
-        <translation>%1은(는) 획득 중이므로 열린 채로 둡니다. 그래도 닫으려면 카메라 메뉴에서 카메라 닫기를 선택하거나 %2 키를 누르십시오</translation>
+        <source>%1 is grabbing: press %2 to close it (Camera &gt; Close Camera)</source>
+        <translation>%1은(는) 획득 중입니다. 닫으려면 %2 키를 누르십시오(카메라 &gt; 카메라 닫기)</translation>
     </message>
 </context>
 <context>
@@ -149,8 +149,8 @@
         <translation>%1 (취소됨)</translation>
     </message>
     <message>
-        <source>%1; left alone: %2 (the file is not known to be of this camera; set them by hand in the panel Features)</source>
-        <translation>%1; 그대로 둔 항목: %2(이 카메라에서 저장한 파일인지 확인되지 않았습니다. 기능 패널에서 직접 설정하십시오)</translation>
+        <source>left alone: %1; the file is not from this camera, so set them by hand</source>
+        <translation>그대로 둔 기능: %1. 이 카메라에서 저장한 파일이 아니므로 직접 설정하십시오</translation>
     </message>
 </context>
 <context>

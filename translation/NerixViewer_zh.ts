@@ -12,8 +12,8 @@
         <translation>关闭相机(&amp;C)</translation>
     </message>
     <message>
-        <source>%1 is grabbing and stays open: to close it all the same, choose Close Camera in the menu Camera or press %2</source>
-        <translation>%1 正在采集，因此保持打开。如仍要关闭，请在“相机”菜单中选择“关闭相机”，或按 %2</translation>
+        <source>%1 is grabbing: press %2 to close it (Camera &gt; Close Camera)</source>
+        <translation>%1 正在采集：要关闭它，请按 %2（相机 &gt; 关闭相机）</translation>
     </message>
 </context>
 <context>
@@ -149,8 +149,8 @@
         <translation>%1；已取消</translation>
     </message>
     <message>
-        <source>%1; left alone: %2 (the file is not known to be of this camera; set them by hand in the panel Features)</source>
-        <translation>%1；保持不变：%2（无法确认该文件出自此相机；请在“功能”面板中手动设置）</translation>
+        <source>left alone: %1; the file is not from this camera, so set them by hand</source>
+        <translation>保持不变的功能：%1；该文件不是从此相机保存的，请手动设置</translation>
     </message>
 </context>
 <context>

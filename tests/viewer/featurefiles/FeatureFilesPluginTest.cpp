@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void testFeaturesAreSavedUnderTheNameOfTheCamera();
     void testFeaturesAreLoadedAndToldInOneLine();
     void testWhatWasNotSetIsListedAndCanBeCopied();
+    void testWhatWasLeftAloneIsToldInALineOfItsOwnAndInTheDialog();
     void testWrongFileIsTold();
     void testLoadingCanBeCancelledAndTheWindowGoesOnMeanwhile();
     void testFolderIsRemembered();
@@ -243,6 +245,25 @@ void FeatureFilesPluginTest::testWhatWasNotSetIsListedAndCanBeCopied()
     QVERIFY(
         m_rig->messages->texts.first().endsWith(": 1 set, 0 unchanged, 0 read-only, 1 not set"));
     QTest::keyClick(dialog, Qt::Key_Escape);
+    QTRY_VERIFY(!shown<QDialog>());
+}
+
+void FeatureFilesPluginTest::testWhatWasLeftAloneIsToldInALineOfItsOwnAndInTheDialog()
+{
+    const auto name = m_rig->add<CLiveText>("DeviceUserID", InterfaceString, "Line4");
+    create();
+    QVERIFY(openCamera());
+    const QString path =
+        m_folder->write("in.features", {"DeviceID\tB2", "DeviceUserID\tLine3", "Locked\tnew"});
+    QVERIFY(choose("&Load Features...", path));
+    QTRY_VERIFY(shown<QDialog>() && shown<QDialog>()->findChild<QTreeWidget *>());
+    const QString hint =
+        "left alone: DeviceUserID; the file is not from this camera, so set them by hand";
+    QCOMPARE(m_rig->messages->texts.size(), 2);
+    QCOMPARE(m_rig->messages->texts.last(), "A-1, " + hint);
+    QVERIFY(shown<QDialog>()->findChild<QLabel *>()->text().endsWith('\n' + hint));
+    QCOMPARE(name->sets(), QStringList());
+    QTest::keyClick(shown<QDialog>(), Qt::Key_Escape);
     QTRY_VERIFY(!shown<QDialog>());
 }
 

@@ -274,8 +274,7 @@ void CameraPanelTest::testDoubleClickAndEnterLeaveAGrabbingCameraAloneAndSayHowT
     QCOMPARE(hints.count(), 2);
     QCOMPARE(
         hints.at(1).first().toString(),
-        QString("Left of the belt is grabbing and stays open: to close it all the same, choose "
-                "Close Camera in the menu Camera or press Ctrl+W"));
+        QString("Left of the belt is grabbing: press Ctrl+W to close it (Camera > Close Camera)"));
     QCOMPARE(m_commands->closeAction()->shortcut(), QKeySequence("Ctrl+W"));
     m_menus->trigger(Core::CId("CameraSelector.Action.Close"));
     QTRY_COMPARE(m_control->state(camera), ICameraControlService::Free);
@@ -300,7 +299,7 @@ void CameraPanelTest::testHintStandsInTheMessages()
     view->setCurrentIndex(view->model()->index(0, 0));
     QTest::keyClick(view, Qt::Key_Return);
     QCOMPARE(messages->texts.size(), 1);
-    QVERIFY(messages->texts.first().startsWith("Ostrand-XQZ-2000-1 is grabbing and stays open"));
+    QVERIFY(messages->texts.first().startsWith("Ostrand-XQZ-2000-1 is grabbing: press Ctrl+W"));
     QVERIFY(plugin.uninitialize(&registry));
 }
 

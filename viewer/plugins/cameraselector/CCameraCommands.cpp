@@ -83,8 +83,7 @@ void CCameraCommands::openOrClose(const CameraInfoPtr &camera)
     switch (m_control->state(camera)) {
     case ICameraControlService::Grabbing:
         Q_EMIT leftAlone(
-            tr("%1 is grabbing and stays open: to close it all the same, choose Close Camera in "
-               "the menu Camera or press %2")
+            tr("%1 is grabbing: press %2 to close it (Camera > Close Camera)")
                 .arg(camera->displayName(), closeKey().toString(QKeySequence::NativeText)));
         break;
     case ICameraControlService::Open:

@@ -181,6 +181,10 @@ void CFeatureFileEntries::onLoaded(const CLoadReport &report)
     const bool isWhole = report.refused.isEmpty() && !report.isCancelled;
     tell(isWhole ? Severity::Information : Severity::Warning,
          tr("%1, features from %2: %3").arg(m_cameraName, m_fileName, report.summary()));
+    // A line of its own, which a long path does not push out of sight.
+    if (!report.leftAlone.isEmpty()) {
+        tell(Severity::Warning, m_cameraName + QStringLiteral(", ") + report.leftAloneHint());
+    }
     if (!report.refused.isEmpty()) {
         auto *dialog = new CLoadReportDialog(m_cameraName, report, m_services.window);
         dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -7,17 +7,20 @@ namespace FeatureFiles {
 
 QString CLoadReport::summary() const
 {
-    QString counts = tr("%1 set, %2 unchanged, %3 read-only, %4 not set")
-                         .arg(set)
-                         .arg(unchanged)
-                         .arg(readOnly)
-                         .arg(refused.size());
-    if (!leftAlone.isEmpty()) {
-        counts = tr("%1; left alone: %2 (the file is not known to be of this camera; set them by "
-                    "hand in the panel Features)")
-                     .arg(counts, leftAlone.join(QLatin1String(", ")));
-    }
+    const QString counts = tr("%1 set, %2 unchanged, %3 read-only, %4 not set")
+                               .arg(set)
+                               .arg(unchanged)
+                               .arg(readOnly)
+                               .arg(refused.size());
     return isCancelled ? tr("%1; cancelled").arg(counts) : counts;
+}
+
+QString CLoadReport::leftAloneHint() const
+{
+    return leftAlone.isEmpty()
+               ? QString()
+               : tr("left alone: %1; the file is not from this camera, so set them by hand")
+                     .arg(leftAlone.join(QLatin1String(", ")));
 }
 
 } // namespace FeatureFiles

@@ -33,9 +33,11 @@ public:
     QStringList leftAlone;
     bool isCancelled = false; ///< what comes after the last one that is counted was not tried
 
-    /// One line, for example "12 set, 20 unchanged, 5 read-only, 1 not set". It names what was left
-    /// alone, and says what to do about it.
+    /// One line, for example "12 set, 20 unchanged, 5 read-only, 1 not set".
     QString summary() const;
+
+    /// One line that names what was left alone, and says why and what to do; empty for nothing.
+    QString leftAloneHint() const;
 };
 
 } // namespace FeatureFiles

@@ -28,9 +28,10 @@ CLoadReportDialog::CLoadReportDialog(const QString &cameraName, const CLoadRepor
     , m_list(new QTreeWidget)
 {
     setWindowTitle(tr("Load Features"));
-    auto *summary =
-        new QLabel(tr("Some features of %1 do not have the value of the file.").arg(cameraName)
-                   + QLatin1Char('\n') + report.summary());
+    auto *summary = new QLabel(
+        tr("Some features of %1 do not have the value of the file.").arg(cameraName)
+        + QLatin1Char('\n') + report.summary()
+        + (report.leftAlone.isEmpty() ? QString() : QLatin1Char('\n') + report.leftAloneHint()));
     summary->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(summary);
