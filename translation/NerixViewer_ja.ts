@@ -150,7 +150,7 @@
     </message>
     <message>
         <source>left alone: %1; the file is not from this camera, so set them by hand</source>
-        <translation>変更しなかった機能：%1。このカメラから保存されたファイルではないため、手動で設定してください</translation>
+        <translation>変更しなかった項目：%1。このカメラから保存されたファイルではないため、手動で設定してください</translation>
     </message>
 </context>
 <context>

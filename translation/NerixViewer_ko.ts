@@ -150,7 +150,7 @@
     </message>
     <message>
         <source>left alone: %1; the file is not from this camera, so set them by hand</source>
-        <translation>그대로 둔 기능: %1. 이 카메라에서 저장한 파일이 아니므로 직접 설정하십시오</translation>
+        <translation>그대로 둔 항목: %1. 이 카메라에서 저장한 파일이 아니므로 직접 설정하십시오</translation>
     </message>
 </context>
 <context>

@@ -150,7 +150,7 @@
     </message>
     <message>
         <source>left alone: %1; the file is not from this camera, so set them by hand</source>
-        <translation>保持不变的功能：%1；该文件不是从此相机保存的，请手动设置</translation>
+        <translation>保持不变：%1；该文件不是从此相机保存的，请手动设置</translation>
     </message>
 </context>
 <context>
