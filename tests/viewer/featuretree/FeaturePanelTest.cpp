@@ -4,6 +4,7 @@
 #include "CPanelRig.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void testFeatureThatAScriptSelectsIsShown();
     void testCurrentFeatureIsExplained();
     void testCategoryThatWasClosedStaysClosed();
+    void testNamesLeaveRoomForTheValues();
     void testEverythingHasANameForScreenReaders();
 
 private:
@@ -285,6 +287,21 @@ void FeaturePanelTest::testCategoryThatWasClosedStaysClosed()
     QVERIFY(m_rig->features.openCamera());
     QTRY_VERIFY(m_rig->row("Control").isValid());
     QVERIFY(!m_rig->view().isExpanded(m_rig->row("Control")));
+}
+
+void FeaturePanelTest::testNamesLeaveRoomForTheValues()
+{
+    m_width->change([](CLiveState &state) { state.displayName = QString(60, 'W'); });
+    QVERIFY(m_rig->open());
+    auto *header = m_rig->view().header();
+    const auto share = [&] { return double(header->sectionSize(0)) / header->viewport()->width(); };
+    for (const int width : {600, 300, 500}) {
+        m_rig->panel().resize(width, 400);
+        QTRY_VERIFY(share() < 0.61 && share() > 0.55);
+    }
+    header->resizeSection(0, 50);
+    m_rig->panel().resize(400, 400);
+    QCOMPARE(header->sectionSize(0), 50); // which the user wanted
 }
 
 void FeaturePanelTest::testEverythingHasANameForScreenReaders()

@@ -33,10 +33,19 @@ private Q_SLOTS:
     void testLayoutIsRemembered();
     void testLayoutCanBeResetToHowItWasBuilt();
     void testDamagedLayoutIsNotUsed();
+    void testSidePanelsAreNarrowerInANarrowWindow_data();
+    void testSidePanelsAreNarrowerInANarrowWindow();
+    void testSidePanelsGetTheirWidthBack();
+    void testWidthThatTheUserGivesIsKept();
+    void testResetInANarrowWindowSparesTheMiddle();
+    void testRestartInANarrowWindowKeepsTheWidths();
 
 private:
     QDockWidget *addPanel(CMainWindow &window, const char *name,
                           CMainWindow::Side side = CMainWindow::Side::Left);
+
+    QPair<QDockWidget *, QDockWidget *> showWithSidePanels(CMainWindow &window);
+    static void drag(CMainWindow &window, QDockWidget *panel, int width);
 
     QScopedPointer<CSettingsSandbox> m_sandbox;
     QScopedPointer<CMainWindow> m_window;
@@ -59,6 +68,24 @@ QDockWidget *MainWindowTest::addPanel(CMainWindow &window, const char *name, CMa
     auto *panel = new QWidget;
     panel->setWindowTitle(name);
     return window.addPanel(name, panel, side);
+}
+
+QPair<QDockWidget *, QDockWidget *> MainWindowTest::showWithSidePanels(CMainWindow &window)
+{
+    const QPair<QDockWidget *, QDockWidget *> panels(
+        addPanel(window, "Left"), addPanel(window, "Right", CMainWindow::Side::Right));
+    window.setCentralWidget(new QWidget);
+    window.restoreLayout();
+    window.show();
+    QCoreApplication::sendPostedEvents();
+    return panels;
+}
+
+// As if by its edge.
+void MainWindowTest::drag(CMainWindow &window, QDockWidget *panel, int width)
+{
+    window.resizeDocks({panel}, {width}, Qt::Horizontal);
+    QCoreApplication::sendPostedEvents();
 }
 
 void MainWindowTest::testMenusStandInTheMenuBarInTheirOrder()
@@ -158,6 +185,80 @@ void MainWindowTest::testDamagedLayoutIsNotUsed()
     m_window->restoreLayout();
     QCOMPARE(m_window->dockWidgetArea(dock), Qt::LeftDockWidgetArea);
     QCOMPARE(m_window->size(), QSize(1280, 800));
+}
+
+void MainWindowTest::testSidePanelsAreNarrowerInANarrowWindow_data()
+{
+    QTest::addColumn<int>("window");
+    QTest::addColumn<int>("left");
+    QTest::addColumn<int>("right");
+
+    QTest::newRow("a full window") << 1280 << 280 << 420;
+    QTest::newRow("four fifths of it") << 1024 << 224 << 336;
+    QTest::newRow("half of it, at once") << 640 << 140 << 210;
+    QTest::newRow("a wider one gives all to the middle") << 1920 << 280 << 420;
+}
+
+void MainWindowTest::testSidePanelsAreNarrowerInANarrowWindow()
+{
+    QFETCH(int, window);
+    const auto panels = showWithSidePanels(*m_window);
+    m_window->resize(window, 700);
+    QCoreApplication::sendPostedEvents();
+    QTEST(panels.first->width(), "left");
+    QTEST(panels.second->width(), "right");
+}
+
+void MainWindowTest::testSidePanelsGetTheirWidthBack()
+{
+    const auto panels = showWithSidePanels(*m_window);
+    for (int width = 1280; width > 500; width -= 7) {
+        m_window->resize(width, 700);
+    }
+    m_window->resize(1280, 700);
+    QCOMPARE(panels.first->width(), 280);
+    QCOMPARE(panels.second->width(), 420);
+}
+
+void MainWindowTest::testWidthThatTheUserGivesIsKept()
+{
+    const auto panels = showWithSidePanels(*m_window);
+    m_window->resize(1024, 700);
+    drag(*m_window, panels.first, 160);
+    QCOMPARE(panels.first->width(), 160);
+    m_window->resize(1024, 600);
+    QCOMPARE(panels.first->width(), 160);
+    m_window->resize(1280, 700);
+    QCOMPARE(panels.first->width(), 200);
+    QCOMPARE(panels.second->width(), 420);
+}
+
+void MainWindowTest::testResetInANarrowWindowSparesTheMiddle()
+{
+    const auto panels = showWithSidePanels(*m_window);
+    m_window->resize(1024, 700);
+    drag(*m_window, panels.first, 160);
+    m_window->resetLayout();
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(panels.first->width(), 224);
+    QCOMPARE(panels.second->width(), 336);
+}
+
+void MainWindowTest::testRestartInANarrowWindowKeepsTheWidths()
+{
+    const auto panels = showWithSidePanels(*m_window);
+    m_window->resize(1024, 700);
+    drag(*m_window, panels.first, 160);
+    m_window->saveLayout();
+
+    CMainWindow next;
+    const auto nextPanels = showWithSidePanels(next);
+    QCOMPARE(next.width(), 1024);
+    QCOMPARE(nextPanels.first->width(), 160);
+    QCOMPARE(nextPanels.second->width(), 336);
+    next.resize(1280, 700);
+    QCOMPARE(nextPanels.first->width(), 200);
+    QCOMPARE(nextPanels.second->width(), 420);
 }
 
 QTEST_MAIN(MainWindowTest)

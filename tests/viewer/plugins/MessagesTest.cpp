@@ -39,6 +39,7 @@ private Q_SLOTS:
     void testSelectedMessagesAreCopiedInTheirOrder();
     void testPanelStaysAtTheNewest();
     void testPanelStaysWhereTheUserReads();
+    void testLongMessageIsSeenWhole();
 };
 
 namespace {
@@ -205,6 +206,35 @@ void MessagesTest::testPanelStaysWhereTheUserReads()
     fill(model, 1);
     QCoreApplication::processEvents();
     QCOMPARE(bar->value(), 0);
+}
+
+void MessagesTest::testLongMessageIsSeenWhole()
+{
+    CMessageModel model;
+    model.add(information, "short");
+    const QString words = QString("word ").repeated(20).trimmed();
+    model.add(warning, words);
+    CMessagePanel panel(model);
+    panel.resize(700, 400);
+    panel.show();
+    const auto *view = panel.findChild<QTreeView *>();
+    const auto place = [&](int row) {
+        return view->visualRect(model.index(row, CMessageModel::TextColumn));
+    };
+    // How high the words are in the column.
+    const auto needed = [&] {
+        const QFontMetrics font = view->fontMetrics();
+        const QRect lines =
+            font.boundingRect(0, 0, place(1).width(), 10000, Qt::TextWordWrap, words);
+        return lines.height() / font.lineSpacing() * font.height();
+    };
+    QTRY_VERIFY(place(1).height() > place(0).height());
+    QVERIFY(place(1).height() >= needed());
+    const int before = place(1).height();
+    panel.resize(500, 400);
+    QTRY_VERIFY(place(1).height() > before);
+    panel.resize(4000, 400);
+    QTRY_COMPARE(place(1).height(), place(0).height());
 }
 
 QTEST_MAIN(MessagesTest)

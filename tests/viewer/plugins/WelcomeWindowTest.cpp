@@ -7,6 +7,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -208,13 +209,13 @@ void WelcomeWindowTest::testWindowStandsOverItsParent()
     CPageTab page(WelcomeWindowFixture::emptyPage);
     m_screen->controller.addTab(&page);
     m_screen->makeWindow(&main);
+    const auto beforeItsParent = qScopeGuard([this] { m_screen->window.reset(); });
     m_screen->controller.show();
     const QRect place = m_screen->window->frameGeometry();
     QVERIFY(m_screen->window->screen()->availableGeometry().contains(place));
     const QPoint off = place.center() - main.frameGeometry().center();
     const auto sign = [](int value) { return value < -1 ? -1 : value > 1 ? 1 : 0; };
     QTEST(QPoint(sign(off.x()), sign(off.y())), "offMiddle");
-    m_screen->window.reset(); // before its parent
 }
 
 void WelcomeWindowTest::testPageScrollsToWhereTheKeyboardIs()

@@ -114,6 +114,16 @@ void CFeatureView::fitNames()
 {
     const int most = viewport()->width() * 3 / 5;
     header()->resizeSection(0, qMin(sizeHintForColumn(0), most));
+    m_areNamesFitted = true;
+}
+
+bool CFeatureView::viewportEvent(QEvent *event)
+{
+    const bool isHandled = QTreeView::viewportEvent(event);
+    if (event->type() == QEvent::Resize && m_areNamesFitted) {
+        fitNames();
+    }
+    return isHandled;
 }
 
 void CFeatureView::setEverythingOpen(bool open)
@@ -127,6 +137,11 @@ void CFeatureView::setModel(QAbstractItemModel *model)
     QTreeView::setModel(model);
     header()->setSectionResizeMode(QHeaderView::Interactive);
     header()->setStretchLastSection(true);
+    connect(header(), &QHeaderView::sectionResized, this, [this](int section) {
+        if (section == 0) {
+            m_areNamesFitted = false;
+        }
+    });
     applyOpen();
 }
 

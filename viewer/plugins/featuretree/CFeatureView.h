@@ -32,7 +32,8 @@ public:
     /// Makes the row current, quietly, and brings it into sight; an invalid index does nothing.
     void showRow(const QModelIndex &index);
 
-    /// Makes the names as wide as they need, as long as that leaves room for the values.
+    /// Makes the names as wide as they need, as long as that leaves room for the values, and keeps
+    /// them so while the view gets another width, until the user gives them one.
     void fitNames();
 
     /// Opens all categories; the user's own choice of open ones comes back with `false`.
@@ -58,6 +59,7 @@ Q_SIGNALS:
     void editingEnded();
 
 protected:
+    bool viewportEvent(QEvent *event) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -87,6 +89,7 @@ private:
     bool m_isHeld = false; // a button of the mouse is down on a row
     bool m_isEverythingOpen = false;
     bool m_isQuiet = false;
+    bool m_areNamesFitted = false; // and the user gave them no width since
 };
 
 } // namespace FeatureTree

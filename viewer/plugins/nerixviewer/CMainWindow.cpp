@@ -3,6 +3,7 @@
 
 #include "plugins/nerixviewer/CMainWindow.h"
 
+#include "plugins/nerixviewer/CSidePanels.h"
 #include "windows/OnLanguageChange.h"
 
 #include <QCloseEvent>
@@ -57,6 +58,7 @@ Qt::DockWidgetArea areaOf(CMainWindow::Side side)
 CMainWindow::CMainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_toolBar(new QToolBar(this))
+    , m_sidePanels(std::make_unique<CSidePanels>(*this, firstSize.width()))
 {
     resize(firstSize);
     setObjectName(QStringLiteral("MainWindow"));
@@ -90,6 +92,7 @@ QDockWidget *CMainWindow::addPanel(const QString &name, QWidget *panel, Side sid
     connect(panel, &QWidget::windowTitleChanged, dock, &QWidget::setWindowTitle);
     connect(panel, &QObject::destroyed, dock, &QObject::deleteLater);
     addDockWidget(areaOf(side), dock);
+    m_sidePanels->add(dock);
     return dock;
 }
 
@@ -106,7 +109,9 @@ void CMainWindow::restoreLayout()
     if (!restoreGeometry(settings.value(geometryKey).toByteArray())) {
         moveToTheMiddle();
     }
-    restoreState(settings.value(stateKey).toByteArray(), layoutVersion);
+    if (restoreState(settings.value(stateKey).toByteArray(), layoutVersion)) {
+        m_sidePanels->adopt();
+    }
 }
 
 void CMainWindow::setFirstSizes()
@@ -114,8 +119,11 @@ void CMainWindow::setFirstSizes()
     const auto docks = findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (QDockWidget *dock : docks) {
         const Qt::DockWidgetArea area = dockWidgetArea(dock);
-        const auto direction = area == Qt::BottomDockWidgetArea ? Qt::Vertical : Qt::Horizontal;
-        resizeDocks({dock}, {firstExtent(area)}, direction);
+        if (area == Qt::BottomDockWidgetArea) {
+            resizeDocks({dock}, {firstExtent(area)}, Qt::Vertical);
+        } else {
+            m_sidePanels->setFullWidth(dock, firstExtent(area));
+        }
     }
 }
 
@@ -138,6 +146,13 @@ void CMainWindow::saveLayout() const
 void CMainWindow::resetLayout()
 {
     restoreState(m_builtState, layoutVersion);
+    setFirstSizes();
+}
+
+void CMainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    m_sidePanels->follow();
 }
 
 void CMainWindow::closeEvent(QCloseEvent *event)

@@ -4,6 +4,8 @@
 
 #include "plugins/nerixviewer/IMainWindowService.h"
 
+#include <memory>
+
 #include <QList>
 #include <QMainWindow>
 #include <QString>
@@ -14,6 +16,8 @@ class QToolBar;
 
 namespace Plugin {
 namespace NerixViewer {
+
+class CSidePanels;
 
 /// The frame around everything: menu bar, tool bar, panels, what is in the middle, status bar. It
 /// knows nothing of cameras. GUI thread.
@@ -48,12 +52,14 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void setFirstSizes();
     void moveToTheMiddle();
 
     QToolBar *m_toolBar;
+    std::unique_ptr<CSidePanels> m_sidePanels;
     QByteArray m_builtState;
 };
 

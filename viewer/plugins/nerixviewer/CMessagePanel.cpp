@@ -4,6 +4,7 @@
 #include "plugins/nerixviewer/CMessagePanel.h"
 
 #include "plugins/nerixviewer/CMessageModel.h"
+#include "plugins/nerixviewer/CWrappedTextDelegate.h"
 #include "windows/OnLanguageChange.h"
 
 #include <algorithm>
@@ -29,10 +30,10 @@ CMessagePanel::CMessagePanel(CMessageModel &model, QWidget *parent)
     layout->addWidget(m_view);
     m_view->setModel(&m_model);
     m_view->setRootIsDecorated(false);
-    m_view->setUniformRowHeights(true);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_view->header()->setSectionResizeMode(CMessageModel::TextColumn, QHeaderView::Stretch);
+    new CWrappedTextDelegate(*m_view);
     addActions();
     followNewest();
     Windows::onLanguageChange(this, [this] {

@@ -11,7 +11,8 @@ namespace NerixViewer {
 
 class CMessageModel;
 
-/// The panel with the last messages, which can be copied and cleared. It stays at the newest one
+/// The panel with the last messages, each in as many lines as it needs, which can be copied and
+/// cleared. It stays at the newest one
 /// until the user scrolls up. GUI thread.
 class CMessagePanel : public QWidget
 {
