@@ -34,6 +34,7 @@ private Q_SLOTS:
     void testEachOpenCameraHasAPaneWithItsName();
     void testPaneFollowsTheNewNameOfItsCamera();
     void testPaneHasTheNewNameOfACameraThatWasOpenedByItsOldOne();
+    void testPanesOfTheSameNameHaveTheSerialNumbersBesideIt();
     void testPanesStandInAGrid_data();
     void testPanesStandInAGrid();
     void testPanesAreOfOneWidth();
@@ -139,6 +140,20 @@ void ImageAreaTest::testPaneHasTheNewNameOfACameraThatWasOpenedByItsOldOne()
     m_control->rename(camera, "Left of the belt");
     Q_EMIT m_status->deviceOpened(camera);
     QCOMPARE(label(m_area->panes().constLast(), "name")->text(), QString("Left of the belt"));
+}
+
+void ImageAreaTest::testPanesOfTheSameNameHaveTheSerialNumbersBesideIt()
+{
+    CImagePane *first = open("Ostrand-XQZ-2000-A1", "Line3");
+    QCOMPARE(label(first, "name")->text(), QString("Line3"));
+    const auto other = m_control->plugIn("Ostrand-XQZ-2000-B2", "XQZ-2000", "Line3");
+    Q_EMIT m_status->deviceConnected(other);
+    QCOMPARE(label(first, "name")->text(), QString("Line3 (A1)"));
+    Q_EMIT m_status->deviceOpened(other);
+    QCOMPARE(label(m_area->panes().at(1), "name")->text(), QString("Line3 (B2)"));
+    m_control->rename(other, "Line4");
+    QCOMPARE(label(first, "name")->text(), QString("Line3"));
+    QCOMPARE(label(m_area->panes().at(1), "name")->text(), QString("Line4"));
 }
 
 void ImageAreaTest::testPanesStandInAGrid_data()

@@ -3,6 +3,7 @@
 
 #include "plugins/cameraselector/CCameraListModel.h"
 
+#include "plugins/camerapool/DistinctName.h"
 #include "plugins/cameraselector/CameraStateLook.h"
 
 #include <algorithm>
@@ -12,18 +13,6 @@
 #include <QPalette>
 
 namespace CameraSelector {
-
-namespace {
-
-// The identity is the maker, the model and the serial number.
-QString serialNumberOf(const Core::CameraPoolComponents::ICameraInfo &camera)
-{
-    const QString before = QStringLiteral("%1-%2-").arg(camera.vendorName(), camera.modelName());
-    const QString identity = camera.identity();
-    return identity.startsWith(before) ? identity.mid(before.size()) : identity;
-}
-
-} // namespace
 
 CCameraListModel::CCameraListModel(QSharedPointer<CameraPool::ICameraControlService> control,
                                    QObject *parent)
@@ -59,22 +48,17 @@ void CCameraListModel::addNew()
 
 void CCameraListModel::updateNames()
 {
+    QList<CameraInfoPtr> all;
+    for (const CRow &row : qAsConst(m_rows)) {
+        all.append(row.camera);
+    }
     for (int row = 0; row < m_rows.size(); ++row) {
-        const QString name = nameOf(m_rows.at(row).camera);
+        const QString name = CameraPool::distinctName(m_rows.at(row).camera, all);
         if (name != m_rows.at(row).name) {
             m_rows[row].name = name;
             Q_EMIT dataChanged(index(row, CameraColumn), index(row, CameraColumn));
         }
     }
-}
-
-QString CCameraListModel::nameOf(const CameraInfoPtr &camera) const
-{
-    const QString name = camera->displayName();
-    const auto bearers = std::count_if(m_rows.begin(), m_rows.end(), [&](const CRow &row) {
-        return row.camera->displayName() == name;
-    });
-    return bearers > 1 ? QStringLiteral("%1 (%2)").arg(name, serialNumberOf(*camera)) : name;
 }
 
 void CCameraListModel::updateStates()

@@ -57,7 +57,6 @@ private:
     void addNew();
     void updateNames();
     void updateStates();
-    QString nameOf(const CameraInfoPtr &camera) const;
     int rowOf(const QString &identity) const;
 
     QSharedPointer<CameraPool::ICameraControlService> m_control;

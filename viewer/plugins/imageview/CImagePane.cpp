@@ -43,7 +43,7 @@ CImagePane::CImagePane(CLiveCamera &camera, QWidget *parent)
     , m_format(newLabel(this, "format", Qt::ElideLeft))
 {
     build();
-    connect(&m_camera, &CLiveCamera::infoChanged, this, &CImagePane::retranslate);
+    connect(&m_camera, &CLiveCamera::nameChanged, this, &CImagePane::retranslate);
     connect(&m_camera, &CLiveCamera::imageChanged, this, &CImagePane::showImage);
     connect(&m_camera, &CLiveCamera::stateChanged, this, &CImagePane::showState);
     connect(m_view, &CImageView::pointerChanged, this, &CImagePane::showPointer);
@@ -127,7 +127,7 @@ void CImagePane::mousePressEvent(QMouseEvent *)
 
 void CImagePane::retranslate()
 {
-    const QString name = m_camera.info()->displayName();
+    const QString name = m_camera.name();
     m_name->setText(name);
     m_name->setToolTip(m_camera.info()->identity());
     setAccessibleName(name);

@@ -35,6 +35,7 @@ ShownImage converted(const Nerix::CGrabResultPtr &result, const QDateTime &time)
 CLiveCamera::CLiveCamera(CameraInfoPtr info, std::shared_ptr<CMailbox> mailbox,
                          QThreadPool &workers)
     : m_info(std::move(info))
+    , m_name(m_info->displayName())
     , m_mailbox(std::move(mailbox))
     , m_workers(workers)
 {
@@ -54,7 +55,19 @@ const CLiveCamera::CameraInfoPtr &CLiveCamera::info() const
 void CLiveCamera::setInfo(const CameraInfoPtr &info)
 {
     m_info = info;
-    Q_EMIT infoChanged();
+}
+
+QString CLiveCamera::name() const
+{
+    return m_name;
+}
+
+void CLiveCamera::setName(const QString &name)
+{
+    if (name != m_name) {
+        m_name = name;
+        Q_EMIT nameChanged();
+    }
 }
 
 const ShownImage &CLiveCamera::image() const

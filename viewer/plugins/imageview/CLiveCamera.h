@@ -35,6 +35,10 @@ public:
     /// Takes another description of the same camera.
     void setInfo(const CameraInfoPtr &info);
 
+    /// What the user reads: the display name, told apart from those of the other cameras.
+    QString name() const;
+    void setName(const QString &name);
+
     const ShownImage &image() const;
     bool isGrabbing() const;
 
@@ -52,7 +56,7 @@ public:
 Q_SIGNALS:
     void imageChanged();
 
-    void infoChanged();
+    void nameChanged();
 
     /// `isGrabbing`, `failureCount` or `lastFailure` is another one.
     void stateChanged();
@@ -67,6 +71,7 @@ private:
     void show(const ShownImage &image);
 
     CameraInfoPtr m_info;
+    QString m_name;
     const std::shared_ptr<CMailbox> m_mailbox;
     QThreadPool &m_workers;
     QTimer m_pace;

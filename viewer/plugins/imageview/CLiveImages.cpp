@@ -3,6 +3,7 @@
 
 #include "plugins/imageview/CLiveImages.h"
 
+#include "plugins/camerapool/DistinctName.h"
 #include "plugins/camerapool/SameCamera.h"
 #include "plugins/imageview/CLiveCamera.h"
 #include "plugins/imageview/CMailbox.h"
@@ -51,6 +52,8 @@ void CLiveImages::listen(const Services &services)
     connect(status, &ICameraStatusService::deviceDisconnected, this, &CLiveImages::remove);
     connect(services.control.data(), &ICameraControlService::renamed, this,
             &CLiveImages::onRenamed);
+    connect(status, &ICameraStatusService::deviceConnected, this, &CLiveImages::updateNames);
+    connect(status, &ICameraStatusService::deviceDisconnected, this, &CLiveImages::updateNames);
     connect(status, &ICameraStatusService::cameraGrabStarted, this,
             [this](const CameraInfoPtr &info) {
                 if (CLiveCamera *camera = find(info)) {
@@ -109,6 +112,7 @@ void CLiveImages::add(const DeviceBaseInfoPtr &device)
             [this, camera](const QString &text, int count) {
                 Q_EMIT imagesFailed(camera, text, count);
             });
+    updateNames();
     Q_EMIT cameraAdded(camera);
 }
 
@@ -129,6 +133,14 @@ void CLiveImages::onRenamed(const CameraInfoPtr &info)
 {
     if (CLiveCamera *camera = find(info)) {
         camera->setInfo(info);
+    }
+    updateNames();
+}
+
+void CLiveImages::updateNames()
+{
+    for (const auto &camera : m_cameras) {
+        camera->setName(CameraPool::distinctName(camera->info(), m_control->cameras()));
     }
 }
 

@@ -59,6 +59,7 @@ private:
     void add(const Core::CameraPoolComponents::DeviceBaseInfoPtr &device);
     void remove(const Core::CameraPoolComponents::DeviceBaseInfoPtr &device);
     void onNews(const QString &identity);
+    void updateNames();
     void onRenamed(const Core::CameraPoolComponents::CameraInfoPtr &info);
     CLiveCamera *find(const QString &identity) const;
 

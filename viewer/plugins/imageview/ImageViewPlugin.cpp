@@ -111,7 +111,7 @@ void CImageViewPlugin::onSavingFailed(const QString &message) const
 void CImageViewPlugin::onImagesFailed(const CLiveCamera &camera, const QString &text,
                                       int count) const
 {
-    const QString line = QStringLiteral("%1: %2").arg(camera.info()->displayName(), text);
+    const QString line = QStringLiteral("%1: %2").arg(camera.name(), text);
     for (int i = 0; i < count; ++i) {
         report(IMessageService::Severity::Warning, line);
     }
