@@ -30,6 +30,8 @@ private Q_SLOTS:
     void testNewLanguageTakesEffectAtOnceAndIsKept();
     void testEmptyLanguageFollowsTheSystemAgain();
     void testChoiceIsEmptyWhileTheSystemIsFollowed();
+    void testLanguageMayNameACountry_data();
+    void testLanguageMayNameACountry();
     void testUnknownLanguageIsRefused_data();
     void testUnknownLanguageIsRefused();
     void testUnknownLanguageOfTheSettingsIsNotFollowed();
@@ -114,6 +116,22 @@ void LocalizationPluginTest::testChoiceIsEmptyWhileTheSystemIsFollowed()
     QCOMPARE(m_service->choice(), QString());
     m_service->setLanguage(QStringLiteral("en"));
     QCOMPARE(m_service->choice(), QStringLiteral("en"));
+}
+
+void LocalizationPluginTest::testLanguageMayNameACountry_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("as a locale") << "zh_CN";
+    QTest::newRow("with a hyphen") << "zh-CN";
+    QTest::newRow("with its script") << "zh_Hans_CN";
+}
+
+void LocalizationPluginTest::testLanguageMayNameACountry()
+{
+    QFETCH(QString, language);
+    start();
+    QVERIFY(m_service->setLanguage(language));
+    QCOMPARE(m_languages, QStringList({"en", language}));
 }
 
 void LocalizationPluginTest::testUnknownLanguageIsRefused_data()

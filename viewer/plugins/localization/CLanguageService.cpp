@@ -80,7 +80,8 @@ void CLanguageService::apply()
 
 bool CLanguageService::canBeChosen(const QString &language) const
 {
-    return languages().contains(language.section(QLatin1Char('_'), 0, 0));
+    const QString name = QString(language).replace(QLatin1Char('-'), QLatin1Char('_'));
+    return languages().contains(name.section(QLatin1Char('_'), 0, 0));
 }
 
 void CLanguageService::warnOfUnknownChoice() const

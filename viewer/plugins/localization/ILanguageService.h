@@ -24,7 +24,8 @@ public:
     /// where the settings hold a language that cannot be chosen.
     virtual QString choice() const = 0;
 
-    /// The languages that can be chosen. Each may be chosen for a country too, as "zh_CN".
+    /// The languages that can be chosen. Each may be chosen for a country too, "zh_CN" or
+    /// "zh-CN".
     virtual QStringList languages() const = 0;
 
     /// Switches the viewer and every plug-in to \a language at once and remembers it. An empty
