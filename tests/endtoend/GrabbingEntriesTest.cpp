@@ -40,6 +40,7 @@ void GrabbingEntriesTest::testEntriesGrabWithTheSelectedCamera()
         QLatin1String(prepare)
         + "cameras.select(camera);\n"
           "choose('Grabbing.Action.GrabContinuous');\n"
+          "waitUntil(function () { return grab.figures(camera).isGrabbing; }, 60000, 'begun');\n"
           "grab.waitFor(camera, 5, 60000);\n"
           "print(entry('Grabbing.Action.GrabSingle').enabled);\n"
           "choose('Grabbing.Action.Stop');\n"

@@ -108,8 +108,17 @@ void HelpEntryTest::testOtherLinksAreWebAddresses()
 void HelpEntryTest::testAddressThatIsNoWebAddressIsRefused()
 {
     CViewerProcess viewer;
-    QCOMPARE(viewer.run("consent.openLink('file:///etc/passwd'); print(help.lastShown());"), 0);
-    QCOMPARE(viewer.printed(), QStringList({""}));
+    QCOMPARE(viewer.run("try {\n"
+                        "    consent.openLink('file:///etc/passwd');\n"
+                        "} catch (error) {\n"
+                        "    print(error.message);\n"
+                        "}\n"
+                        "print(help.lastShown());"),
+             0);
+    QCOMPARE(viewer.printed(),
+             QStringList({"link \"file:///etc/passwd\" was not opened, the log says why: give "
+                          "DataPrivacy.txt, or an http, https or mailto address",
+                          ""}));
     QCOMPARE(viewer.logged(), QStringList({"warning: not opened: file:///etc/passwd (only http, "
                                            "https and mailto addresses are)"}));
 }

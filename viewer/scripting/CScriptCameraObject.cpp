@@ -13,19 +13,29 @@ using CameraPool::ICameraControlService;
 
 namespace {
 
-CameraInfoPtr named(const QList<CameraInfoPtr> &cameras, const QString &name)
+// Several only if they have one display name.
+QList<CameraInfoPtr> named(const QList<CameraInfoPtr> &cameras, const QString &name)
 {
+    QList<CameraInfoPtr> found;
     for (const CameraInfoPtr &camera : cameras) {
         if (camera->identity() == name) {
-            return camera;
+            return {camera};
         }
-    }
-    for (const CameraInfoPtr &camera : cameras) {
         if (camera->displayName() == name) {
-            return camera;
+            found.append(camera);
         }
     }
-    return {};
+    return found;
+}
+
+QString ambiguity(const QString &name, const QList<CameraInfoPtr> &cameras)
+{
+    QStringList identities;
+    for (const CameraInfoPtr &camera : cameras) {
+        identities.append(camera->identity());
+    }
+    return QStringLiteral("%1 cameras have the name \"%2\": give the identity of one (%3)")
+        .arg(QString::number(cameras.size()), name, identities.join(QStringLiteral(", ")));
 }
 
 } // namespace
@@ -41,18 +51,25 @@ QSharedPointer<ICameraControlService> CScriptCameraObject::control() const
     return service<ICameraControlService>("CameraPool");
 }
 
-CameraInfoPtr CScriptCameraObject::find(const QJSValue &camera) const
+CameraInfoPtr CScriptCameraObject::find(const QJSValue &camera,
+                                        const QList<CameraInfoPtr> &others) const
 {
     const auto pool = control();
     if (!pool) {
         return {};
     }
     const QString name = cameraName(camera);
-    const CameraInfoPtr found = named(pool->cameras(), name);
-    if (!found) {
-        fail(QStringLiteral("there is no camera \"%1\" (%2)").arg(name, namesOf(pool->cameras())));
+    QList<CameraInfoPtr> found = named(pool->cameras(), name);
+    if (found.isEmpty()) {
+        found = named(others, name);
     }
-    return found;
+    if (found.size() == 1) {
+        return found.first();
+    }
+    fail(found.isEmpty()
+             ? QStringLiteral("there is no camera \"%1\" (%2)").arg(name, namesOf(pool->cameras()))
+             : ambiguity(name, found));
+    return {};
 }
 
 // A wait that was stopped needs no exception: the script is being ended.

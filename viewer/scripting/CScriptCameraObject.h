@@ -28,8 +28,9 @@ protected:
     /// Null, and an exception in the script, if the camera pool is not there.
     QSharedPointer<CameraPool::ICameraControlService> control() const;
 
-    /// Null, and an exception in the script, if there is no such camera.
-    CameraInfoPtr find(const QJSValue &camera) const;
+    /// The connected camera that is meant, else the one among \a others. Null, and an exception in
+    /// the script, if there is none, or several of one display name.
+    CameraInfoPtr find(const QJSValue &camera, const QList<CameraInfoPtr> &others = {}) const;
 
     /// Waits for \a condition. @return whether it is met; if it is not in time, an exception in the
     /// script says \a what.

@@ -131,11 +131,12 @@ QVariant CScriptCameras::selected()
 {
     using Core::CameraPoolComponents::ICameraInfo;
     const auto selection = service<CameraSelector::IDeviceSelectionService>("CameraSelector");
-    if (!selection) {
+    const auto pool = selection ? control() : nullptr;
+    if (!pool) {
         return {};
     }
     const auto camera = qSharedPointerDynamicCast<ICameraInfo>(selection->selected());
-    return camera ? describeCamera(camera) : QVariant::fromValue(nullptr);
+    return camera ? describeCamera(camera, *pool) : QVariant::fromValue(nullptr);
 }
 
 QVariantList CScriptCameras::takeEvents()

@@ -3,6 +3,7 @@
 
 #include "scripting/CScriptConsent.h"
 
+#include "plugins/help/IHelpViewService.h"
 #include "plugins/nerixwelcome/CNerixWelcomeController.h"
 
 #include <Plugin/NerixWelcome/INerixWelcomeTab.h>
@@ -64,8 +65,21 @@ QVariantMap CScriptConsent::state()
 
 void CScriptConsent::openLink(const QString &address)
 {
-    if (QObject *page = controller()) {
-        QMetaObject::invokeMethod(page, "onDataPrivacyLinkClicked", Q_ARG(QString, address));
+    using Plugin::Help::IHelpViewService;
+    QObject *page = controller();
+    const auto help = page ? service<IHelpViewService>("Help") : nullptr;
+    if (!help) {
+        return;
+    }
+    bool isShown = false;
+    const QObject context;
+    connect(help.data(), &IHelpViewService::shown, &context, [&isShown] { isShown = true; });
+    QMetaObject::invokeMethod(page, "onDataPrivacyLinkClicked", Q_ARG(QString, address));
+    if (!isShown) {
+        fail(
+            QStringLiteral("link \"%1\" was not opened, the log says why: give DataPrivacy.txt, or "
+                           "an http, https or mailto address")
+                .arg(address));
     }
 }
 

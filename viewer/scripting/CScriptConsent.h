@@ -39,7 +39,7 @@ public:
     /// "no"; "applyEnabled": there is something to apply.
     Q_INVOKABLE QVariantMap state();
 
-    /// Follows a link on the page.
+    /// Follows a link on the page; an exception in the script if nothing is shown then.
     Q_INVOKABLE void openLink(const QString &address);
 
 private:

@@ -10,6 +10,16 @@ namespace Scripting {
 using CameraPool::ICameraControlService;
 using CameraPool::ICameraStatusService;
 
+namespace {
+
+QString doesNotGrab(const CameraInfoPtr &camera)
+{
+    return QStringLiteral("camera \"%1\" does not grab: call grab.start first")
+        .arg(camera->identity());
+}
+
+} // namespace
+
 CScriptGrab::CScriptGrab(const Core::Plugin::IPluginInitializer &services, CScriptWait &wait,
                          QObject *parent)
     : CScriptCameraObject(services, wait, parent)
@@ -42,9 +52,8 @@ void CScriptGrab::stop(const QJSValue &camera, int ms)
     if (!found) {
         return;
     }
-    const Grab &grab = m_grabs[found->identity()];
-    if (grab.starts == grab.stops) {
-        fail(QStringLiteral("camera \"%1\" does not grab").arg(found->identity()));
+    if (!grabOf(found).isGrabbing()) {
+        fail(doesNotGrab(found));
         return;
     }
     request(&ICameraControlService::stopGrab, &Grab::stops, camera, ms,
@@ -57,50 +66,57 @@ void CScriptGrab::waitFor(const QJSValue &camera, int images, int ms)
     if (!found) {
         return;
     }
-    const Grab &grab = m_grabs[found->identity()];
-    waitUntil([&] { return grab.images + grab.failures >= images; }, ms,
-              QStringLiteral("camera \"%1\" has not grabbed %2 images")
-                  .arg(found->identity(), QString::number(images)));
+    const Grab &grab = grabOf(found);
+    const auto haveArrived = [&] { return grab.images + grab.failures >= images; };
+    const bool isInTime = waitUntil([&] { return haveArrived() || !grab.isGrabbing(); }, ms,
+                                    QStringLiteral("camera \"%1\" has not grabbed %2 images")
+                                        .arg(found->identity(), QString::number(images)));
+    if (isInTime && !haveArrived()) {
+        fail(doesNotGrab(found));
+    }
 }
 
 QVariantMap CScriptGrab::figures(const QJSValue &camera)
 {
-    const CameraInfoPtr found = find(camera);
+    const CameraInfoPtr found = find(camera, camerasThatGrabbed());
     if (!found) {
         return {};
     }
-    const Grab grab = m_grabs.value(found->identity());
-    QVariantMap all = grab.statusBar;
-    all.insert(QStringLiteral("isGrabbing"), grab.starts != grab.stops);
-    all.insert(QStringLiteral("images"), grab.images);
-    all.insert(QStringLiteral("failures"), grab.failures);
-    all.insert(QStringLiteral("lastFailure"), grab.lastFailure);
-    return all;
+    const Grab &grab = grabOf(found);
+    return {
+        {QStringLiteral("isGrabbing"), grab.isGrabbing()},
+        {QStringLiteral("images"), grab.images},
+        {QStringLiteral("failures"), grab.failures},
+        {QStringLiteral("lastFailure"), grab.lastFailure},
+        {QStringLiteral("imagesGrabbedCount"), grab.imagesGrabbedCount},
+        {QStringLiteral("imagesFailedCount"), grab.imagesFailedCount},
+        {QStringLiteral("fps"), grab.fps},
+        {QStringLiteral("bps"), grab.bps},
+    };
 }
 
 void CScriptGrab::listenTo(const ICameraStatusService &status)
 {
     connect(&status, &ICameraStatusService::cameraGrabStarted, this,
             [this](const CameraInfoPtr &camera) {
-                Grab &grab = m_grabs[camera->identity()];
+                Grab &grab = grabOf(camera);
                 grab.images = 0;
                 grab.failures = 0;
                 ++grab.starts;
             });
     connect(&status, &ICameraStatusService::cameraGrabStopped, this,
-            [this](const CameraInfoPtr &camera) { ++m_grabs[camera->identity()].stops; });
+            [this](const CameraInfoPtr &camera) { ++grabOf(camera).stops; });
     connect(&status, &ICameraStatusService::cameraImageGrabbed, this,
             [this](const CameraInfoPtr &camera, const Nerix::CGrabResultPtr &result) {
-                noteImage(m_grabs[camera->identity()], *result);
+                noteImage(grabOf(camera), *result);
             });
     connect(&status, &ICameraStatusService::cameraStatisticUpdated, this,
             [this](const CameraInfoPtr &camera, int grabbed, int failed, double fps, quint64 bps) {
-                m_grabs[camera->identity()].statusBar = {
-                    {QStringLiteral("imagesGrabbedCount"), grabbed},
-                    {QStringLiteral("imagesFailedCount"), failed},
-                    {QStringLiteral("fps"), fps},
-                    {QStringLiteral("bps"), static_cast<double>(bps)},
-                };
+                Grab &grab = grabOf(camera);
+                grab.imagesGrabbedCount = grabbed;
+                grab.imagesFailedCount = failed;
+                grab.fps = fps;
+                grab.bps = static_cast<double>(bps);
             });
 }
 
@@ -108,8 +124,24 @@ void CScriptGrab::listenTo(const ICameraControlService &pool)
 {
     connect(&pool, &ICameraControlService::grabFailed, this,
             [this](const CameraInfoPtr &camera, const QString &message) {
-                m_grabs[camera->identity()].refusal = message;
+                grabOf(camera).refusal = message;
             });
+}
+
+CScriptGrab::Grab &CScriptGrab::grabOf(const CameraInfoPtr &camera)
+{
+    Grab &grab = m_grabs[camera->identity()];
+    grab.camera = camera;
+    return grab;
+}
+
+QList<CameraInfoPtr> CScriptGrab::camerasThatGrabbed() const
+{
+    QList<CameraInfoPtr> cameras;
+    for (const Grab &grab : m_grabs) {
+        cameras.append(grab.camera);
+    }
+    return cameras;
 }
 
 void CScriptGrab::noteImage(Grab &grab, const Nerix::CGrabResultData &result)
@@ -130,7 +162,7 @@ void CScriptGrab::request(Request operation, int Grab::*count, const QJSValue &c
     if (!found) {
         return;
     }
-    Grab &grab = m_grabs[found->identity()];
+    Grab &grab = grabOf(found);
     grab.refusal.clear();
     const int before = grab.*count;
     (pool.data()->*operation)(found);

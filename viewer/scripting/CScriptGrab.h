@@ -35,10 +35,12 @@ public:
     /// Returns once the grab has ended.
     Q_INVOKABLE void stop(const QJSValue &camera, int ms = 10000);
 
-    /// Returns once \a images of the grab have arrived or failed.
+    /// Returns once \a images of the grab have arrived or failed. An exception in the script as
+    /// soon as none is to come: the camera does not grab.
     Q_INVOKABLE void waitFor(const QJSValue &camera, int images, int ms = 10000);
 
-    /// Of the grab that runs, or else the last one: "isGrabbing", "images" and "failures" as they
+    /// Of the grab that runs, or else the last one, also when the camera is gone; zeros before the
+    /// first one: "isGrabbing", "images" and "failures" as they
     /// arrived, "lastFailure", and from the status bar "imagesGrabbedCount", "imagesFailedCount",
     /// "fps" (images a second), "bps" (bytes a second).
     Q_INVOKABLE QVariantMap figures(const QJSValue &camera);
@@ -46,18 +48,29 @@ public:
 private:
     struct Grab
     {
+        CameraInfoPtr camera;
         int starts = 0;
         int stops = 0;
         int images = 0;
         int failures = 0;
         QString lastFailure;
         QString refusal;
-        QVariantMap statusBar;
+        int imagesGrabbedCount = 0;
+        int imagesFailedCount = 0;
+        double fps = 0.0;
+        double bps = 0.0;
+
+        bool isGrabbing() const
+        {
+            return starts != stops;
+        }
     };
     using Request = void (CameraPool::ICameraControlService::*)(const CameraInfoPtr &);
 
     void listenTo(const CameraPool::ICameraStatusService &status);
     void listenTo(const CameraPool::ICameraControlService &pool);
+    Grab &grabOf(const CameraInfoPtr &camera);
+    QList<CameraInfoPtr> camerasThatGrabbed() const;
     void noteImage(Grab &grab, const Nerix::CGrabResultData &result);
 
     /// Asks the pool, and waits until \a count of the camera's grab has risen.

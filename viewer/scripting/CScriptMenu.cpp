@@ -19,11 +19,16 @@ QString obstacle(IMenuControlService::TriggerResult result)
     case IMenuControlService::TriggerResult::Triggered:
         return {};
     case IMenuControlService::TriggerResult::Unknown:
-        return QStringLiteral("is not there: menu.list() gives those that are");
+        return QStringLiteral(
+            "is not there: menu.list() gives those that are, and a script has the "
+            "actions of windows only with --show-windows");
     case IMenuControlService::TriggerResult::Disabled:
-        return QStringLiteral("is disabled now");
+        return QStringLiteral(
+            "is disabled now: wait until menu.list() has it enabled; most actions "
+            "need a camera that is selected and open");
     case IMenuControlService::TriggerResult::NotApplicable:
-        return QStringLiteral("does not apply to any view that is active now");
+        return QStringLiteral("does not apply to any view that is active now: make its view the "
+                              "active one first");
     }
     return {};
 }

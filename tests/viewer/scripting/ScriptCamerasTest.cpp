@@ -30,6 +30,8 @@ private Q_SLOTS:
     void testEventsAreTakenOnce();
     void testFailureSaysWhatToDo_data();
     void testFailureSaysWhatToDo();
+    void testDisplayNameOfTwoCamerasMeansNone();
+    void testIdentityComesBeforeTheDisplayNameOfAnother();
 
 private:
     QScopedPointer<CScriptRun> m_run;
@@ -144,9 +146,11 @@ void ScriptCamerasTest::testSelect()
     const auto camera = m_control->plugIn("A-1");
     QCOMPARE(m_run->run("print(cameras.selected());\n"
                         "cameras.select('A-1');\n"
-                        "print(cameras.selected().identity);"),
+                        "print(cameras.selected().identity, cameras.selected().state);\n"
+                        "cameras.open('A-1');\n"
+                        "print(cameras.selected().state);"),
              QString());
-    QCOMPARE(m_run->printed(), texts({"null", "A-1"}));
+    QCOMPARE(m_run->printed(), texts({"null", "A-1 free", "open"}));
     QCOMPARE(m_selection->selected().data(), camera.data());
 
     CScriptRun other;
@@ -209,6 +213,24 @@ void ScriptCamerasTest::testFailureSaysWhatToDo()
     m_control->plugIn("B-2");
     m_control->failToOpen(qPrintable(openFailure));
     QCOMPARE(m_run->run(script), failure);
+}
+
+void ScriptCamerasTest::testDisplayNameOfTwoCamerasMeansNone()
+{
+    m_control->plugIn("A-1", "XQZ-2000", "Belt");
+    m_control->plugIn("B-2", "XQZ-3000", "Belt");
+    QCOMPARE(m_run->run("cameras.open('B-2'); cameras.close('B-2');\n"
+                        "cameras.open('Belt');"),
+             QStringLiteral("test.js:2: 2 cameras have the name \"Belt\": give the identity of one "
+                            "(A-1, B-2)"));
+}
+
+void ScriptCamerasTest::testIdentityComesBeforeTheDisplayNameOfAnother()
+{
+    m_control->plugIn("A-1", "XQZ-2000", "B-2");
+    m_control->plugIn("B-2", "XQZ-3000");
+    QCOMPARE(m_run->run("print(cameras.open('B-2').model);"), QString());
+    QCOMPARE(m_run->printed(), texts({"XQZ-3000"}));
 }
 
 QTEST_MAIN(ScriptCamerasTest)

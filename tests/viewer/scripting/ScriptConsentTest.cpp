@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "CScriptRun.h"
+#include "plugins/help/CHelpViewService.h"
 #include "plugins/nerixwelcome/CNerixWelcomeController.h"
 #include "support/CTestTab.h"
 #include "support/Texts.h"
 
 #include <QTest>
+#include <QUrl>
 
 // What a consent page binds to, and nothing else: the script must get along with that.
 class CPageController : public QObject
@@ -30,6 +32,9 @@ public:
     }
 
     QStringList m_calls;
+    QSharedPointer<Plugin::Help::CHelpViewService> m_help =
+        QSharedPointer<Plugin::Help::CHelpViewService>::create(
+            Plugin::Help::CHelpDocuments(QString()));
 
 public Q_SLOTS:
     void onDataPrivacyApplyClicked()
@@ -42,6 +47,9 @@ public Q_SLOTS:
     void onDataPrivacyLinkClicked(const QString &url)
     {
         m_calls.append(url);
+        if (url != QLatin1String("nothing.txt")) {
+            m_help->showAddress(QUrl(url));
+        }
     }
 
 private:
@@ -61,6 +69,7 @@ private Q_SLOTS:
     void testStateOfAPageThatWasNeverAnswered();
     void testAnswerAndApplyDoWhatThePageDoes();
     void testLinkIsFollowedAsByThePage();
+    void testLinkThatShowsNothingIsAFailure();
     void testMisuseIsNamed_data();
     void testMisuseIsNamed();
     void testWithoutAConsentPage();
@@ -91,6 +100,7 @@ void ScriptConsentTest::init()
     screen->addTab(m_otherTab.data());
     screen->addTab(m_tab.data());
     m_run->addService(screen);
+    m_run->addService(m_page->m_help);
 }
 
 void ScriptConsentTest::cleanup()
@@ -117,6 +127,15 @@ void ScriptConsentTest::testLinkIsFollowedAsByThePage()
 {
     QCOMPARE(m_run->run("consent.openLink('DataPrivacy.txt');"), QString());
     QCOMPARE(m_page->m_calls, texts({"DataPrivacy.txt"}));
+}
+
+void ScriptConsentTest::testLinkThatShowsNothingIsAFailure()
+{
+    QCOMPARE(
+        m_run->run("consent.openLink('nothing.txt');"),
+        QStringLiteral("test.js:1: link \"nothing.txt\" was not opened, the log says why: give "
+                       "DataPrivacy.txt, or an http, https or mailto address"));
+    QCOMPARE(m_page->m_calls, texts({"nothing.txt"}));
 }
 
 void ScriptConsentTest::testMisuseIsNamed_data()

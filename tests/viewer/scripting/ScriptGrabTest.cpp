@@ -22,6 +22,12 @@ private Q_SLOTS:
     void testFiguresOfTheStatusBar();
     void testRefusalBecomesTheFailure();
     void testStopWithoutAGrabIsAFailure();
+    void testWaitForWithoutAGrabIsAFailureAtOnce();
+    void testWaitForEndsWithTheGrab();
+    void testImagesOfTheLastGrabHaveArrived();
+    void testFiguresAreZerosBeforeTheFirstGrab();
+    void testFiguresOfTheLastGrabStayWhenTheCameraIsGone_data();
+    void testFiguresOfTheLastGrabStayWhenTheCameraIsGone();
 
 private:
     void emitImage(bool succeeded);
@@ -131,7 +137,78 @@ void ScriptGrabTest::testRefusalBecomesTheFailure()
 void ScriptGrabTest::testStopWithoutAGrabIsAFailure()
 {
     QCOMPARE(m_run->run("grab.stop('A-1')"),
-             QStringLiteral("test.js:1: camera \"A-1\" does not grab"));
+             QStringLiteral("test.js:1: camera \"A-1\" does not grab: call grab.start first"));
+}
+
+void ScriptGrabTest::testWaitForWithoutAGrabIsAFailureAtOnce()
+{
+    QCOMPARE(m_run->run("grab.waitFor('A-1', 1, 2147483647)"),
+             QStringLiteral("test.js:1: camera \"A-1\" does not grab: call grab.start first"));
+}
+
+void ScriptGrabTest::testWaitForEndsWithTheGrab()
+{
+    const auto request = m_control->onGrabRequest;
+    m_control->onGrabRequest = [&](const QString &operation, const auto &camera) {
+        request(operation, camera);
+        QMetaObject::invokeMethod(
+            m_status.data(),
+            [this] {
+                emitImage(true);
+                Q_EMIT m_status->cameraGrabStopped(m_camera);
+            },
+            Qt::QueuedConnection);
+    };
+    QCOMPARE(m_run->run("grab.start('A-1');\n"
+                        "grab.waitFor('A-1', 2, 2147483647);"),
+             QStringLiteral("test.js:2: camera \"A-1\" does not grab: call grab.start first"));
+}
+
+void ScriptGrabTest::testImagesOfTheLastGrabHaveArrived()
+{
+    m_control->onGrabRequest = [this](const QString &, const auto &camera) {
+        Q_EMIT m_status->cameraGrabStarted(camera);
+        emitImage(true);
+        Q_EMIT m_status->cameraGrabStopped(camera);
+    };
+    QCOMPARE(m_run->run("grab.single('A-1'); grab.waitFor('A-1', 1);"), QString());
+}
+
+void ScriptGrabTest::testFiguresAreZerosBeforeTheFirstGrab()
+{
+    QCOMPARE(m_run->run("var f = grab.figures('A-1');\n"
+                        "print(f.isGrabbing, f.images, f.failures, '[' + f.lastFailure + ']');\n"
+                        "print(f.imagesGrabbedCount, f.imagesFailedCount, f.fps, f.bps);"),
+             QString());
+    QCOMPARE(m_run->printed(), texts({"false 0 0 []", "0 0 0 0"}));
+}
+
+void ScriptGrabTest::testFiguresOfTheLastGrabStayWhenTheCameraIsGone_data()
+{
+    QTest::addColumn<QByteArray>("camera");
+    QTest::newRow("by its identity") << QByteArray("'B-2'");
+    QTest::newRow("by its display name") << QByteArray("'Belt'");
+    QTest::newRow("by the object of the list") << QByteArray("camera");
+}
+
+void ScriptGrabTest::testFiguresOfTheLastGrabStayWhenTheCameraIsGone()
+{
+    QFETCH(QByteArray, camera);
+    const auto gone = m_control->plugIn("B-2", "XQZ-2000", "Belt");
+    m_control->onGrabRequest = [&](const QString &, const auto &grabbing) {
+        Q_EMIT m_status->cameraGrabStarted(grabbing);
+        Q_EMIT m_status->cameraStatisticUpdated(grabbing, 10, 2, 29.5, 4096, {});
+        Q_EMIT m_status->cameraGrabStopped(grabbing);
+        m_control->unplug(gone);
+    };
+    QCOMPARE(m_run->run("var camera = cameras.list()[1];\n"
+                        "grab.single('B-2');\n"
+                        "print(grab.figures("
+                        + camera
+                        + ").imagesGrabbedCount);\n"
+                          "grab.figures('C-3');"),
+             QStringLiteral("test.js:4: there is no camera \"C-3\" (connected: A-1)"));
+    QCOMPARE(m_run->printed(), texts({"10"}));
 }
 
 QTEST_MAIN(ScriptGrabTest)

@@ -109,10 +109,15 @@ void ScriptScreensTest::testMenuNamesWhyAnActionIsNotTriggered_data()
                             << QStringLiteral("test.js:1: action \"%1\" %2")
                                    .arg(QString::fromLatin1(id), QString::fromLatin1(reason));
     };
-    row("unknown", "Test.Other", "is not there: menu.list() gives those that are");
-    row("disabled", "Test.Disabled", "is disabled now");
+    row("unknown", "Test.Other",
+        "is not there: menu.list() gives those that are, and a script has the actions of windows "
+        "only with --show-windows");
+    row("disabled", "Test.Disabled",
+        "is disabled now: wait until menu.list() has it enabled; most actions need a camera that "
+        "is "
+        "selected and open");
     row("of a view that is not active", "Test.Elsewhere",
-        "does not apply to any view that is active now");
+        "does not apply to any view that is active now: make its view the active one first");
 }
 
 void ScriptScreensTest::testMenuNamesWhyAnActionIsNotTriggered()
