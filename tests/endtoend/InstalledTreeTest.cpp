@@ -57,9 +57,10 @@ void InstalledTreeTest::testTreeHas_data()
          {"bin/nerix-viewer", "bin/nerix-camera-simulator", "bin/rui-events", "lib/libNerixCore.so",
           "lib/libruiSDK.so", "lib/nerix/plugins/libUsageTracking.so",
           "include/nerix/Core/Plugin/IPlugin.h", "include/ruiSDK.h",
-          "share/doc/nerix-viewer/README.md", "share/doc/nerix-viewer/scripting.md",
-          "share/doc/nerix-viewer/ja/privacy.md", "share/doc/nerix-viewer/ko/help.md",
-          "share/doc/nerix-viewer/zh/cameras.md"}) {
+          "share/doc/nerix-viewer/README.md", "share/doc/nerix-viewer/collector.yaml",
+          "share/doc/nerix-viewer/examples/hello/CMakeLists.txt",
+          "share/doc/nerix-viewer/scripting.md", "share/doc/nerix-viewer/ja/privacy.md",
+          "share/doc/nerix-viewer/ko/help.md", "share/doc/nerix-viewer/zh/cameras.md"}) {
         QTest::newRow(file) << QString(file);
     }
 }
