@@ -3,11 +3,10 @@
 
 #include "CFeatureFolder.h"
 #include "plugins/featurefiles/CFeatureFile.h"
+#include "support/CSmallFiles.h"
 
 #include <FakeParameterCollection.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <functional>
 
 #include <QDir>
@@ -76,27 +75,6 @@ public:
 
     std::function<QString(const QString &)> rule = [](const QString &) { return QString(); };
     std::function<void(RuledInteger &)> afterSet = [](RuledInteger &) {};
-};
-
-// While it lives no file may grow beyond \a bytes, as on a disk that is nearly full.
-class CSmallFiles
-{
-public:
-    explicit CSmallFiles(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~CSmallFiles()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-    }
-    Q_DISABLE_COPY_MOVE(CSmallFiles)
-
-private:
-    rlimit m_before{};
 };
 
 QString messageOf(const std::function<void()> &work)

@@ -4,6 +4,7 @@
 #include "plugins/imageview/ImageFile.h"
 
 #include "plugins/imageview/CImageSaving.h"
+#include "support/CSmallFiles.h"
 #include "TestImage.h"
 
 #include <QDir>
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void testErrors();
     void testFileThatIsThereIsReplaced();
     void testFileThatIsThereIsKeptIfTheNewOneFails();
+    void testFileThatIsThereIsKeptIfThereIsNoRoom();
     void testSuggestedName_data();
     void testSuggestedName();
     void testSavingTellsOfItsEnd();
@@ -171,6 +173,17 @@ void ImageFileTest::testFileThatIsThereIsKeptIfTheNewOneFails()
     QVERIFY(!writeImageFile(testImage(1, 1, 0x810C0001, {1}), path).isEmpty());
     QCOMPARE(QImage(path).size(), QSize(2, 1));
     QCOMPARE(QDir(m_folder.path()).entryList({"kept*"}).size(), 1);
+}
+
+void ImageFileTest::testFileThatIsThereIsKeptIfThereIsNoRoom()
+{
+    const QString path = m_folder.filePath("full.png");
+    QCOMPARE(writeImageFile(greyImage(), path), QString());
+    // Less than the new image takes, even in Qt's own buffer.
+    const CSmallFiles limit(60);
+    QCOMPARE(writeImageFile(testImage(1, 1, 0x01080001, {1}), path),
+             path + " cannot be written (File too large): choose another folder, or make room");
+    QCOMPARE(QImage(path).size(), QSize(2, 1));
 }
 
 void ImageFileTest::testSuggestedName_data()

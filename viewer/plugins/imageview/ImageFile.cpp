@@ -32,6 +32,13 @@ QByteArray formatOf(const QString &path)
     return suffix == QLatin1String("png") ? QByteArrayLiteral("png") : QByteArray();
 }
 
+// The commit would not notice that the last bytes found no room. A disk that is nearly full takes a
+// part at first; only what comes after that tells why it is refused.
+bool isWritten(QFileDevice &file)
+{
+    return file.flush() || file.flush();
+}
+
 QString cannotWrite(const QString &path, const QString &reason)
 {
     return text(QT_TRANSLATE_NOOP("ImageView::File",
@@ -61,7 +68,7 @@ QString writeImageFile(const Nerix::CImage &image, const QString &path)
     if (!writer.write(fileImage(image))) {
         return cannotWrite(path, writer.errorString());
     }
-    return file.commit() ? QString() : cannotWrite(path, file.errorString());
+    return isWritten(file) && file.commit() ? QString() : cannotWrite(path, file.errorString());
 }
 
 QString suggestedFileName(const QString &cameraName, const QDateTime &time)
