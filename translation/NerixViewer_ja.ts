@@ -353,6 +353,18 @@ Close it and open it again.</source>
         <source>%1: &quot;%2&quot; cannot be read as a number; give one with a point for decimals and no other separators</source>
         <translation>%1：「%2」を数値として読み取れません。小数点にはピリオドを使い、ほかの区切り文字を入れずに入力してください</translation>
     </message>
+    <message>
+        <source>It can only be read.</source>
+        <translation>読み取り専用です。</translation>
+    </message>
+    <message>
+        <source>%1, read-only</source>
+        <translation>%1（読み取り専用）</translation>
+    </message>
+    <message>
+        <source>Executed</source>
+        <translation>実行しました</translation>
+    </message>
 </context>
 <context>
     <name>Grabbing::CFiguresBar</name>

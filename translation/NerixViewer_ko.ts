@@ -353,6 +353,18 @@ Close it and open it again.</source>
         <source>%1: &quot;%2&quot; cannot be read as a number; give one with a point for decimals and no other separators</source>
         <translation>%1: &quot;%2&quot;을(를) 숫자로 읽을 수 없습니다. 소수점은 마침표로 쓰고 다른 구분 기호 없이 입력하세요</translation>
     </message>
+    <message>
+        <source>It can only be read.</source>
+        <translation>읽기 전용입니다.</translation>
+    </message>
+    <message>
+        <source>%1, read-only</source>
+        <translation>%1 (읽기 전용)</translation>
+    </message>
+    <message>
+        <source>Executed</source>
+        <translation>실행됨</translation>
+    </message>
 </context>
 <context>
     <name>Grabbing::CFiguresBar</name>

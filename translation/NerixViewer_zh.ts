@@ -353,6 +353,18 @@ Close it and open it again.</source>
         <source>%1: &quot;%2&quot; cannot be read as a number; give one with a point for decimals and no other separators</source>
         <translation>%1：“%2”无法识别为数字，请用句点作小数点，且不要使用其他分隔符</translation>
     </message>
+    <message>
+        <source>It can only be read.</source>
+        <translation>此项只读。</translation>
+    </message>
+    <message>
+        <source>%1, read-only</source>
+        <translation>%1（只读）</translation>
+    </message>
+    <message>
+        <source>Executed</source>
+        <translation>已执行</translation>
+    </message>
 </context>
 <context>
     <name>Grabbing::CFiguresBar</name>

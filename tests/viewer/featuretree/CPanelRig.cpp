@@ -74,6 +74,15 @@ QString CPanelRig::value(const char *name) const
     return row(name).siblingAtColumn(CFeatureModel::ValueColumn).data().toString();
 }
 
+QRect CPanelRig::checkBox(const char *name) const
+{
+    QStyleOptionViewItem option;
+    option.initFrom(&view());
+    option.rect = view().visualRect(row(name).siblingAtColumn(CFeatureModel::ValueColumn));
+    option.features = QStyleOptionViewItem::HasCheckIndicator;
+    return view().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option);
+}
+
 bool CPanelRig::goTo(const char *name)
 {
     view().setFocus();

@@ -48,6 +48,9 @@ public:
     QModelIndex row(const char *name) const;
     QString value(const char *name) const;
 
+    // Where the check box of the feature is in the viewport.
+    QRect checkBox(const char *name) const;
+
     // Makes the row current, as the arrow keys do, and returns once its value is known.
     bool goTo(const char *name);
 

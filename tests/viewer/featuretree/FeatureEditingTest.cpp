@@ -29,6 +29,8 @@ private Q_SLOTS:
     void testClickOnACheckBoxOrAButtonSelectsItsFeature();
     void testCommandIsExecutedByTheKeyboardAndTheMouse_data();
     void testCommandIsExecutedByTheKeyboardAndTheMouse();
+    void testCommandThatRanSaysSoForAWhile();
+    void testCommandThatIsRefusedDoesNotSayThatItRan();
     void testCommandIsNotExecutedWhenTheMouseIsReleasedElsewhere();
     void testEntryIsPickedFromThoseThatAreThereNow();
     void testListThatIsClosedWithoutAChoiceSetsNothing();
@@ -44,7 +46,6 @@ private Q_SLOTS:
 
 private:
     QRect valueRect(const char *name) const;
-    QRect checkBox(const char *name) const;
 
     QScopedPointer<CPanelRig> m_rig;
     QSharedPointer<CLiveInteger> m_width;
@@ -80,15 +81,6 @@ void FeatureEditingTest::cleanup()
 QRect FeatureEditingTest::valueRect(const char *name) const
 {
     return m_rig->view().visualRect(m_rig->row(name).siblingAtColumn(1));
-}
-
-QRect FeatureEditingTest::checkBox(const char *name) const
-{
-    QStyleOptionViewItem option;
-    option.initFrom(&m_rig->view());
-    option.rect = valueRect(name);
-    option.features = QStyleOptionViewItem::HasCheckIndicator;
-    return m_rig->view().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option);
 }
 
 void FeatureEditingTest::testOneEditIsOneSet_data()
@@ -156,7 +148,8 @@ void FeatureEditingTest::testSwitchIsTurnedByTheKeyboardAndTheMouse()
     QTRY_COMPARE(m_invert->state().text, QString("true"));
     QTest::keyClick(&m_rig->view(), Qt::Key_Return);
     QTRY_COMPARE(m_invert->sets(), (QStringList{"true", "false"}));
-    QTest::mouseClick(m_rig->view().viewport(), Qt::LeftButton, {}, checkBox("Invert").center());
+    QTest::mouseClick(m_rig->view().viewport(), Qt::LeftButton, {},
+                      m_rig->checkBox("Invert").center());
     QTRY_COMPARE(m_invert->sets(), (QStringList{"true", "false", "true"}));
 }
 
@@ -172,7 +165,8 @@ void FeatureEditingTest::testClickOnACheckBoxOrAButtonSelectsItsFeature()
     QFETCH(QByteArray, name);
     QVERIFY(m_rig->open());
     QVERIFY(m_rig->goTo(name.constData()) && m_rig->goTo("Width"));
-    const QRect place = name == "Invert" ? checkBox(name.constData()) : valueRect(name.constData());
+    const QRect place =
+        name == "Invert" ? m_rig->checkBox(name.constData()) : valueRect(name.constData());
     QTest::mouseClick(m_rig->view().viewport(), Qt::LeftButton, {}, place.center());
     QTRY_COMPARE(m_invert->sets().size() + m_reset->sets().size(), 1);
     QCOMPARE(m_rig->view().currentIndex().data(CFeatureModel::NameRole).toByteArray(), name);
@@ -203,6 +197,31 @@ void FeatureEditingTest::testCommandIsExecutedByTheKeyboardAndTheMouse()
                           valueRect("Reset").center());
     }
     QTRY_COMPARE(m_reset->sets(), QStringList{"Execute"});
+}
+
+void FeatureEditingTest::testCommandThatRanSaysSoForAWhile()
+{
+    QVERIFY(m_rig->open());
+    QVERIFY(m_rig->goTo("Reset"));
+    QCOMPARE(m_rig->value("Reset"), QString("Execute"));
+    m_rig->panel().controller().setSignDuration(std::chrono::hours(1));
+    QTest::keyClick(&m_rig->view(), Qt::Key_Space);
+    QTRY_COMPARE(m_rig->value("Reset"), QString("Executed"));
+    QCOMPARE(m_rig->row("Reset").siblingAtColumn(1).data(Qt::AccessibleTextRole).toString(),
+             QString("Executed"));
+    m_rig->panel().controller().setSignDuration(std::chrono::milliseconds(1));
+    QTest::keyClick(&m_rig->view(), Qt::Key_Space);
+    QTRY_COMPARE(m_reset->sets().size(), 2);
+    QTRY_COMPARE(m_rig->value("Reset"), QString("Execute"));
+}
+
+void FeatureEditingTest::testCommandThatIsRefusedDoesNotSayThatItRan()
+{
+    m_reset->change([](CLiveState &state) { state.setRefusal = "no"; });
+    QVERIFY(m_rig->open());
+    QVERIFY(m_rig->goTo("Reset"));
+    QTest::keyClick(&m_rig->view(), Qt::Key_Space);
+    QTRY_COMPARE(m_rig->problem(), QString("no"));
     QCOMPARE(m_rig->value("Reset"), QString("Execute"));
 }
 

@@ -5,6 +5,8 @@
 #include "plugins/featuretree/CFeatureModel.h"
 
 #include <QAbstractItemModelTester>
+#include <QGuiApplication>
+#include <QPalette>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void testToolTipExplainsTheFeature();
     void testDescriptionOfTheDeviceIsNoMarkup();
     void testLockIsShownAndSpoken();
+    void testWhatCanOnlyBeReadIsMarkedAndNotLocked();
     void testChangeIsWantedOnceAndNotMade();
     void testSameValueIsNotWanted();
     void testLockedFeatureCannotBeChanged();
@@ -208,13 +211,32 @@ void FeatureModelTest::testLockIsShownAndSpoken()
     QVERIFY(!value.data(Qt::DecorationRole).value<QIcon>().isNull());
     QCOMPARE(value.data(Qt::AccessibleTextRole).toString(), QString("on, locked"));
     QVERIFY(value.data(Qt::ToolTipRole).toString().contains("It is locked now."));
+}
 
-    // What can never be set is not locked.
-    CFeatureState readOnly = stateOf("true", AccessReadOnly);
+void FeatureModelTest::testWhatCanOnlyBeReadIsMarkedAndNotLocked()
+{
+    CFeatureModel model;
+    model.setFeatures({feature("Version", InterfaceString), feature("Control", InterfaceCategory)});
+    CFeatureState readOnly = stateOf("7.1", AccessReadOnly);
     readOnly.isUserSettable = false;
+    const QModelIndex name = model.indexOf(0, CFeatureModel::NameColumn);
+    const QModelIndex value = model.indexOf(0, CFeatureModel::ValueColumn);
+    model.setState(0, stateOf("7.1"));
+    QVERIFY(!value.data(Qt::ForegroundRole).isValid());
+    QVERIFY(!value.data(Qt::ToolTipRole).toString().contains("only"));
+
     model.setState(0, readOnly);
-    QVERIFY(value.data(Qt::DecorationRole).value<QIcon>().isNull());
-    QCOMPARE(value.data(Qt::AccessibleTextRole).toString(), QString("on"));
+    const QColor marked = value.data(Qt::ForegroundRole).value<QColor>();
+    QVERIFY(marked.isValid() && marked != QGuiApplication::palette().color(QPalette::Text));
+    QVERIFY(!name.data(Qt::ForegroundRole).isValid());
+    QCOMPARE(value.data(Qt::AccessibleTextRole).toString(), QString("7.1, read-only"));
+    QCOMPARE(value.data(Qt::ToolTipRole).toString(),
+             QString("<b>Version</b><br>It can only be read.<br>Name: Version"));
+    QVERIFY(value.data(Qt::DecorationRole).value<QIcon>().isNull()); // unlike what is locked
+
+    model.setState(1, readOnly);
+    const QModelIndex category = model.indexOf(1, CFeatureModel::NameColumn);
+    QCOMPARE(category.data(Qt::ToolTipRole).toString(), QString("<b>Control</b><br>Name: Control"));
 }
 
 void FeatureModelTest::testChangeIsWantedOnceAndNotMade()

@@ -102,7 +102,7 @@ void SetTest::wrongValueIsRefusedWithTheLimitsAndNotTold_data()
     row("integer too small", "Width", QStringLiteral("12"),
         "@CameraDevice/Width: 12 is out of range: give a number from 16 to 2048 in steps of 4");
     row("integer between two steps", "Width", QStringLiteral("17"),
-        "@CameraDevice/Width: 17 is out of range: give a number from 16 to 2048 in steps of 4");
+        "@CameraDevice/Width: 17 is no multiple of 4: give one from 16 to 2048, such as 16 or 20");
     row("integer of the wrong type", "Width", QStringLiteral("wide"),
         "@CameraDevice/Width: \"wide\" is no whole number: give one from 16 to 2048 in steps of 4");
     row("integer without steps", "QmzBrightness", QStringLiteral("128"),

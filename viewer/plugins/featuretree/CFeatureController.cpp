@@ -21,6 +21,9 @@ constexpr std::chrono::milliseconds quietInterval(1000);
 // The news come before the device takes the value; several of them lead to one refresh.
 constexpr std::chrono::milliseconds afterChange(100);
 
+// Long enough to be read after a click.
+constexpr std::chrono::milliseconds signDuration(2000);
+
 } // namespace
 
 CFeatureController::CFeatureController(const CFeatureServices &services)
@@ -31,6 +34,9 @@ CFeatureController::CFeatureController(const CFeatureServices &services)
     m_refresh.setInterval(quietInterval);
     m_refreshSoon.setSingleShot(true);
     m_refreshSoon.setInterval(afterChange);
+    m_signEnds.setSingleShot(true);
+    m_signEnds.setInterval(signDuration);
+    connect(&m_signEnds, &QTimer::timeout, this, [this] { showExecuted(-1); });
     connect(&m_device, &CShownDevice::changed, this, &CFeatureController::showDevice);
     connect(&m_device, &CShownDevice::renamed, this, &CFeatureController::noticeChanged);
     connect(&m_model, &CFeatureModel::changeWanted, this, &CFeatureController::onChangeWanted);
@@ -139,12 +145,31 @@ void CFeatureController::setRefreshInterval(std::chrono::milliseconds interval)
     m_refresh.setInterval(interval);
 }
 
+void CFeatureController::setSignDuration(std::chrono::milliseconds duration)
+{
+    m_signEnds.setInterval(duration);
+}
+
+void CFeatureController::showExecuted(int feature)
+{
+    if (m_executed >= 0) {
+        m_model.setExecuted(m_executed, false);
+    }
+    m_executed = feature;
+    if (feature >= 0) {
+        m_model.setExecuted(feature, true);
+        m_signEnds.start();
+    }
+}
+
 void CFeatureController::showDevice()
 {
     m_isDescribed = false;
     m_describeFailure = QString();
     m_inSight.clear();
     m_refresh.stop();
+    m_signEnds.stop();
+    m_executed = -1;
     m_access.close();
     m_model.setFeatures({});
     dismissProblem();
@@ -198,6 +223,9 @@ void CFeatureController::onWritten(int feature, const QString &failure)
     if (failure.isEmpty()) {
         m_model.confirm(feature);
         dismissProblem();
+        if (m_model.description(feature).type == ParameterCollection::InterfaceCommand) {
+            showExecuted(feature);
+        }
     } else {
         m_model.refuse(feature);
         tell(feature, CFeatureTexts::withoutTree(failure));

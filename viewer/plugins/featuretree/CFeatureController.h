@@ -82,6 +82,9 @@ public:
     /// How long the values that are in sight are left alone.
     void setRefreshInterval(std::chrono::milliseconds interval);
 
+    /// How long a command that was executed says so.
+    void setSignDuration(std::chrono::milliseconds duration);
+
 Q_SIGNALS:
     void noticeChanged();
     void problemChanged();
@@ -95,6 +98,7 @@ private:
     void onNotDescribed(const QString &reason);
     void onChangeWanted(int feature, const QString &text);
     void onWritten(int feature, const QString &failure);
+    void showExecuted(int feature);
     void refresh();
     void showCurrent();
     void onSomethingSet();
@@ -113,6 +117,8 @@ private:
     int m_problemFeature = -1;
     QVector<int> m_inSight;
     bool m_isOutdated = false; // something was set while values were read
+    int m_executed = -1;       // the command that says that it was executed
+    QTimer m_signEnds;         // that of m_executed
     QTimer m_refresh;          // when nothing happens
     QTimer m_refreshSoon;      // when somebody sets something
 };

@@ -7,6 +7,7 @@
 #include "plugins/featuretree/CFeatureModel.h"
 #include "plugins/featuretree/CFloatEdit.h"
 #include "plugins/featuretree/CIntegerEdit.h"
+#include "plugins/featuretree/MutedText.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -196,6 +197,7 @@ void CFeatureDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
 {
     if (!isButton(index)) {
         QStyledItemDelegate::paint(painter, option, index);
+        paintFrame(painter, option, index);
         return;
     }
     QStyleOptionViewItem ground = option;
@@ -220,6 +222,27 @@ void CFeatureDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &ground, painter, option.widget);
     style->drawControl(QStyle::CE_PushButton, &button, painter, option.widget);
+}
+
+// Qt's own frame of a check box is darker than the window, which does not show on a dark one.
+void CFeatureDelegate::paintFrame(QPainter *painter, const QStyleOptionViewItem &option,
+                                  const QModelIndex &index) const
+{
+    QStyleOptionViewItem item = option;
+    initStyleOption(&item, index);
+    if (!item.features.testFlag(QStyleOptionViewItem::HasCheckIndicator)) {
+        return;
+    }
+    const QStyle *style = item.widget ? item.widget->style() : QApplication::style();
+    const QRectF box =
+        style->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &item, item.widget);
+    painter->save();
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(item.state.testFlag(QStyle::State_Selected)
+                        ? item.palette.color(QPalette::HighlightedText)
+                        : mutedText(QApplication::palette()));
+    painter->drawRect(box.adjusted(0.5, 0.5, -0.5, -0.5));
+    painter->restore();
 }
 
 QSize CFeatureDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const

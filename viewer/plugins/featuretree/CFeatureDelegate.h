@@ -41,6 +41,8 @@ Q_SIGNALS:
 
 private:
     QWidget *createChoice(QWidget *parent) const;
+    void paintFrame(QPainter *painter, const QStyleOptionViewItem &option,
+                    const QModelIndex &index) const;
     void tellNoNumber(const QWidget &editor) const;
 
     QPersistentModelIndex m_pressed; // the command whose button is held down

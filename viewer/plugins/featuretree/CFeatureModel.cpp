@@ -106,6 +106,12 @@ void CFeatureModel::refuse(int feature)
     changed(feature);
 }
 
+void CFeatureModel::setExecuted(int feature, bool isExecuted)
+{
+    m_values[feature].isExecuted = isExecuted;
+    changed(feature);
+}
+
 void CFeatureModel::changed(int feature)
 {
     Q_EMIT dataChanged(indexOf(feature, NameColumn), indexOf(feature, ValueColumn));
@@ -189,14 +195,15 @@ bool CFeatureModel::canBeSet(int feature) const
            && type != InterfaceRegister;
 }
 
-// What is not there is grey as a whole; of what is locked, the value is.
+// What is not there is grey as a whole; of what is locked or can only be read, the value is.
 bool CFeatureModel::isGrey(int feature, int column) const
 {
     const CFeatureState &state = m_values.at(feature).state;
     if (!state.isKnown || m_features.at(feature).isCategory()) {
         return false;
     }
-    return !state.isOffered() || (column == ValueColumn && state.isLocked());
+    return !state.isOffered()
+           || (column == ValueColumn && (state.isLocked() || state.isReadOnly()));
 }
 
 Qt::ItemFlags CFeatureModel::flags(const QModelIndex &index) const
@@ -274,6 +281,10 @@ QVariant CFeatureModel::valueData(int feature, int role) const
 {
     const CFeatureDescription &description = m_features.at(feature);
     const CFeatureState state = shownState(feature);
+    if (m_values.at(feature).isExecuted
+        && (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)) {
+        return CFeatureTexts::executed();
+    }
     switch (role) {
     case Qt::DisplayRole:
         return CFeatureTexts::value(description, state);

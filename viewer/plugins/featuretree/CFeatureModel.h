@@ -45,6 +45,9 @@ public:
     void confirm(int feature);
     void refuse(int feature);
 
+    /// Shows for a command whether it was just executed.
+    void setExecuted(int feature, bool isExecuted);
+
     /// Shows its words in the language of the moment.
     void retranslate();
 
@@ -83,6 +86,7 @@ private:
         CFeatureState state;
         QString expected; // null: nothing is expected
         bool isConfirmed = false;
+        bool isExecuted = false; // just now
     };
 
     int addNode(int feature, const QString &treeName, int parent);

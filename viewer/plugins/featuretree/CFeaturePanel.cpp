@@ -86,6 +86,7 @@ QWidget *CFeaturePanel::createSearchRow()
     m_search->setClearButtonEnabled(true);
     m_level = new QComboBox;
     m_level->setObjectName(QStringLiteral("FeatureTree.Level"));
+    m_level->setSizeAdjustPolicy(QComboBox::AdjustToContents); // of every language
     for (const Visibility level : {VisibilityBeginner, VisibilityExpert, VisibilityGuru}) {
         m_level->addItem(QString(), int(level));
     }

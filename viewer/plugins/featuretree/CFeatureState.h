@@ -68,6 +68,11 @@ struct CFeatureState
         return mode == ParameterCollection::AccessReadWrite
                || mode == ParameterCollection::AccessWriteOnly;
     }
+    /// It can never be set, whatever the device does.
+    bool isReadOnly() const
+    {
+        return isKnown && !isUserSettable && mode == ParameterCollection::AccessReadOnly;
+    }
     bool isLocked() const
     {
         return isKnown && isUserSettable && isOffered() && !canBeSet();

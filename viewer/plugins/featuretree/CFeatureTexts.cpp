@@ -83,6 +83,9 @@ QString CFeatureTexts::toolTip(const CFeatureDescription &description, const CFe
     if (state.isLocked()) {
         text += line(tr("It is locked now."));
     }
+    if (state.isReadOnly() && !description.isCategory()) {
+        text += line(tr("It can only be read."));
+    }
     if (!state.failure.isEmpty()) {
         text += line(withoutTree(state.failure));
     }
@@ -93,7 +96,17 @@ QString CFeatureTexts::spoken(const CFeatureDescription &description, const CFea
 {
     const bool isSwitch = description.type == InterfaceBoolean && !state.text.isNull();
     const QString text = isSwitch ? onOrOff(state) : value(description, state);
-    return state.isLocked() ? tr("%1, locked").arg(text) : text;
+    if (state.isLocked()) {
+        return tr("%1, locked").arg(text);
+    }
+    return state.isReadOnly() && !state.text.isNull() && !description.isCategory()
+               ? tr("%1, read-only").arg(text)
+               : text;
+}
+
+QString CFeatureTexts::executed()
+{
+    return tr("Executed");
 }
 
 QString CFeatureTexts::noNumber(const CFeatureDescription &description, const CFeatureState &state,

@@ -23,8 +23,11 @@ public:
     static QString limits(const CFeatureDescription &description, const CFeatureState &state);
 
     /// The explanation as rich text: the description of the device, the limits, whether it is
-    /// locked, and the GenICam name.
+    /// locked or can only be read, and the GenICam name.
     static QString toolTip(const CFeatureDescription &description, const CFeatureState &state);
+
+    /// What stands for the value of a command that was just executed.
+    static QString executed();
 
     /// The value for a screen reader, for example "on, locked".
     static QString spoken(const CFeatureDescription &description, const CFeatureState &state);

@@ -22,6 +22,32 @@ QString limits(qint64 minimum, qint64 maximum, qint64 increment)
     return increment > 1 ? QStringLiteral("%1 in steps of %2").arg(range).arg(increment) : range;
 }
 
+// The difference fits into 64 bits once the sign is gone, whatever the limits are.
+quint64 offStep(qint64 value, qint64 minimum, qint64 increment)
+{
+    return increment <= 1 ? 0 : (quint64(value) - quint64(minimum)) % quint64(increment);
+}
+
+QString neighbours(qint64 lower, qint64 maximum, qint64 increment)
+{
+    const bool isLast = quint64(maximum) - quint64(lower) < quint64(increment);
+    return isLast ? QString::number(lower)
+                  : QStringLiteral("%1 or %2").arg(lower).arg(lower + increment);
+}
+
+// Of a value within the limits; the steps count from the minimum.
+QString betweenSteps(qint64 value, qint64 minimum, qint64 maximum, qint64 increment)
+{
+    const qint64 lower = value - qint64(offStep(value, minimum, increment));
+    const QString near = neighbours(lower, maximum, increment);
+    return minimum % increment == 0
+               ? QStringLiteral("%1 is no multiple of %2: give one from %3 to %4, such as %5")
+                     .arg(QString::number(value), QString::number(increment),
+                          QString::number(minimum), QString::number(maximum), near)
+               : QStringLiteral("%1 is between two steps: give a number %2, such as %3")
+                     .arg(QString::number(value), limits(minimum, maximum, increment), near);
+}
+
 QString check(const CNodeAccess &access, const QString &text)
 {
     const qint64 minimum = integerMinimum(access);
@@ -32,13 +58,13 @@ QString check(const CNodeAccess &access, const QString &text)
         access.refuse(QStringLiteral("\"%1\" is no whole number: give one %2")
                           .arg(text, limits(minimum, maximum, increment)));
     }
-    // The difference fits into 64 bits once the sign is gone, whatever the limits are.
-    const bool isOnStep = increment <= 1 || *value < minimum
-                          || (quint64(*value) - quint64(minimum)) % quint64(increment) == 0;
-    if (*value < minimum || *value > maximum || !isOnStep) {
+    if (*value < minimum || *value > maximum) {
         access.refuse(QStringLiteral("%1 is out of range: give a number %2")
                           .arg(*value)
                           .arg(limits(minimum, maximum, increment)));
+    }
+    if (offStep(*value, minimum, increment) != 0) {
+        access.refuse(betweenSteps(*value, minimum, maximum, increment));
     }
     return ValueText::fromInteger(*value);
 }
