@@ -111,8 +111,11 @@ void CViewer::onPluginsInitialized()
         connect(application.data(), &Plugin::NerixViewer::IApplicationService::quitRequested, this,
                 &CViewer::requestQuit);
     }
+    m_isReady = true;
     if (m_script) {
         QMetaObject::invokeMethod(this, &CViewer::runScript, Qt::QueuedConnection);
+    } else if (m_signalCount > 0) {
+        QMetaObject::invokeMethod(this, &CViewer::quit, Qt::QueuedConnection);
     }
 }
 
@@ -126,9 +129,10 @@ void CViewer::runScript()
     closeApplication();
 }
 
+// Plug-ins that are not ready cannot be ended in order: a signal that comes earlier is heeded then.
 void CViewer::quit()
 {
-    if (m_isShuttingDown) {
+    if (m_isShuttingDown || !m_isReady) {
         return;
     }
     if (m_script && m_script->isRunning()) {

@@ -66,6 +66,7 @@ private:
     QStringList m_toldObjections;
     QTimer m_askAgain;
     int m_status = 0;
+    bool m_isReady = false;
     bool m_isShuttingDown = false;
 };
 

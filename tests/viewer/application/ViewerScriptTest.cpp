@@ -22,6 +22,7 @@ private Q_SLOTS:
     void testEndOfTheScriptEndsTheViewer();
     void testScriptBeginsWhenEveryPluginIsInitialized();
     void testPluginThatObjectsAtTheEndIsAskedAgain();
+    void testSignalBeforeTheScriptBeginsIsAFailure();
     void testSignalEndsTheScriptAndTheViewer_data();
     void testSignalEndsTheScriptAndTheViewer();
 
@@ -101,6 +102,13 @@ void ViewerScriptTest::testPluginThatObjectsAtTheEndIsAskedAgain()
     untilAskedTwice.start(1);
     QCOMPARE(run.run(), 1);
     QCOMPARE(behaviour.closabilityQuestions, 3);
+}
+
+void ViewerScriptTest::testSignalBeforeTheScriptBeginsIsAFailure()
+{
+    CViewerRun run(optionsFor("sleep(600000);"));
+    run.behaviour().work = [&run] { run.viewer().quitBySignal(); };
+    QCOMPARE(run.run(), 1);
 }
 
 void ViewerScriptTest::testSignalEndsTheScriptAndTheViewer_data()

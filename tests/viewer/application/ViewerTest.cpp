@@ -20,6 +20,7 @@ private Q_SLOTS:
     void testQuitEntryEndsTheViewer();
     void testPluginThatObjectsKeepsTheViewerOpen();
     void testSecondSignalInsists();
+    void testSignalWhileThePluginsStartEndsTheViewerInOrder();
     void testDevicesAreClosedWhileThePluginsStillListen();
     void testRequestsWhileShuttingDownDoNotCutItShort();
     void testMissingPluginFolderIsOneLine();
@@ -80,6 +81,15 @@ void ViewerTest::testSecondSignalInsists()
     });
     QCOMPARE(run.run(), 0);
     QCOMPARE(run.behaviour().closabilityQuestions, 1);
+}
+
+void ViewerTest::testSignalWhileThePluginsStartEndsTheViewerInOrder()
+{
+    CViewerRun run;
+    run.behaviour().work = [&run] { run.viewer().quitBySignal(); };
+    QCOMPARE(run.run(), 0);
+    run.viewer().shutDown();
+    QCOMPARE(run.behaviour().calls, texts({"aboutToUninitialize", "uninitialize", "destroyed"}));
 }
 
 void ViewerTest::testDevicesAreClosedWhileThePluginsStillListen()
