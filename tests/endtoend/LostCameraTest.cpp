@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 
+#include "CEventFollower.h"
 #include "CSimulatorProcess.h"
 #include "CViewerProcess.h"
 
@@ -191,6 +192,8 @@ void LostCameraTest::testTheViewerGoesOn()
     QVERIFY2(m_isAlone || other.start(), qPrintable(other.errorText()));
 
     m_viewer.storeConsent(true, true);
+    // As they come: of more than 10,000 the library gives up the oldest.
+    CEventFollower follower(m_viewer.libraryFolder());
     m_viewer.start(QString(script)
                        .replace("ROUNDS", QString::number(rounds))
                        .replace("ALONE", m_isAlone ? "true" : "false"));
@@ -204,7 +207,9 @@ void LostCameraTest::testTheViewerGoesOn()
         QVERIFY2(lost.start(), qPrintable(lost.errorText()));
     }
     QVERIFY2(m_viewer.finish() == 0, qPrintable(m_viewer.logged().join('\n')));
-    m_events = m_viewer.storedEvents();
+    QVERIFY(follower.waitForEvent("GeneralEvent", "SessionEnded"));
+    m_events = follower.events();
+    qInfo("%d events", m_events.size());
 }
 
 void LostCameraTest::testNoOperationWaitedLong()
