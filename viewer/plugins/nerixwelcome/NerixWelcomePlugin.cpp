@@ -95,9 +95,12 @@ void CNerixWelcomePlugin::addWindow()
             connect(help.data(), &IHelpViewService::shown, m_window, &CWelcomeWindow::dropProblem);
         }
     };
-    // The main window, and a script, need not wait for a page to be loaded.
-    connect(m_initializer, &Core::Plugin::IPluginInitializer::initializationDone, this,
-            [this, make] { QTimer::singleShot(afterTheStart, this, make); });
+    // The main window, and a script, need not wait for a page to be loaded. The timer is set by an
+    // event of its own, which comes with the one that runs the script: on a busy machine a timer
+    // that is set at once can be over before that.
+    connect(
+        m_initializer, &Core::Plugin::IPluginInitializer::initializationDone, this,
+        [this, make] { QTimer::singleShot(afterTheStart, this, make); }, Qt::QueuedConnection);
 }
 
 } // namespace NerixWelcome
