@@ -6,14 +6,17 @@
 // for the sanitizer, so it does not see the locks of their event queues.
 //
 // What is written between the begin and the end of an emission, such as the copies of the
-// arguments, is told at its end only. So a receiver waits for that end; not for long, since it may
-// itself be what the emission waits for.
+// arguments, is told at its end only. So a receiver waits until each thread that is in an emission
+// has told something; but not for one that sleeps in it, since it may sleep until the receiver is
+// done.
 //
 // All of this goes over one place, since neither side knows the other. So a race between two
 // threads is missed if an event passed from the one to the other in between, whatever it was about;
 // every other race is still found.
 
 #ifdef __SANITIZE_THREAD__
+
+#include "EmittingThreads.h"
 
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
@@ -45,13 +48,7 @@ extern Q_CORE_EXPORT void qt_register_signal_spy_callbacks(QSignalSpyCallbackSet
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-constexpr std::chrono::milliseconds longestEmission(2);
-
 char meetingPlace;
-std::atomic<int> emissions{0};
-thread_local int ownEmissions = 0;
 
 void tellOthers()
 {
@@ -65,24 +62,14 @@ void hearOthers()
 
 void beginEmission()
 {
-    ++ownEmissions;
-    emissions.fetch_add(1, std::memory_order_relaxed);
     tellOthers();
+    TsanSupport::enterEmission();
 }
 
 void endEmission()
 {
     tellOthers();
-    emissions.fetch_sub(1, std::memory_order_relaxed);
-    --ownEmissions;
-}
-
-void waitForEmissions()
-{
-    const Clock::time_point end = Clock::now() + longestEmission;
-    while (emissions.load(std::memory_order_relaxed) > ownEmissions && Clock::now() < end) {
-        std::this_thread::yield();
-    }
+    TsanSupport::leaveEmission();
 }
 
 /// Stands in for the delivery of an event, so that something can be done after it as well.
@@ -92,11 +79,14 @@ bool deliver(void **data)
     if (!application) {
         return false;
     }
-    waitForEmissions();
+    tellOthers();
+    const int interrupted = TsanSupport::interruptEmissions();
+    TsanSupport::waitForOtherEmissions();
     hearOthers();
     *static_cast<bool *>(data[2]) =
         application->notify(static_cast<QObject *>(data[0]), static_cast<QEvent *>(data[1]));
     tellOthers();
+    TsanSupport::resumeEmissions(interrupted);
     return true;
 }
 
