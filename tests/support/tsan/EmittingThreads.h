@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
-
-#ifndef NERIX_TESTS_TSAN_EMITTINGTHREADS_H
-#define NERIX_TESTS_TSAN_EMITTINGTHREADS_H
+#pragma once
 
 /// Which threads are in an emission, so that a receiver can wait until they have told what they
 /// wrote in it. All functions may be called in any thread; a thread tells what it has written to
@@ -21,5 +19,3 @@ void resumeEmissions(int interrupted);
 void waitForOtherEmissions();
 
 } // namespace TsanSupport
-
-#endif

@@ -3,8 +3,11 @@
 
 #include "CViewerRun.h"
 
+#include <utility>
+
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 
 namespace {
 
@@ -19,6 +22,22 @@ PluginSystem::PluginMetaData metaData()
 } // namespace
 
 CViewerRun::CViewerRun(Application::CommandLine options)
+{
+    make(std::move(options));
+}
+
+CViewerRun::CViewerRun(const QByteArray &script)
+{
+    QFile file(m_folder.filePath(QStringLiteral("test.js")));
+    if (!file.open(QIODevice::WriteOnly) || file.write(script) < 0) {
+        qFatal("no script file");
+    }
+    Application::CommandLine options;
+    options.scriptFile = file.fileName();
+    make(std::move(options));
+}
+
+void CViewerRun::make(Application::CommandLine options)
 {
     if (options.pluginFolders.isEmpty()) {
         options.pluginFolders.append(m_folder.filePath(QStringLiteral("plugins")));

@@ -16,6 +16,7 @@ class CViewerRun
 public:
     // \a options may name a script; the folders are given.
     explicit CViewerRun(Application::CommandLine options = {});
+    explicit CViewerRun(const QByteArray &script);
     ~CViewerRun();
 
     Q_DISABLE_COPY_MOVE(CViewerRun)
@@ -28,6 +29,8 @@ public:
     int run();
 
 private:
+    void make(Application::CommandLine options);
+
     QTemporaryDir m_folder;
     CTestPlugin::Behaviour m_behaviour;
     std::unique_ptr<Application::CViewer> m_viewer;

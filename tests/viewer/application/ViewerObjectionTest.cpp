@@ -5,7 +5,6 @@
 #include "support/CMessageLines.h"
 #include "support/Texts.h"
 
-#include <QFile>
 #include <QTest>
 #include <QTimer>
 
@@ -20,11 +19,6 @@ private Q_SLOTS:
     void testSignalIsToldOnce();
     void testSignalAfterTheScriptIsToldOnce();
     void testFailedScriptStaysFailedWhenQuitIsChosenMeanwhile();
-
-private:
-    Application::CommandLine optionsFor(const QByteArray &script);
-
-    QTemporaryDir m_folder;
 };
 
 namespace {
@@ -65,17 +59,6 @@ QStringList toldOf(const CMessageLines &messages)
 
 } // namespace
 
-Application::CommandLine ViewerObjectionTest::optionsFor(const QByteArray &script)
-{
-    QFile file(m_folder.filePath(QStringLiteral("test.js")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(script) < 0) {
-        qFatal("no script file");
-    }
-    Application::CommandLine options;
-    options.scriptFile = file.fileName();
-    return options;
-}
-
 void ViewerObjectionTest::testEachRequestTellsTheObjection()
 {
     const CMessageLines messages;
@@ -95,7 +78,7 @@ void ViewerObjectionTest::testEachRequestTellsTheObjection()
 void ViewerObjectionTest::testPluginsAreAskedAgainWithoutWordsAfterAScript()
 {
     const CMessageLines messages;
-    CViewerRun run(optionsFor("sleep(1);"));
+    CViewerRun run("sleep(1);");
     allowClosingWhenAsked(run, 3);
     QCOMPARE(run.run(), 0);
     QCOMPARE(toldOf(messages), texts({objection}));
@@ -104,7 +87,7 @@ void ViewerObjectionTest::testPluginsAreAskedAgainWithoutWordsAfterAScript()
 void ViewerObjectionTest::testSignalIsToldOnce()
 {
     const CMessageLines messages;
-    CViewerRun run(optionsFor("sleep(600000);"));
+    CViewerRun run("sleep(600000);");
     connect(&run.viewer().plugins().registry(),
             &Core::Plugin::IPluginInitializer::initializationDone, &run.viewer(),
             &Application::CViewer::quitBySignal);
@@ -116,7 +99,7 @@ void ViewerObjectionTest::testSignalIsToldOnce()
 void ViewerObjectionTest::testSignalAfterTheScriptIsToldOnce()
 {
     const CMessageLines messages;
-    CViewerRun run(optionsFor(""));
+    CViewerRun run("");
     allowClosingWhenAsked(run, 4);
     whenAsked(run, 1, [&run] { run.viewer().quitBySignal(); });
     QCOMPARE(run.run(), 0);
@@ -126,7 +109,7 @@ void ViewerObjectionTest::testSignalAfterTheScriptIsToldOnce()
 void ViewerObjectionTest::testFailedScriptStaysFailedWhenQuitIsChosenMeanwhile()
 {
     const CMessageLines messages;
-    CViewerRun run(optionsFor("fail('reason');"));
+    CViewerRun run("fail('reason');");
     run.behaviour().closable = false;
     whenAsked(run, 1, [&run] {
         run.behaviour().closable = true;

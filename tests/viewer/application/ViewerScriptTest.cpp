@@ -7,8 +7,6 @@
 #include <Plugin/AppCore/IMenuService.h>
 
 #include <QAction>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
@@ -25,11 +23,6 @@ private Q_SLOTS:
     void testSignalBeforeTheScriptBeginsIsAFailure();
     void testSignalEndsTheScriptAndTheViewer_data();
     void testSignalEndsTheScriptAndTheViewer();
-
-private:
-    Application::CommandLine optionsFor(const QByteArray &script);
-
-    QTemporaryDir m_folder;
 };
 
 namespace {
@@ -47,17 +40,6 @@ void registerWhenReady(CViewerRun &run, QAction &action)
 }
 
 } // namespace
-
-Application::CommandLine ViewerScriptTest::optionsFor(const QByteArray &script)
-{
-    QFile file(m_folder.filePath(QStringLiteral("test.js")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(script) < 0) {
-        qFatal("no script file");
-    }
-    Application::CommandLine options;
-    options.scriptFile = file.fileName();
-    return options;
-}
 
 void ViewerScriptTest::testEndOfTheScriptEndsTheViewer_data()
 {
@@ -79,21 +61,21 @@ void ViewerScriptTest::testEndOfTheScriptEndsTheViewer()
 {
     QFETCH(QByteArray, script);
     QFETCH(int, status);
-    CViewerRun run(optionsFor(script));
+    CViewerRun run(script);
     QCOMPARE(run.run(), status);
 }
 
 void ViewerScriptTest::testScriptBeginsWhenEveryPluginIsInitialized()
 {
-    CViewerRun run(optionsFor("plugins.list().forEach(function (plugin) {"
-                              "    if (plugin.state !== 'Running') fail(plugin.name);"
-                              "});"));
+    CViewerRun run("plugins.list().forEach(function (plugin) {"
+                   "    if (plugin.state !== 'Running') fail(plugin.name);"
+                   "});");
     QCOMPARE(run.run(), 0);
 }
 
 void ViewerScriptTest::testPluginThatObjectsAtTheEndIsAskedAgain()
 {
-    CViewerRun run(optionsFor("fail('reason');"));
+    CViewerRun run("fail('reason');");
     CTestPlugin::Behaviour &behaviour = run.behaviour();
     behaviour.closable = false;
     QTimer untilAskedTwice;
@@ -106,7 +88,7 @@ void ViewerScriptTest::testPluginThatObjectsAtTheEndIsAskedAgain()
 
 void ViewerScriptTest::testSignalBeforeTheScriptBeginsIsAFailure()
 {
-    CViewerRun run(optionsFor("sleep(600000);"));
+    CViewerRun run("sleep(600000);");
     run.behaviour().work = [&run] { run.viewer().quitBySignal(); };
     QCOMPARE(run.run(), 1);
 }
@@ -127,7 +109,7 @@ void ViewerScriptTest::testSignalEndsTheScriptAndTheViewer_data()
 void ViewerScriptTest::testSignalEndsTheScriptAndTheViewer()
 {
     QFETCH(QByteArray, script);
-    CViewerRun run(optionsFor("menu.trigger('Test.Begun');" + script));
+    CViewerRun run("menu.trigger('Test.Begun');" + script);
     // From another thread, as the real signal, once the script is on its way.
     const QScopedPointer<QThread> signal(QThread::create([&run] { run.viewer().quitBySignal(); }));
     QAction begun;

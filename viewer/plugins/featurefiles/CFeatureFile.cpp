@@ -3,6 +3,8 @@
 
 #include "plugins/featurefiles/CFeatureFile.h"
 
+#include "windows/WrittenFile.h"
+
 #include <ParameterCollection/CParameterException.h>
 
 #include <algorithm>
@@ -37,13 +39,6 @@ void throwIfGone(const IParameterCollection &parameters)
     }
 }
 
-// The commit would not notice that the last bytes found no room. A disk that is nearly full takes a
-// part at first; only what comes after that tells why it is refused.
-bool isWritten(QFileDevice &file)
-{
-    return file.flush() || file.flush();
-}
-
 } // namespace
 
 CFeatureFile::CFeatureFile(const QString &fileName)
@@ -59,8 +54,8 @@ void CFeatureFile::save(const IParameterCollection &parameters,
         return;
     }
     QSaveFile file(m_fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !isWritten(file)
-        || !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()
+        || !Windows::isWritten(file) || !file.commit()) {
         throw CParameterException(
             tr("file %1 cannot be written: %2; choose another folder")
                 .arg(QDir::toNativeSeparators(m_fileName), file.errorString()));

@@ -4,6 +4,7 @@
 #include "plugins/imageview/ImageFile.h"
 
 #include "plugins/imageview/ImageConversion.h"
+#include "windows/WrittenFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -30,13 +31,6 @@ QByteArray formatOf(const QString &path)
         return QByteArrayLiteral("tiff");
     }
     return suffix == QLatin1String("png") ? QByteArrayLiteral("png") : QByteArray();
-}
-
-// The commit would not notice that the last bytes found no room. A disk that is nearly full takes a
-// part at first; only what comes after that tells why it is refused.
-bool isWritten(QFileDevice &file)
-{
-    return file.flush() || file.flush();
 }
 
 QString cannotWrite(const QString &path, const QString &reason)
@@ -68,7 +62,8 @@ QString writeImageFile(const Nerix::CImage &image, const QString &path)
     if (!writer.write(fileImage(image))) {
         return cannotWrite(path, writer.errorString());
     }
-    return isWritten(file) && file.commit() ? QString() : cannotWrite(path, file.errorString());
+    return Windows::isWritten(file) && file.commit() ? QString()
+                                                     : cannotWrite(path, file.errorString());
 }
 
 QString suggestedFileName(const QString &cameraName, const QDateTime &time)
