@@ -31,7 +31,7 @@ packages=(
     # Debian packages, and what checks that a desktop understands ours
     dpkg-dev appstream desktop-file-utils
     # a desktop for the tests: a window manager, and keys that come from outside
-    openbox xdotool
+    openbox x11-utils xdotool
 )
 
 missing=()

@@ -3,10 +3,9 @@
 
 // Where the windows stand at the first start, with a window manager, as an outsider sees it.
 
+#include "CDesktop.h"
 #include "CViewerProcess.h"
 
-#include <QProcess>
-#include <QRect>
 #include <QTest>
 
 class FirstWindowsTest : public QObject
@@ -14,13 +13,7 @@ class FirstWindowsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
-
     void testWelcomeScreenStandsInTheMiddleOfTheMainWindow();
-
-private:
-    QProcess m_windowManager;
 };
 
 namespace {
@@ -28,45 +21,12 @@ namespace {
 // What the frames of the windows may add, and where they differ.
 constexpr int frames = 40;
 
-QByteArray asked(const QStringList &arguments)
-{
-    QProcess program;
-    program.start("xdotool", arguments);
-    program.waitForFinished();
-    return program.readAllStandardOutput();
-}
-
-// Without the frame. Null if no such window is seen.
-QRect placeOf(const QString &title)
-{
-    const QByteArray lines = asked({"search", "--onlyvisible", "--name", '^' + title + '$',
-                                    "getwindowgeometry", "--shell", "%1"});
-    const auto value = [&lines](const char *name) {
-        const int begin = lines.indexOf(name) + int(qstrlen(name));
-        return lines.mid(begin, lines.indexOf('\n', begin) - begin).toInt();
-    };
-    return lines.contains("WIDTH=")
-               ? QRect(value("X="), value("Y="), value("WIDTH="), value("HEIGHT="))
-               : QRect();
-}
-
 } // namespace
-
-void FirstWindowsTest::initTestCase()
-{
-    m_windowManager.start("openbox", {"--sm-disable"});
-    QVERIFY(m_windowManager.waitForStarted());
-    QVERIFY(QTest::qWaitFor([] { return asked({"get_num_desktops"}).trimmed().toInt() > 0; }));
-}
-
-void FirstWindowsTest::cleanupTestCase()
-{
-    m_windowManager.terminate();
-    m_windowManager.waitForFinished();
-}
 
 void FirstWindowsTest::testWelcomeScreenStandsInTheMiddleOfTheMainWindow()
 {
+    CDesktop desktop;
+    QVERIFY(desktop.start());
     CViewerProcess viewer;
     viewer.setOptions({"--show-windows"});
     viewer.start("while (!welcome.visible()) { sleep(10); }\n"
@@ -77,8 +37,8 @@ void FirstWindowsTest::testWelcomeScreenStandsInTheMiddleOfTheMainWindow()
     QRect welcome;
     QVERIFY(QTest::qWaitFor(
         [&] {
-            main = placeOf("Nerix Viewer");
-            welcome = placeOf("Welcome to the Nerix Viewer");
+            main = CDesktop::placeOf("Nerix Viewer");
+            welcome = CDesktop::placeOf("Welcome to the Nerix Viewer");
             return !main.isNull() && !welcome.isNull();
         },
         60000));
@@ -87,6 +47,7 @@ void FirstWindowsTest::testWelcomeScreenStandsInTheMiddleOfTheMainWindow()
              qPrintable(QString("%1 %2").arg(off.x()).arg(off.y())));
     const QRect screen(0, 0, 2560, 1600); // of tools/with-display.sh
     QVERIFY(screen.contains(welcome) && screen.contains(main));
+    QCOMPARE(main.height(), 800);
     viewer.terminate();
     viewer.finish();
 }

@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
 
 namespace Plugin {
@@ -107,7 +108,7 @@ void CMainWindow::restoreLayout()
     m_builtState = saveState(layoutVersion);
     const QSettings settings;
     if (!restoreGeometry(settings.value(geometryKey).toByteArray())) {
-        moveToTheMiddle();
+        takeFirstPlace();
     }
     if (restoreState(settings.value(stateKey).toByteArray(), layoutVersion)) {
         m_sidePanels->adopt();
@@ -127,11 +128,16 @@ void CMainWindow::setFirstSizes()
     }
 }
 
-// The window manager would do that too, but when dialogs have placed themselves over the window
-// already.
-void CMainWindow::moveToTheMiddle()
+// In the middle; all of a screen that is too small. The window manager would move it too, but when
+// dialogs have placed themselves over the window already.
+void CMainWindow::takeFirstPlace()
 {
     const QRect room = screen()->availableGeometry();
+    const QSize largest = room.size() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    if (size() != size().boundedTo(largest)) {
+        resize(size().boundedTo(largest));
+        setWindowState(windowState() | Qt::WindowMaximized);
+    }
     const QPoint middle = room.center() - rect().center();
     move(qMax(room.left(), middle.x()), qMax(room.top(), middle.y()));
 }

@@ -56,7 +56,7 @@ protected:
 
 private:
     void setFirstSizes();
-    void moveToTheMiddle();
+    void takeFirstPlace();
 
     QToolBar *m_toolBar;
     std::unique_ptr<CSidePanels> m_sidePanels;
