@@ -72,6 +72,28 @@ void endEmission()
     TsanSupport::leaveEmission();
 }
 
+/// While an event is delivered: what the receiver writes is told at the end, however that comes.
+class Delivery
+{
+public:
+    Delivery()
+    {
+        tellOthers();
+        m_interrupted = TsanSupport::interruptEmissions();
+        TsanSupport::waitForOtherEmissions();
+        hearOthers();
+    }
+    ~Delivery()
+    {
+        tellOthers();
+        TsanSupport::resumeEmissions(m_interrupted);
+    }
+    Q_DISABLE_COPY_MOVE(Delivery)
+
+private:
+    int m_interrupted = 0;
+};
+
 /// Stands in for the delivery of an event, so that something can be done after it as well.
 bool deliver(void **data)
 {
@@ -79,14 +101,9 @@ bool deliver(void **data)
     if (!application) {
         return false;
     }
-    tellOthers();
-    const int interrupted = TsanSupport::interruptEmissions();
-    TsanSupport::waitForOtherEmissions();
-    hearOthers();
+    const Delivery delivery;
     *static_cast<bool *>(data[2]) =
         application->notify(static_cast<QObject *>(data[0]), static_cast<QEvent *>(data[1]));
-    tellOthers();
-    TsanSupport::resumeEmissions(interrupted);
     return true;
 }
 

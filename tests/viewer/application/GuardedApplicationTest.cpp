@@ -23,10 +23,6 @@ public Q_SLOTS:
     {
         throw 7;
     }
-    void release(QSemaphore *semaphore)
-    {
-        semaphore->release();
-    }
 };
 
 class GuardedApplicationTest : public QObject
@@ -97,8 +93,8 @@ void GuardedApplicationTest::testThreadGoesOnAfterAnException()
     QSemaphore semaphore;
     const CInThread thread(thrower);
     QMetaObject::invokeMethod(&thrower, &CThrower::throwStandard, Qt::QueuedConnection);
-    QMetaObject::invokeMethod(&thrower, "release", Qt::QueuedConnection,
-                              Q_ARG(QSemaphore *, &semaphore));
+    QMetaObject::invokeMethod(
+        &thrower, [&semaphore] { semaphore.release(); }, Qt::QueuedConnection);
     semaphore.acquire();
 }
 
