@@ -3,14 +3,13 @@
 
 #include "FakeParameterCollection.h"
 
-using ParameterCollection::CParameterException;
 using ParameterCollection::IParameter;
 
 template <class Interface, class Null>
 QSharedPointer<Interface> FakeParameterCollection::find(const QString &fullName) const
 {
     if (throwingLookups.contains(fullName)) {
-        throw CParameterException(QStringLiteral("look-up failed"));
+        raise(QStringLiteral("look-up failed"));
     }
     for (const auto &candidate : all) {
         const auto found = candidate.dynamicCast<Interface>();
@@ -24,7 +23,7 @@ QSharedPointer<Interface> FakeParameterCollection::find(const QString &fullName)
 QList<QSharedPointer<IParameter>> FakeParameterCollection::parameters() const
 {
     if (listThrows) {
-        throw CParameterException(QStringLiteral("parameters failed"));
+        raise(QStringLiteral("parameters failed"));
     }
     return all;
 }
@@ -56,7 +55,7 @@ QString FakeParameterCollection::featureStream(const QString &treeName) const
 {
     streamsRead.append(treeName);
     if (streamThrows) {
-        throw CParameterException(QStringLiteral("featureStream failed"));
+        raise(QStringLiteral("featureStream failed"));
     }
     return stream;
 }

@@ -40,6 +40,7 @@ public:
     bool streamThrows = false;
     /// The full names whose look-up throws, whatever kind is looked for.
     QSet<QString> throwingLookups;
+    FakeException raise = throwParameterException;
     /// The trees whose stream was read, in order.
     mutable QList<QString> streamsRead;
 

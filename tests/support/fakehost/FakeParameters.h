@@ -7,8 +7,24 @@
 #include <ParameterCollection/IIntegerParameter.h>
 #include <ParameterCollection/IParameter.h>
 
+#include <functional>
+
 #include <QSet>
 #include <QString>
+
+/// How a fake throws.
+using FakeException = std::function<void(const QString &message)>;
+
+inline void throwParameterException(const QString &message)
+{
+    throw ParameterCollection::CParameterException(message);
+}
+
+/// What is no exception class at all.
+inline void throwNumber(const QString & /*message*/)
+{
+    throw 5;
+}
 
 /// What a fake parameter answers. `throwing` holds the operations that throw, by name ("name",
 /// "isUnavailable", "value", ...).
@@ -22,12 +38,12 @@ struct FakeParameterState
     bool stateUserSettable = true;
     QString stateText;
     QSet<QString> throwing;
+    FakeException raise = throwParameterException;
 
     void check(const char *operation) const
     {
         if (stateIsNull || throwing.contains(QLatin1String(operation))) {
-            throw ParameterCollection::CParameterException(QLatin1String(operation)
-                                                           + QStringLiteral(" failed"));
+            raise(QLatin1String(operation) + QStringLiteral(" failed"));
         }
     }
 

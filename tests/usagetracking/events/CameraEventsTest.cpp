@@ -5,8 +5,11 @@
 
 #include "CatchingApplication.h"
 #include "EventCalls.h"
+#include "MessageLog.h"
 #include "TestMain.h"
 #include "TrackingFixture.h"
+
+#include <optional>
 
 using Core::CameraPoolComponents::DeviceBaseInfoPtr;
 
@@ -64,9 +67,20 @@ private:
             .section('}', 0, 0);
     }
 
+    std::optional<MessageLog> m_log;
+
 private Q_SLOTS:
+    void init()
+    {
+        m_log.emplace();
+    }
+
+    // Whatever comes, nothing is said about it.
     void cleanup()
     {
+        const QStringList logged = m_log->texts();
+        m_log.reset();
+        QCOMPARE(logged, QStringList());
         QCOMPARE(CatchingApplication::takeCaught(), QStringList());
     }
 

@@ -5,10 +5,28 @@
 
 #include "CatchingApplication.h"
 #include "EventCalls.h"
+#include "MessageLog.h"
 #include "TestMain.h"
 #include "TrackingFixture.h"
 
 using Core::CameraPoolComponents::DeviceBaseInfoPtr;
+
+namespace {
+
+/// What the life of a camera leads to.
+const QStringList everyEvent{"Model | Vendor ab1234-50c",
+                             "Camera | Connected",
+                             "GeneralEvent | InitialCameraCount",
+                             "Camera | Opened",
+                             "FeatureChosen | Gain",
+                             "ParameterValueChanged | Gain",
+                             "Grab | Started",
+                             "Grab | Stopped",
+                             "Grab | Failed",
+                             "Camera | Closed",
+                             "Camera | Removed"};
+
+} // namespace
 
 class DeviceEventsTest : public QObject
 {
@@ -43,6 +61,40 @@ private:
         const auto camera = f.host.makeCamera(identity);
         f.host.parametersOf(camera)->stream = QString::fromUtf8(stream);
         return camera;
+    }
+
+    /// The life of one camera, with every signal that is heard.
+    static void letEverythingHappen(TrackingFixture &f)
+    {
+        const auto camera = makeCamera(f, "A", "s");
+        const auto gain = f.host.parametersOf(camera)->add<FakeInteger>("@CameraDevice/Gain");
+        f.host.parametersOf(camera)->add<FakeEnumeration>("@CameraDevice/AcquisitionMode");
+        const auto failure = std::make_shared<Nerix::CGrabResultData>(7U, "...");
+        f.emitFromHost([&] {
+            Q_EMIT f.host.cameraStatus->deviceConnected(camera);
+            Q_EMIT f.host.enumeration->enumerationChanged();
+            Q_EMIT f.host.cameraStatus->deviceOpened(camera);
+            Q_EMIT f.host.deviceSelector->selectionChanged(camera);
+            Q_EMIT f.host.featureTree->currentChanged(gain);
+        });
+        f.emitFromHost([&] { gain->setValueText("1"); });
+        f.emitFromHost([&] {
+            Q_EMIT f.host.cameraStatus->cameraGrabStarted(camera);
+            Q_EMIT f.host.cameraStatus->cameraImageGrabbed(camera, failure);
+            Q_EMIT f.host.cameraStatus->cameraGrabStopped(camera);
+            Q_EMIT f.host.cameraStatus->deviceClosing(camera);
+            Q_EMIT f.host.cameraStatus->deviceDisconnected(camera);
+        });
+    }
+
+    /// Category and name of each event.
+    static QStringList sentEvents(const TrackingFixture &f)
+    {
+        QStringList events;
+        for (const QString &call : f.analytics.calls()) {
+            events.append(call.section(" | ", 1, 2));
+        }
+        return events;
     }
 
 private Q_SLOTS:
@@ -164,9 +216,11 @@ private Q_SLOTS:
         const auto gain = parameters->add<FakeInteger>("@CameraDevice/Gain");
         f.host.parameterService->collections.insert(device.data(), parameters);
         f.startQuietly();
+        const MessageLog log;
         QCOMPARE(openCalls(f, device), QStringList());
         QCOMPARE(closeCalls(f, device), QStringList());
         QCOMPARE(f.callsFor([&] { gain->setValueText("1"); }), QStringList());
+        QCOMPARE(log.texts(), QStringList());
         QCOMPARE(f.host.parameterService->fetches, 0);
     }
 
@@ -175,8 +229,10 @@ private Q_SLOTS:
         TrackingFixture f;
         f.startQuietly();
         const auto camera = QSharedPointer<FakeCamera>::create("A");
+        const MessageLog log;
         QCOMPARE(openCalls(f, camera), QStringList());
         QCOMPARE(closeCalls(f, camera), QStringList());
+        QCOMPARE(log.texts(), QStringList());
         QCOMPARE(f.host.parameterService->fetches, 2);
         QCOMPARE(openCalls(f, makeCamera(f, "B", "s")), configuration("Opened", 1, "s"));
     }
@@ -234,20 +290,21 @@ private Q_SLOTS:
     {
         TrackingFixture f;
         f.startQuietly();
-        const auto camera = makeCamera(f, "A", "s");
-        const auto gain = f.host.parametersOf(camera)->add<FakeInteger>("@CameraDevice/Gain");
-        f.emitFromHost([&] {
-            Q_EMIT f.host.cameraStatus->deviceConnected(camera);
-            Q_EMIT f.host.cameraStatus->deviceOpened(camera);
-            Q_EMIT f.host.deviceSelector->selectionChanged(camera);
-            Q_EMIT f.host.featureTree->currentChanged(gain);
-            Q_EMIT f.host.cameraStatus->cameraGrabStopped(camera);
-            Q_EMIT f.host.cameraStatus->deviceClosing(camera);
-            Q_EMIT f.host.cameraStatus->deviceDisconnected(camera);
-        });
-        f.emitFromHost([&] { gain->setValueText("1"); });
-        QCOMPARE(f.analytics.calls().size(), 8);
+        letEverythingHappen(f);
+        QCOMPARE(sentEvents(f), everyEvent);
         QCOMPARE(f.analytics.callsIn(&f.trackingThread), f.analytics.calls());
+    }
+
+    void everyEventIsSentWhateverTheLibraryAnswers()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        f.analytics.setResult(QStringLiteral("ruiTrackEvent"), 5);
+        f.analytics.setResult(QStringLiteral("ruiTrackEventText"), 6);
+        const MessageLog log;
+        letEverythingHappen(f);
+        QCOMPARE(sentEvents(f), everyEvent);
+        QCOMPARE(log.texts(), QStringList());
     }
 };
 

@@ -141,6 +141,24 @@ private:
         });
     }
 
+    static void addRowsOfOtherExceptions()
+    {
+        addGuardRow("the second probe runs after the first one threw what is no exception class",
+                    false, [](auto &p) {
+                        const auto mode = addMode(p, 1);
+                        mode->throwing = {"intValue"};
+                        mode->raise = throwNumber;
+                        addEnable(p, true);
+                    });
+        addGuardRow("what the second probe throws keeps the first one's flag, whatever it is",
+                    false, [](auto &p) {
+                        addMode(p, 1);
+                        const auto enable = addEnable(p, true);
+                        enable->throwing = {"value"};
+                        enable->raise = throwNumber;
+                    });
+    }
+
 private Q_SLOTS:
     void cleanup()
     {
@@ -189,6 +207,7 @@ private Q_SLOTS:
         addModeRows();
         addEnableRows();
         addExceptionRows();
+        addRowsOfOtherExceptions();
     }
 
     void sequencerGuard()

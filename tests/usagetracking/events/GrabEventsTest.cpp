@@ -227,6 +227,18 @@ private Q_SLOTS:
         QCOMPARE(log.texts(), QStringList());
     }
 
+    void whateverTheModeThrowsItIsUndefinedAtTheStop()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        const auto camera = f.host.makeCamera("A");
+        f.connectCamera(camera);
+        const auto mode = addMode(f, camera);
+        mode->throwing = {"valueText"};
+        mode->raise = throwNumber;
+        QCOMPARE(stopCalls(f, camera), stopped("undefined"));
+    }
+
     void lookUpOfTheModeThatFailsIsUndefinedAtTheStop()
     {
         TrackingFixture f;
@@ -246,14 +258,16 @@ private Q_SLOTS:
         QCOMPARE(CatchingApplication::takeCaught(), QStringList("identity failed"));
     }
 
-    void withoutParametersNothingIsSent()
+    void withoutParametersNothingIsSentAndNothingLogged()
     {
         TrackingFixture f;
         f.startQuietly();
         const auto camera = QSharedPointer<FakeCamera>::create("A");
         f.connectCamera(camera);
+        const MessageLog log;
         QCOMPARE(startCalls(f, camera), QStringList());
         QCOMPARE(stopCalls(f, camera), QStringList());
+        QCOMPARE(log.texts(), QStringList());
     }
 
     void deviceThatIsNoCameraIsIgnored_data()
@@ -271,8 +285,10 @@ private Q_SLOTS:
         const auto parameters = QSharedPointer<FakeParameterCollection>::create();
         parameters->add<FakeEnumeration>(modeName)->stateText = QStringLiteral("Continuous");
         f.host.parameterService->collections.insert(device.data(), parameters);
+        const MessageLog log;
         f.callSlot("onCameraGrabStarted", device);
         f.callSlot("onCameraGrabStopped", device);
+        QCOMPARE(log.texts(), QStringList());
         QCOMPARE(f.analytics.calls(), QStringList());
         QCOMPARE(f.host.parameterService->fetches, 0);
     }
@@ -281,8 +297,10 @@ private Q_SLOTS:
     {
         TrackingFixture f;
         f.startQuietly();
+        const MessageLog log;
         QCOMPARE(startCalls(f, CameraInfoPtr()), QStringList());
         QCOMPARE(stopCalls(f, CameraInfoPtr()), QStringList());
+        QCOMPARE(log.texts(), QStringList());
     }
 
     void twoStartsAndAStopWithoutAStartAreReportedAsTheyCome()

@@ -165,7 +165,7 @@ private Q_SLOTS:
         QCOMPARE(reported(f, camera), QStringList(failed(sent.toLatin1(), 1, "...")));
     }
 
-    void text_data()
+    void theTextIsMaskedAndNothingElse_data()
     {
         QTest::addColumn<QByteArray>("description");
         QTest::addColumn<QString>("sent");
@@ -181,7 +181,7 @@ private Q_SLOTS:
         QTest::newRow("long texts are not cut") << QByteArray(200000, '.') << QString(200000, '.');
     }
 
-    void text()
+    void theTextIsMaskedAndNothingElse()
     {
         QFETCH(QByteArray, description);
         QFETCH(QString, sent);

@@ -53,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(CatchingApplication::takeCaught(), QStringList());
     }
 
-    void twoChanges()
+    void theFirstInitialValueIsEmptyAndTheNextIsTheValueBefore()
     {
         TrackingFixture f;
         f.startQuietly();

@@ -43,6 +43,7 @@ public:
 
 using Change = std::function<void(FakeParameterState &)>;
 Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(FakeException)
 Q_DECLARE_METATYPE(ParameterCollection::InterfaceType)
 
 class ParameterObserversTest : public QObject
@@ -179,6 +180,17 @@ private Q_SLOTS:
         QCOMPARE(observers(f, gain), 0);
     }
 
+    void exceptionOfAnyKindOfTheListIsLogged()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        const auto camera = f.host.makeCamera("A");
+        f.host.parametersOf(camera)->listThrows = true;
+        f.host.parametersOf(camera)->raise = throwNumber;
+        QTest::ignoreMessage(QtDebugMsg, attachingFailed);
+        QCOMPARE(f.callsFor([&] { Q_EMIT f.host.cameraStatus->deviceOpened(camera); }).size(), 1);
+    }
+
     void exceptionOfATestEndsTheLoopAndIsLogged_data()
     {
         QTest::addColumn<QString>("operation");
@@ -249,14 +261,23 @@ private Q_SLOTS:
         QCOMPARE(observers(f, after), 1);
     }
 
+    void failureToNameAParameterCostsOnlyThatParameter_data()
+    {
+        QTest::addColumn<FakeException>("exception");
+        QTest::newRow("an exception") << FakeException(throwParameterException);
+        QTest::newRow("what is no exception class") << FakeException(throwNumber);
+    }
+
     void failureToNameAParameterCostsOnlyThatParameter()
     {
+        QFETCH(FakeException, exception);
         TrackingFixture f;
         f.startQuietly();
         const auto camera = f.host.makeCamera("A");
         const auto broken = add(f, camera, "@CameraDevice/Broken");
         const auto after = add(f, camera, "@CameraDevice/After");
         broken->throwing = {"name"};
+        broken->raise = exception;
         QTest::ignoreMessage(QtDebugMsg, "Tracking couldn't connect to ");
         f.openCamera(camera);
         QCOMPARE(observers(f, broken), 0);

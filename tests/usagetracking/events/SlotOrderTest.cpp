@@ -52,7 +52,7 @@ private Q_SLOTS:
         QCOMPARE(CatchingApplication::takeCaught(), QStringList());
     }
 
-    void connected()
+    void connectedSendsThePlainEventBeforeItAsksForTheNumber()
     {
         Journalled j;
         QCOMPARE(j.entriesFor([&] { Q_EMIT j.cameras.deviceConnected(j.camera); }),
@@ -60,14 +60,14 @@ private Q_SLOTS:
                               "send Connected"}));
     }
 
-    void removed()
+    void removedAsksForTheModelBeforeTheNumber()
     {
         Journalled j;
         QCOMPARE(j.entriesFor([&] { Q_EMIT j.cameras.deviceDisconnected(j.camera); }),
                  QStringList({"model", "identity", "send Removed"}));
     }
 
-    void selected()
+    void selectedAsksAsTheOthersDoAndSendsNothing()
     {
         Journalled j;
         QCOMPARE(j.entriesFor(
@@ -105,7 +105,7 @@ private Q_SLOTS:
                               "send Closed"}));
     }
 
-    void grabStarted()
+    void grabStartedReadsTheModeFirst()
     {
         Journalled j;
         j.parameterService->collection().add<FakeEnumeration>("@CameraDevice/AcquisitionMode");

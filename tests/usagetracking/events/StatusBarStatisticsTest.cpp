@@ -213,6 +213,17 @@ private Q_SLOTS:
                          noCounters));
     }
 
+    void updateNumbersNoCamera()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        update(f, f.host.makeCamera("B"), 1, 0, 0.0, 0);
+        // Number 0 goes to the first that is connected.
+        QCOMPARE(stopCalls(f, connectCamera(f)), stopped(noStatistics, noCounters));
+        f.stop();
+        QVERIFY(f.analytics.calls().value(0).contains(R"("TotalUsedCameraCount":1})"));
+    }
+
     void figuresOfTwoCamerasAreApart()
     {
         TrackingFixture f;

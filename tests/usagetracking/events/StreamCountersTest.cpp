@@ -8,7 +8,9 @@
 #include "TestMain.h"
 #include "TrackingFixture.h"
 
+#include <functional>
 #include <iterator>
+#include <stdexcept>
 
 namespace {
 
@@ -57,7 +59,27 @@ private:
     FakeParameterService *m_service;
 };
 
+/// Lets something throw that a stop asks for.
+using Breakage = std::function<void(FakeParameterService &, FakeParameterCollection &)>;
+
+QSharedPointer<FakeInteger> counterOf(const FakeParameterCollection &parameters, int index)
+{
+    return parameters.all.at(index).dynamicCast<FakeInteger>();
+}
+
+/// The first fetch, for the mode, is number 1.
+void throwAtFetch(FakeParameterService &service, int number)
+{
+    service.onFetch = [&service, number] {
+        if (service.fetches == number) {
+            throw std::runtime_error("fetch failed");
+        }
+    };
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(Breakage)
 
 class StreamCountersTest : public QObject
 {
@@ -169,21 +191,34 @@ private Q_SLOTS:
 
     void exceptionOfACounterLeavesTheSlotAndNoStopIsSent_data()
     {
-        QTest::addColumn<QString>("operation");
-        QTest::newRow("its value") << "value";
-        QTest::newRow("whether it can be read") << "isReadable";
+        QTest::addColumn<Breakage>("breakage");
+        QTest::addColumn<QString>("caught");
+        QTest::newRow("its value")
+            << Breakage([](auto &, auto &p) { counterOf(p, 7)->throwing = {"value"}; })
+            << "value failed";
+        QTest::newRow("whether it can be read")
+            << Breakage([](auto &, auto &p) { counterOf(p, 7)->throwing = {"isReadable"}; })
+            << "isReadable failed";
+        QTest::newRow("its look-up")
+            << Breakage([](auto &, auto &p) { p.throwingLookups = {counterNames[7]}; })
+            << "look-up failed";
+        QTest::newRow("the service, for the first counter")
+            << Breakage([](auto &s, auto &) { throwAtFetch(s, 2); }) << "fetch failed";
+        QTest::newRow("the service, for the last counter")
+            << Breakage([](auto &s, auto &) { throwAtFetch(s, 9); }) << "fetch failed";
     }
 
     void exceptionOfACounterLeavesTheSlotAndNoStopIsSent()
     {
-        QFETCH(QString, operation);
+        QFETCH(Breakage, breakage);
+        QFETCH(QString, caught);
         TrackingFixture f;
         f.startQuietly();
         const auto camera = connectCamera(f);
-        const auto counters = addCounters(*f.host.parametersOf(camera));
-        counters.at(7)->throwing = {operation};
+        addCounters(*f.host.parametersOf(camera));
+        breakage(*f.host.parameterService, *f.host.parametersOf(camera));
         QCOMPARE(stopCalls(f, camera), QStringList());
-        QCOMPARE(CatchingApplication::takeCaught(), QStringList(operation + " failed"));
+        QCOMPARE(CatchingApplication::takeCaught(), QStringList(caught));
     }
 
     void countersAreReadInTheirOrderEachFromACollectionFetchedAfresh()

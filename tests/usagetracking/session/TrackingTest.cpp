@@ -82,7 +82,6 @@ private Q_SLOTS:
             seenOnReturn = f.analytics.calls();
             returned.release();
         });
-        QVERIFY2(!returned.tryAcquire(1, 200), "the emitter did not wait");
         release.release();
         returned.acquire();
         QCOMPARE(f.host.parametersOf(camera)->streamsRead,

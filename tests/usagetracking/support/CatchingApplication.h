@@ -24,6 +24,10 @@ public:
             const QMutexLocker lock(&m_mutex);
             m_caught.append(QString::fromUtf8(exception.what()));
             return false;
+        } catch (...) {
+            const QMutexLocker lock(&m_mutex);
+            m_caught.append(QStringLiteral("what is no exception class"));
+            return false;
         }
     }
 
