@@ -15,6 +15,8 @@ private Q_SLOTS:
     void questionsAreTheBytesOfTheProtocol();
     void discoveryAnswerGivesTheTexts();
     void textsThatFillTheirFieldHaveNoZero();
+    void macAddressStandsForASerialNumberThatIsMissing_data();
+    void macAddressStandsForASerialNumberThatIsMissing();
     void damagedDiscoveryAnswerIsRefused_data();
     void damagedDiscoveryAnswerIsRefused();
     void privilegeAnswerTellsWhetherSomebodyControls_data();
@@ -71,6 +73,28 @@ void GvcpMessageTest::textsThatFillTheirFieldHaveNoZero()
     QVERIFY(GvcpMessage::parseDiscoveryAnswer(answer, 0x1234, &camera));
     QCOMPARE(camera.serial, QStringLiteral("0123456789abcdef"));
     QCOMPARE(camera.userName, QStringLiteral("fedcba9876543210"));
+}
+
+void GvcpMessageTest::macAddressStandsForASerialNumberThatIsMissing_data()
+{
+    QTest::addColumn<QByteArray>("serial");
+    QTest::addColumn<QString>("identity");
+    QTest::newRow("none") << QByteArray("") << QStringLiteral("Ostrand-XQZ-2000-00ab0cd0ef12");
+    QTest::newRow("spaces") << QByteArray("   ") << QStringLiteral("Ostrand-XQZ-2000-00ab0cd0ef12");
+    QTest::newRow("given") << QByteArray("404142") << QStringLiteral("Ostrand-XQZ-2000-404142");
+}
+
+void GvcpMessageTest::macAddressStandsForASerialNumberThatIsMissing()
+{
+    QFETCH(QByteArray, serial);
+    QByteArray answer = discoveryAnswer();
+    answer.replace(8 + 0x08, 8, QByteArray::fromHex("ffff00ab0cd0ef12"));
+    put(&answer, 0x48, "Ostrand");
+    put(&answer, 0x68, "XQZ-2000");
+    put(&answer, 0xd8, serial.constData());
+    CFoundCamera camera;
+    QVERIFY(GvcpMessage::parseDiscoveryAnswer(answer, 0x1234, &camera));
+    QTEST(camera.identity(), "identity");
 }
 
 void GvcpMessageTest::damagedDiscoveryAnswerIsRefused_data()

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
+#include "CGvcpResponder.h"
 #include "CSimulatorProcess.h"
 #include "plugins/camerapool/CLoopbackSearch.h"
 #include "plugins/camerapool/CNetworkSearch.h"
@@ -17,6 +18,10 @@ private Q_SLOTS:
     void searchByAddressTellsAllOfACamera();
     void searchByAddressFindsNothingWhereNobodyListens();
     void searchByBroadcastTellsTheSame();
+    void camerasWithoutASerialNumberAreToldApart_data();
+    void camerasWithoutASerialNumberAreToldApart();
+    void cameraThatAnswersNobodyAloneHasTheSameIdentity_data();
+    void cameraThatAnswersNobodyAloneHasTheSameIdentity();
     void environmentChoosesTheSearch_data();
     void environmentChoosesTheSearch();
 };
@@ -36,6 +41,21 @@ void checkCamera(const QVector<CFoundCamera> &found)
     QVERIFY(!found.first().isControlled);
 }
 
+QStringList identities(const QVector<CFoundCamera> &found)
+{
+    QStringList result;
+    for (const CFoundCamera &camera : found) {
+        result.append(camera.identity());
+    }
+    result.sort();
+    return result;
+}
+
+bool isIsolated()
+{
+    return qgetenv("NERIX_NETWORK") == "isolated";
+}
+
 } // namespace
 
 void SearchTest::searchByAddressTellsAllOfACamera()
@@ -52,12 +72,56 @@ void SearchTest::searchByAddressFindsNothingWhereNobodyListens()
 
 void SearchTest::searchByBroadcastTellsTheSame()
 {
-    if (qgetenv("NERIX_NETWORK") != "isolated") {
+    if (!isIsolated()) {
         QSKIP("broadcasts only in a network of its own");
     }
     CSimulatorProcess simulator(options);
     QVERIFY(simulator.start());
     checkCamera(CNetworkSearch().search());
+}
+
+void SearchTest::camerasWithoutASerialNumberAreToldApart_data()
+{
+    QTest::addColumn<bool>("isByAddress");
+    QTest::newRow("by address") << true;
+    QTest::newRow("by broadcast") << false;
+}
+
+void SearchTest::camerasWithoutASerialNumberAreToldApart()
+{
+    QFETCH(bool, isByAddress);
+    if (!isIsolated()) {
+        QSKIP("needs several addresses, and broadcasts only in a network of its own");
+    }
+    const CGvcpResponder one({"127.0.0.1", "02ab00000001", "", ""});
+    const CGvcpResponder other({"127.0.0.2", "02ab00000002", "", ""});
+    QVERIFY(one.isListening() && other.isListening());
+    QCOMPARE(identities(isByAddress ? CLoopbackSearch().search() : CNetworkSearch().search()),
+             (QStringList{QStringLiteral("Ostrand-XQZ-2000-02ab00000001"),
+                          QStringLiteral("Ostrand-XQZ-2000-02ab00000002")}));
+}
+
+void SearchTest::cameraThatAnswersNobodyAloneHasTheSameIdentity_data()
+{
+    QTest::addColumn<QByteArray>("serial");
+    QTest::addColumn<QString>("identity");
+    QTest::newRow("serial number") << QByteArray("A1") << QStringLiteral("Ostrand-XQZ-2000-A1");
+    QTest::newRow("serial number with a space at its end")
+        << QByteArray("A1 ") << QStringLiteral("Ostrand-XQZ-2000-A1");
+    QTest::newRow("no serial number")
+        << QByteArray("") << QStringLiteral("Ostrand-XQZ-2000-02ab00000001");
+}
+
+void SearchTest::cameraThatAnswersNobodyAloneHasTheSameIdentity()
+{
+    if (!isIsolated()) {
+        QSKIP("broadcasts only in a network of its own");
+    }
+    QFETCH(QByteArray, serial);
+    QFETCH(QString, identity);
+    const CGvcpResponder camera({"127.0.0.1", "02ab00000001", serial, "", 0, [] { return false; }});
+    QVERIFY(camera.isListening());
+    QCOMPARE(identities(CNetworkSearch().search()), QStringList{identity});
 }
 
 void SearchTest::environmentChoosesTheSearch_data()

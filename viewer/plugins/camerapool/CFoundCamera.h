@@ -11,16 +11,18 @@ struct CFoundCamera
 {
     QString vendor;
     QString model;
-    QString serial;
+    QString serial;   ///< empty for a camera that has none
+    QString mac;      ///< twelve lower-case hexadecimal digits; empty for a camera that is not GigE
     QString userName; ///< the name that the user gave it; empty for none, or where unknown
     QString openId;   ///< by which the transport opens it: an IP address, else Aravis' own id
     bool isGigE = true;
     bool isControlled = false; ///< some program controls it, this one included
 
-    /// Unique, and the same after unplugging and renaming: "vendor-model-serial".
+    /// Unique, and the same after unplugging and renaming: "vendor-model-serial". The serial number
+    /// is optional in GigE Vision; the MAC address stands for one that is missing.
     QString identity() const
     {
-        return QStringLiteral("%1-%2-%3").arg(vendor, model, serial);
+        return QStringLiteral("%1-%2-%3").arg(vendor, model, serial.isEmpty() ? mac : serial);
     }
 
     /// What the user reads.

@@ -11,13 +11,32 @@
 namespace CameraPool {
 namespace {
 
+// Trimmed as in the camera's own answer, so that both make the same identity.
+QString text(const char *value)
+{
+    return QString::fromUtf8(value).trimmed();
+}
+
+// Aravis gives the MAC address, with colons, for a serial number that is missing.
+void describeGigE(unsigned int index, CFoundCamera *camera)
+{
+    const QString physicalId = text(arv_get_device_physical_id(index));
+    if (camera->serial == physicalId) {
+        camera->serial.clear();
+    }
+    camera->mac = QString(physicalId).remove(u':').toLower();
+}
+
 CFoundCamera describe(unsigned int index)
 {
     CFoundCamera camera;
-    camera.vendor = QString::fromUtf8(arv_get_device_vendor(index));
-    camera.model = QString::fromUtf8(arv_get_device_model(index));
-    camera.serial = QString::fromUtf8(arv_get_device_serial_nbr(index));
+    camera.vendor = text(arv_get_device_vendor(index));
+    camera.model = text(arv_get_device_model(index));
+    camera.serial = text(arv_get_device_serial_nbr(index));
     camera.isGigE = qstrcmp(arv_get_device_protocol(index), "GigEVision") == 0;
+    if (camera.isGigE) {
+        describeGigE(index, &camera);
+    }
     // The address, because the same id may be known at two interfaces, one of which is gone.
     camera.openId =
         QString::fromUtf8(camera.isGigE ? arv_get_device_address(index) : arv_get_device_id(index));

@@ -26,6 +26,7 @@ struct Field
     int offset;
     int size;
 };
+constexpr Field MacAddress{0x0a, 6};
 constexpr Field Vendor{0x48, 32};
 constexpr Field Model{0x68, 32};
 constexpr Field Serial{0xd8, 16};
@@ -70,6 +71,11 @@ QString text(const QByteArray &datagram, Field field)
         .trimmed();
 }
 
+QString hexDigits(const QByteArray &datagram, Field field)
+{
+    return QString::fromLatin1(datagram.mid(HeaderSize + field.offset, field.size).toHex());
+}
+
 } // namespace
 
 QByteArray discovery(quint16 requestId)
@@ -93,6 +99,7 @@ bool parseDiscoveryAnswer(const QByteArray &datagram, quint16 requestId, CFoundC
     camera->vendor = text(datagram, Vendor);
     camera->model = text(datagram, Model);
     camera->serial = text(datagram, Serial);
+    camera->mac = hexDigits(datagram, MacAddress);
     camera->userName = text(datagram, UserName);
     return true;
 }

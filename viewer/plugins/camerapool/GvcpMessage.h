@@ -25,7 +25,8 @@ QByteArray discovery(quint16 requestId);
 /// is open exclusively denies it.
 QByteArray readControlPrivilege(quint16 requestId);
 
-/// Fills vendor, model, serial and user name of \a camera from the answer to `discovery`.
+/// Fills vendor, model, serial, MAC address and user name of \a camera from the answer to
+/// `discovery`.
 /// @return false, with \a camera unchanged, if \a datagram is not that answer.
 bool parseDiscoveryAnswer(const QByteArray &datagram, quint16 requestId, CFoundCamera *camera);
 
