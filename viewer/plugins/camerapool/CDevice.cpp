@@ -12,16 +12,16 @@
 namespace CameraPool {
 namespace {
 
-// How long Aravis tries a single access before it gives up. It may take twice as long, when the
-// heartbeat is trying at the same time.
-constexpr std::chrono::milliseconds Patience(2500);
-
 // How often a waiting thread looks whether the device was lost meanwhile.
 constexpr std::chrono::milliseconds LookInterval(50);
 
-// How long a device may keep a thread waiting before it is asked whether it is there, once: a
-// device that works answers in some milliseconds.
+// How long a device may keep a thread waiting before it is asked, and asked again, whether it is
+// there: most answers come in some milliseconds.
 constexpr std::chrono::milliseconds Suspicion(500);
+
+// How long a device that says that it is there may keep a thread waiting: longer than a camera
+// takes to save its settings, or to tell all of its features over a slow line.
+constexpr std::chrono::seconds Patience(60);
 
 // Longer than any signal of Aravis is on its way.
 constexpr std::chrono::milliseconds SignalPatience(2000);
@@ -93,15 +93,17 @@ void CDevice::throwIfUnusable() const
 
 void CDevice::waitFor(const std::function<bool(std::chrono::milliseconds)> &isDone)
 {
-    const auto begin = std::chrono::steady_clock::now();
-    bool wasAsked = false;
+    using Clock = std::chrono::steady_clock;
+    const Clock::time_point begin = Clock::now();
+    Clock::time_point asked = begin;
     do {
         throwIfUnusable();
-        const auto waited = std::chrono::steady_clock::now() - begin;
-        if (waited > Patience || (!wasAsked && waited > Suspicion && !m_isAnswering())) {
-            markLost();
+        if (Clock::now() - asked > Suspicion) {
+            if (Clock::now() - begin > Patience || !m_isAnswering()) {
+                markLost();
+            }
+            asked = Clock::now();
         }
-        wasAsked = wasAsked || waited > Suspicion;
     } while (!isDone(LookInterval));
 }
 

@@ -74,9 +74,9 @@ public:
     /// Does \a work, which takes a `const CDeviceAccess &`, in the device's thread, and gives its
     /// result. Where the caller gives up waiting, \a work goes on: it must own all that it uses.
     /// @throws ParameterCollection::CParameterException at once if the device is closed or lost,
-    /// as soon as it is lost meanwhile, and after two and a half seconds; then it is lost. It is
-    /// so earlier if it keeps others waiting and gives no answer to the question whether it is
-    /// there. Also whatever \a work throws.
+    /// and as soon as it is lost meanwhile. It is lost if it keeps others waiting and, asked every
+    /// half second, gives no answer to the question whether it is there; and after a minute. Also
+    /// whatever \a work throws.
     template <class Work>
     auto call(Work work);
 

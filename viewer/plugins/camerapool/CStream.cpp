@@ -9,6 +9,7 @@
 
 #include <ParameterCollection/CParameterException.h>
 
+#include <initializer_list>
 #include <utility>
 
 namespace CameraPool {
@@ -23,7 +24,7 @@ constexpr int BufferCount = 16;
 // sockets; with this size none was lost.
 constexpr int SocketBufferSize = 4194304;
 
-// For what comes on top of the exposure: readout, transfer, a busy computer.
+// For what comes on top of exposure and frame period: readout, transfer, a busy computer.
 constexpr auto TransferPatience = 5000ms;
 
 bool hasFeature(ArvDevice *device, const char *name)
@@ -45,18 +46,33 @@ void setMode(ArvDevice *device, GrabMode mode)
     }
 }
 
-std::chrono::milliseconds exposure(ArvDevice *device)
+// The first of \a names that can be read and is above 0; 0 if none is.
+double firstPositive(ArvDevice *device, std::initializer_list<const char *> names)
 {
-    for (const char *name : {"ExposureTime", "ExposureTimeAbs"}) {
+    for (const char *name : names) {
         CGError error;
-        const double microseconds =
-            hasFeature(device, name) ? arv_device_get_float_feature_value(device, name, error.out())
-                                     : 0.0;
-        if (microseconds > 0.0 && !error) {
-            return std::chrono::milliseconds(qint64(microseconds / 1000.0));
+        const double value = hasFeature(device, name)
+                                 ? arv_device_get_float_feature_value(device, name, error.out())
+                                 : 0.0;
+        if (value > 0.0 && !error) {
+            return value;
         }
     }
-    return 0ms;
+    return 0.0;
+}
+
+std::chrono::milliseconds exposure(ArvDevice *device)
+{
+    const double microseconds = firstPositive(device, {"ExposureTime", "ExposureTimeAbs"});
+    return std::chrono::milliseconds(qint64(microseconds / 1000.0));
+}
+
+// A camera may keep to its frame rate also where a single image is asked for. A rate that is
+// switched off can be far too low, which only makes the wait for a missing image longer.
+std::chrono::milliseconds framePeriod(ArvDevice *device)
+{
+    const double rate = firstPositive(device, {"AcquisitionFrameRate", "AcquisitionFrameRateAbs"});
+    return std::chrono::milliseconds(rate > 0.0 ? qint64(1000.0 / rate) : 0);
 }
 
 bool waitsForTrigger(ArvDevice *device)
@@ -92,7 +108,9 @@ std::shared_ptr<Started> start(const CDeviceAccess &access, const QString &name,
     ArvDevice *device = access.device();
     setMode(device, mode);
     auto started = std::make_shared<Started>();
-    started->singlePatience = waitsForTrigger(device) ? 0ms : exposure(device) + TransferPatience;
+    if (!waitsForTrigger(device)) {
+        started->singlePatience = exposure(device) + framePeriod(device) + TransferPatience;
+    }
 
     if (ARV_IS_GV_DEVICE(device)) {
         // A packet socket, which Aravis prefers where it has the right to, begins to listen some
@@ -117,13 +135,20 @@ std::shared_ptr<Started> start(const CDeviceAccess &access, const QString &name,
     return started;
 }
 
+// A camera of GigE Vision 1 that adds chunk data to its images announces these as chunk data.
+bool isImage(ArvBufferPayloadType type)
+{
+    return type == ARV_BUFFER_PAYLOAD_TYPE_IMAGE
+           || type == ARV_BUFFER_PAYLOAD_TYPE_EXTENDED_CHUNK_DATA;
+}
+
 Nerix::CGrabResultPtr imageOf(ArvBuffer *buffer)
 {
     Nerix::CImage image;
     std::size_t size = 0;
     const auto *data = static_cast<const std::uint8_t *>(arv_buffer_get_data(buffer, &size));
     image.data.assign(data, data + size);
-    if (arv_buffer_get_payload_type(buffer) == ARV_BUFFER_PAYLOAD_TYPE_IMAGE) {
+    if (isImage(arv_buffer_get_payload_type(buffer))) {
         image.width = arv_buffer_get_image_width(buffer);
         image.height = arv_buffer_get_image_height(buffer);
         image.pixelFormat = arv_buffer_get_image_pixel_format(buffer);

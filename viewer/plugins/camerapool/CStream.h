@@ -46,7 +46,8 @@ public:
         return CStreamCounters::of(m_stream.get());
     }
 
-    /// How long a single image may take to arrive: exposure and all. None for a camera that waits
+    /// How long a single image may take to arrive: exposure, frame period and all. None for a camera
+    /// that waits
     /// for a trigger.
     std::chrono::milliseconds singlePatience() const
     {
