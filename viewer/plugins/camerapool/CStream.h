@@ -46,9 +46,8 @@ public:
         return CStreamCounters::of(m_stream.get());
     }
 
-    /// How long a single image may take to arrive: exposure, frame period and all. None for a camera
-    /// that waits
-    /// for a trigger.
+    /// How long a single image may take to arrive: exposure, frame period and all. None for a
+    /// camera that waits for a trigger.
     std::chrono::milliseconds singlePatience() const
     {
         return m_singlePatience;
