@@ -152,6 +152,10 @@
         <source>left alone: %1; the file is not from this camera, so set them by hand</source>
         <translation>変更しなかった項目：%1。このカメラから保存されたファイルではないため、手動で設定してください</translation>
     </message>
+    <message>
+        <source>left alone: %1; what belongs to the connection is never loaded</source>
+        <translation>変更しなかった項目：%1。接続に属するものは読み込まれません</translation>
+    </message>
 </context>
 <context>
     <name>FeatureFiles::CLoadReportDialog</name>

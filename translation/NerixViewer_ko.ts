@@ -152,6 +152,10 @@
         <source>left alone: %1; the file is not from this camera, so set them by hand</source>
         <translation>그대로 둔 항목: %1. 이 카메라에서 저장한 파일이 아니므로 직접 설정하십시오</translation>
     </message>
+    <message>
+        <source>left alone: %1; what belongs to the connection is never loaded</source>
+        <translation>그대로 둔 항목: %1. 연결에 속하는 것은 불러오지 않습니다</translation>
+    </message>
 </context>
 <context>
     <name>FeatureFiles::CLoadReportDialog</name>

@@ -152,6 +152,10 @@
         <source>left alone: %1; the file is not from this camera, so set them by hand</source>
         <translation>保持不变：%1；该文件不是从此相机保存的，请手动设置</translation>
     </message>
+    <message>
+        <source>left alone: %1; what belongs to the connection is never loaded</source>
+        <translation>保持不变：%1；属于连接的内容从不加载</translation>
+    </message>
 </context>
 <context>
     <name>FeatureFiles::CLoadReportDialog</name>

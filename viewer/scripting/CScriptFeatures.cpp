@@ -46,7 +46,7 @@ QVariantMap describe(const FeatureFiles::CLoadReport &report)
         {QStringLiteral("set"), report.set},
         {QStringLiteral("unchanged"), report.unchanged},
         {QStringLiteral("readOnly"), report.readOnly},
-        {QStringLiteral("leftAlone"), report.leftAlone},
+        {QStringLiteral("leftAlone"), report.leftAlone + report.ofConnection},
         {QStringLiteral("refused"), refused},
     };
 }

@@ -251,18 +251,22 @@ void FeatureFilesPluginTest::testWhatWasNotSetIsListedAndCanBeCopied()
 void FeatureFilesPluginTest::testWhatWasLeftAloneIsToldInALineOfItsOwnAndInTheDialog()
 {
     const auto name = m_rig->add<CLiveText>("DeviceUserID", InterfaceString, "Line4");
+    const auto address = m_rig->add<CLiveText>("GevSCDA", InterfaceString, "2130706433");
     create();
     QVERIFY(openCamera());
-    const QString path =
-        m_folder->write("in.features", {"DeviceID\tB2", "DeviceUserID\tLine3", "Locked\tnew"});
+    const QString path = m_folder->write(
+        "in.features", {"DeviceID\tB2", "DeviceUserID\tLine3", "GevSCDA\t0", "Locked\tnew"});
     QVERIFY(choose("&Load Features...", path));
     QTRY_VERIFY(shown<QDialog>() && shown<QDialog>()->findChild<QTreeWidget *>());
     const QString hint =
         "left alone: DeviceUserID; the file is not from this camera, so set them by hand";
-    QCOMPARE(m_rig->messages->texts.size(), 2);
-    QCOMPARE(m_rig->messages->texts.last(), "A-1, " + hint);
-    QVERIFY(shown<QDialog>()->findChild<QLabel *>()->text().endsWith('\n' + hint));
-    QCOMPARE(name->sets(), QStringList());
+    const QString connectionHint =
+        "left alone: GevSCDA; what belongs to the connection is never loaded";
+    QCOMPARE(m_rig->messages->texts.mid(1),
+             (QStringList{"A-1, " + hint, "A-1, " + connectionHint}));
+    QVERIFY(shown<QDialog>()->findChild<QLabel *>()->text().endsWith('\n' + hint + '\n'
+                                                                     + connectionHint));
+    QCOMPARE(name->sets() + address->sets(), QStringList());
     QTest::keyClick(shown<QDialog>(), Qt::Key_Escape);
     QTRY_VERIFY(!shown<QDialog>());
 }

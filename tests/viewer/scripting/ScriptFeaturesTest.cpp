@@ -133,8 +133,9 @@ void ScriptFeaturesTest::testFeaturesAreSavedAndLoadedWithAReport()
     const QTemporaryDir folder;
     m_parameters->add<FakeInteger>("@CameraDevice/Broken")->throwing.insert("setValueText");
     m_parameters->add<FakeInteger>("@CameraDevice/DeviceUserID")->stateText = "7";
-    m_parameters->stream = "# nerix feature stream 1: 3 features, 0 not readable\n"
-                           "Gain\t8\nBroken\t1\nDeviceUserID\t9\n";
+    m_parameters->add<FakeInteger>("@CameraDevice/GevSCDA")->stateText = "7";
+    m_parameters->stream = "# nerix feature stream 1: 4 features, 0 not readable\n"
+                           "Gain\t8\nBroken\t1\nGevSCDA\t9\nDeviceUserID\t9\n";
     const QString file = folder.filePath("a.features");
     QCOMPARE(m_run->run(QStringLiteral("features.save('A-1', '%1');"
                                        "var report = features.load('A-1', '%1');"
@@ -145,7 +146,7 @@ void ScriptFeaturesTest::testFeaturesAreSavedAndLoadedWithAReport()
              QString());
     QCOMPARE(m_run->printed(),
              QStringList{"1 0 0 [{\"name\":\"Broken\",\"reason\":\"setValueText failed\"}] "
-                         "DeviceUserID"});
+                         "DeviceUserID,GevSCDA"});
     QCOMPARE(m_gain->stateText, QStringLiteral("8"));
 }
 

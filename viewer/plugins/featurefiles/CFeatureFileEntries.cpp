@@ -185,6 +185,9 @@ void CFeatureFileEntries::onLoaded(const CLoadReport &report)
     if (!report.leftAlone.isEmpty()) {
         tell(Severity::Warning, m_cameraName + QStringLiteral(", ") + report.leftAloneHint());
     }
+    if (!report.ofConnection.isEmpty()) {
+        tell(Severity::Information, m_cameraName + QStringLiteral(", ") + report.connectionHint());
+    }
     if (!report.refused.isEmpty()) {
         auto *dialog = new CLoadReportDialog(m_cameraName, report, m_services.window);
         dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -3,6 +3,7 @@
 
 #include "plugins/featurefiles/CFeatureLoader.h"
 
+#include "plugins/featurefiles/ConnectionFeatures.h"
 #include "plugins/featurefiles/OwnFeatures.h"
 #include "plugins/parametercollectionpool/ValueText.h"
 
@@ -64,6 +65,7 @@ CFeatureLoader::CFeatureLoader(const IParameterCollection &parameters, const QVe
         item.wanted = line.second;
         item.parameter = parameters.parameter(tree() + line.first);
         item.isForeign = isForeign && OwnFeatures::contains(line.first);
+        item.isOfConnection = ConnectionFeatures::contains(line.first);
         m_items.append(item);
     }
 }
@@ -125,7 +127,7 @@ CFeatureLoader::Result CFeatureLoader::attempt(Item &item)
     if (now && isSame(parameter, *now, item.wanted)) {
         return Result::Unchanged;
     }
-    if (item.isForeign && !parameter.isNull()) {
+    if ((item.isForeign || item.isOfConnection) && !parameter.isNull()) {
         return Result::LeftAlone;
     }
     parameter.setValueText(item.wanted);
@@ -181,7 +183,7 @@ CLoadReport CFeatureLoader::report() const
             ++report.readOnly;
             break;
         case Result::LeftAlone:
-            report.leftAlone.append(item.name);
+            (item.isOfConnection ? report.ofConnection : report.leftAlone).append(item.name);
             break;
         default:
             // What was not tried has no reason.

@@ -18,7 +18,8 @@ namespace FeatureFiles {
 /// A value may depend on one that stands after it (an offset on a width, for example), so what is
 /// refused is tried again as long as that helps. What a later value has changed again is set a
 /// second time. What has its value already is not set. What belongs to one camera alone, see
-/// `OwnFeatures`, is set only if the values are of this camera.
+/// `OwnFeatures`, is set only if the values are of this camera; what belongs to the connection, see
+/// `ConnectionFeatures`, is never set.
 class CFeatureLoader
 {
 public:
@@ -41,7 +42,8 @@ private:
         QString name;
         QString wanted;
         QSharedPointer<ParameterCollection::IParameter> parameter;
-        bool isForeign = false; // belongs to another camera alone
+        bool isForeign = false;      // belongs to another camera alone
+        bool isOfConnection = false; // belongs to no camera
         Result result = Result::Open;
         std::optional<QString> taken; // what the camera made of it, right after it was set
         QString reason;               // why it was refused

@@ -23,4 +23,12 @@ QString CLoadReport::leftAloneHint() const
                      .arg(leftAlone.join(QLatin1String(", ")));
 }
 
+QString CLoadReport::connectionHint() const
+{
+    return ofConnection.isEmpty()
+               ? QString()
+               : tr("left alone: %1; what belongs to the connection is never loaded")
+                     .arg(ofConnection.join(QLatin1String(", ")));
+}
+
 } // namespace FeatureFiles

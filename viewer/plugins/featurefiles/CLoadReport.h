@@ -31,6 +31,9 @@ public:
     /// Belong to one camera alone, and the file is not known to be of this one: not set. Names
     /// without the tree.
     QStringList leftAlone;
+
+    /// Belong to the connection and have another value now: not set. Names without the tree.
+    QStringList ofConnection;
     bool isCancelled = false; ///< what comes after the last one that is counted was not tried
 
     /// One line, for example "12 set, 20 unchanged, 5 read-only, 1 not set".
@@ -38,6 +41,9 @@ public:
 
     /// One line that names what was left alone, and says why and what to do; empty for nothing.
     QString leftAloneHint() const;
+
+    /// One line that names what was left to the connection, and says why; empty for nothing.
+    QString connectionHint() const;
 };
 
 } // namespace FeatureFiles

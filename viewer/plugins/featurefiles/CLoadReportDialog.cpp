@@ -20,6 +20,13 @@ namespace {
 constexpr int widthInLetters = 90;
 constexpr int heightInLines = 20;
 
+QString summaryOf(const CLoadReport &report)
+{
+    QStringList lines{report.summary(), report.leftAloneHint(), report.connectionHint()};
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
 CLoadReportDialog::CLoadReportDialog(const QString &cameraName, const CLoadReport &report,
@@ -28,10 +35,9 @@ CLoadReportDialog::CLoadReportDialog(const QString &cameraName, const CLoadRepor
     , m_list(new QTreeWidget)
 {
     setWindowTitle(tr("Load Features"));
-    auto *summary = new QLabel(
-        tr("Some features of %1 do not have the value of the file.").arg(cameraName)
-        + QLatin1Char('\n') + report.summary()
-        + (report.leftAlone.isEmpty() ? QString() : QLatin1Char('\n') + report.leftAloneHint()));
+    auto *summary =
+        new QLabel(tr("Some features of %1 do not have the value of the file.").arg(cameraName)
+                   + QLatin1Char('\n') + summaryOf(report));
     summary->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(summary);
