@@ -5,6 +5,10 @@
 #include "plugins/camerapool/CLoopbackSearch.h"
 #include "plugins/camerapool/CNetworkSearch.h"
 
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+
 #include <QTest>
 
 using namespace CameraPool;
@@ -22,6 +26,8 @@ private Q_SLOTS:
     void camerasWithoutASerialNumberAreToldApart();
     void cameraThatAnswersNobodyAloneHasTheSameIdentity_data();
     void cameraThatAnswersNobodyAloneHasTheSameIdentity();
+    void camerasAreAskedAllAtOnce_data();
+    void camerasAreAskedAllAtOnce();
     void environmentChoosesTheSearch_data();
     void environmentChoosesTheSearch();
 };
@@ -40,6 +46,30 @@ void checkCamera(const QVector<CFoundCamera> &found)
     QVERIFY(found.first().isGigE);
     QVERIFY(!found.first().isControlled);
 }
+
+// Where so many wait for each other; whoever joins later passes. The wait has an end, lest a search
+// that asks one after the other waits for ever.
+class CMeeting
+{
+public:
+    explicit CMeeting(int count)
+        : m_missing(count)
+    {}
+
+    // False if the others did not come: too late to answer.
+    bool join()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        --m_missing;
+        m_changed.notify_all();
+        return m_changed.wait_for(lock, std::chrono::seconds(5), [this] { return m_missing <= 0; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    int m_missing;
+};
 
 QStringList identities(const QVector<CFoundCamera> &found)
 {
@@ -122,6 +152,40 @@ void SearchTest::cameraThatAnswersNobodyAloneHasTheSameIdentity()
     const CGvcpResponder camera({"127.0.0.1", "02ab00000001", serial, "", 0, [] { return false; }});
     QVERIFY(camera.isListening());
     QCOMPARE(identities(CNetworkSearch().search()), QStringList{identity});
+}
+
+void SearchTest::camerasAreAskedAllAtOnce_data()
+{
+    QTest::addColumn<bool>("isByAddress");
+    QTest::newRow("by address") << true;
+    QTest::newRow("by broadcast") << false;
+}
+
+// None answers before all were asked: who asks one after the other gets no answer in time.
+void SearchTest::camerasAreAskedAllAtOnce()
+{
+    QFETCH(bool, isByAddress);
+    if (!isIsolated()) {
+        QSKIP("needs several addresses, and broadcasts only in a network of its own");
+    }
+    CMeeting meeting(3);
+    const auto meet = [&meeting] { return meeting.join(); };
+    const CGvcpResponder one({"127.0.0.1", "02ab00000001", "A1", "Left", 0, meet});
+    const CGvcpResponder two({"127.0.0.2", "02ab00000002", "B2", "Middle", 2, meet});
+    const CGvcpResponder three({"127.0.0.3", "02ab00000003", "C3", "Right", 0, meet});
+    QVERIFY(one.isListening() && two.isListening() && three.isListening());
+    const auto found = isByAddress ? CLoopbackSearch().search() : CNetworkSearch().search();
+    QCOMPARE(identities(found), (QStringList{QStringLiteral("Ostrand-XQZ-2000-A1"),
+                                             QStringLiteral("Ostrand-XQZ-2000-B2"),
+                                             QStringLiteral("Ostrand-XQZ-2000-C3")}));
+    for (const CFoundCamera &camera : found) {
+        QVERIFY(camera.isNameKnown && camera.isControlKnown);
+        QCOMPARE(camera.userName, camera.serial == QStringLiteral("A1") ? QStringLiteral("Left")
+                                  : camera.serial == QStringLiteral("B2")
+                                      ? QStringLiteral("Middle")
+                                      : QStringLiteral("Right"));
+        QCOMPARE(camera.isControlled, camera.serial == QStringLiteral("B2"));
+    }
 }
 
 void SearchTest::environmentChoosesTheSearch_data()

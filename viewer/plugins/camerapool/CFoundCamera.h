@@ -16,7 +16,9 @@ struct CFoundCamera
     QString userName; ///< the name that the user gave it; empty for none, or where unknown
     QString openId;   ///< by which the transport opens it: an IP address, else Aravis' own id
     bool isGigE = true;
-    bool isControlled = false; ///< some program controls it, this one included
+    bool isControlled = false;   ///< some program controls it, this one included
+    bool isNameKnown = false;    ///< the camera told \c userName
+    bool isControlKnown = false; ///< the camera told \c isControlled
 
     /// Unique, and the same after unplugging and renaming: "vendor-model-serial". The serial number
     /// is optional in GigE Vision; the MAC address stands for one that is missing.

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "CLoopbackSearch.h"
 
-#include "CGvcpProbe.h"
+#include "AskCameras.h"
+
+#include <algorithm>
 
 namespace CameraPool {
 namespace {
@@ -13,14 +15,16 @@ constexpr int LastAddress = 5;
 
 QVector<CFoundCamera> CLoopbackSearch::search()
 {
-    QVector<CFoundCamera> found;
+    QVector<CFoundCamera> cameras;
     for (int i = 1; i <= LastAddress; ++i) {
         CFoundCamera camera;
-        if (CGvcpProbe(QStringLiteral("127.0.0.%1").arg(i)).ask(&camera)) {
-            found.append(camera);
-        }
+        camera.openId = QStringLiteral("127.0.0.%1").arg(i);
+        cameras.append(camera);
     }
-    return found;
+    askCameras(&cameras);
+    const auto isSilent = [](const CFoundCamera &camera) { return !camera.isNameKnown; };
+    cameras.erase(std::remove_if(cameras.begin(), cameras.end(), isSilent), cameras.end());
+    return cameras;
 }
 
 } // namespace CameraPool

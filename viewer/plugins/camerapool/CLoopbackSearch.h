@@ -6,7 +6,7 @@
 
 namespace CameraPool {
 
-/// Asks 127.0.0.1 to 127.0.0.5, one by one, for simulated cameras of this computer. Broadcasts
+/// Asks 127.0.0.1 to 127.0.0.5 for simulated cameras of this computer. Broadcasts
 /// nothing.
 class CLoopbackSearch : public ICameraSearch
 {

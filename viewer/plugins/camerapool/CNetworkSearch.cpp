@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "CNetworkSearch.h"
 
-#include "CGvcpProbe.h"
+#include "AskCameras.h"
 
 #include <arv.h>
 
@@ -43,18 +43,25 @@ CFoundCamera describe(unsigned int index)
     return camera;
 }
 
+QVector<CFoundCamera> camerasThatAnswerTheBroadcast()
+{
+    arv_update_device_list();
+    QVector<CFoundCamera> cameras;
+    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
+        cameras.append(describe(i));
+    }
+    return cameras;
+}
+
 } // namespace
 
 QVector<CFoundCamera> CNetworkSearch::search()
 {
-    arv_update_device_list();
+    QVector<CFoundCamera> cameras = camerasThatAnswerTheBroadcast();
+    askCameras(&cameras);
     QVector<CFoundCamera> found;
     QSet<QString> identities;
-    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
-        CFoundCamera camera = describe(i);
-        if (camera.isGigE) {
-            CGvcpProbe(camera.openId).ask(&camera);
-        }
+    for (const CFoundCamera &camera : qAsConst(cameras)) {
         // A camera that is reached through two interfaces is still one camera.
         if (!identities.contains(camera.identity())) {
             identities.insert(camera.identity());

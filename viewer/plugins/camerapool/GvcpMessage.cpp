@@ -57,10 +57,10 @@ QByteArray command(quint16 code, quint16 payloadSize, quint16 requestId)
     return message;
 }
 
-bool isAnswer(const QByteArray &datagram, quint16 code, quint16 requestId)
+bool isAnswer(const QByteArray &datagram, quint16 code, quint16 id)
 {
     return datagram.size() >= HeaderSize && at<quint16>(datagram, 2) == code
-           && at<quint16>(datagram, 6) == requestId;
+           && at<quint16>(datagram, 6) == id;
 }
 
 QString text(const QByteArray &datagram, Field field)
@@ -88,6 +88,11 @@ QByteArray readControlPrivilege(quint16 requestId)
     QByteArray message = command(ReadRegisterCommand, sizeof(quint32), requestId);
     append(&message, ControlPrivilegeRegister);
     return message;
+}
+
+quint16 requestId(const QByteArray &datagram)
+{
+    return datagram.size() >= HeaderSize ? at<quint16>(datagram, 6) : quint16(0);
 }
 
 bool parseDiscoveryAnswer(const QByteArray &datagram, quint16 requestId, CFoundCamera *camera)

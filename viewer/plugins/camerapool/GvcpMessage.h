@@ -25,6 +25,9 @@ QByteArray discovery(quint16 requestId);
 /// is open exclusively denies it.
 QByteArray readControlPrivilege(quint16 requestId);
 
+/// The request that \a datagram answers; 0, which no request has, if it is none.
+quint16 requestId(const QByteArray &datagram);
+
 /// Fills vendor, model, serial, MAC address and user name of \a camera from the answer to
 /// `discovery`.
 /// @return false, with \a camera unchanged, if \a datagram is not that answer.
