@@ -7,6 +7,8 @@
 #include "plugins/camerapool/CDeviceStore.h"
 #include "plugins/camerapool/CLoopbackSearch.h"
 
+#include <utility>
+
 #include <QTest>
 
 using namespace CameraPool;
@@ -28,7 +30,11 @@ CPoolTiming CPoolRig::shortTiming()
 }
 
 CPoolRig::CPoolRig(CPoolTiming timing)
-    : m_pool(std::make_unique<CCameraPool>(std::make_unique<CLoopbackSearch>(), timing))
+    : CPoolRig(std::make_unique<CLoopbackSearch>(), timing)
+{}
+
+CPoolRig::CPoolRig(std::unique_ptr<ICameraSearch> search, CPoolTiming timing)
+    : m_pool(std::make_unique<CCameraPool>(std::move(search), timing))
 {
     const auto noteDevice = [this](const char *signal) {
         return [this, signal](const DeviceBaseInfoPtr &device) {

@@ -23,6 +23,7 @@ public:
     using CameraInfoPtr = Core::CameraPoolComponents::CameraInfoPtr;
 
     explicit CPoolRig(CameraPool::CPoolTiming timing = shortTiming());
+    CPoolRig(std::unique_ptr<CameraPool::ICameraSearch> search, CameraPool::CPoolTiming timing);
     ~CPoolRig() override;
 
     static CameraPool::CPoolTiming shortTiming();

@@ -4,6 +4,8 @@
 
 #include "CPoolWorker.h"
 
+#include <utility>
+
 #include <QMutexLocker>
 
 namespace CameraPool {
@@ -46,17 +48,23 @@ void CCameraControl::close(const CameraInfoPtr &camera)
 
 void CCameraControl::grabSingle(const CameraInfoPtr &camera)
 {
-    post([camera](CPoolWorker *worker) { worker->startGrab(camera, GrabSingle); });
+    postStart(camera, [camera](CPoolWorker *worker) { worker->startGrab(camera, GrabSingle); });
 }
 
 void CCameraControl::grabContinuous(const CameraInfoPtr &camera)
 {
-    post([camera](CPoolWorker *worker) { worker->startGrab(camera, GrabContinuous); });
+    postStart(camera, [camera](CPoolWorker *worker) { worker->startGrab(camera, GrabContinuous); });
 }
 
+// The worker is told as well, since the grab may be one that it has still to start. It is told
+// first: a start that is asked for when the grab has ended comes after that and is not stopped.
 void CCameraControl::stopGrab(const CameraInfoPtr &camera)
 {
+    const auto flag = stopFlagOf(camera).lock();
     post([camera](CPoolWorker *worker) { worker->stopGrab(camera); });
+    if (flag) {
+        *flag = true;
+    }
 }
 
 void CCameraControl::closeAll()
@@ -81,12 +89,48 @@ void CCameraControl::noteGrabEnd(const QString &identity)
     }
 }
 
+void CCameraControl::setStopFlag(const QString &identity, StopFlag flag)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_stopFlags.insert(identity, std::move(flag));
+}
+
+void CCameraControl::countStart(const CameraInfoPtr &camera, int change)
+{
+    if (camera) {
+        const QMutexLocker lock(&m_mutex);
+        m_startCounts[camera->identity()] += change;
+    }
+}
+
+// None if a start was asked for and is not done: the stop is meant for that one, and the grab
+// before it must not end by it, or that start would not be refused any more.
+CCameraControl::StopFlag CCameraControl::stopFlagOf(const CameraInfoPtr &camera) const
+{
+    if (!camera) {
+        return {};
+    }
+    const QMutexLocker lock(&m_mutex);
+    const QString identity = camera->identity();
+    return m_startCounts.value(identity) == 0 ? m_stopFlags.value(identity) : StopFlag();
+}
+
 template <class Request>
 void CCameraControl::post(Request request)
 {
     CPoolWorker *const worker = m_worker;
     QMetaObject::invokeMethod(
         worker, [worker, request] { request(worker); }, Qt::QueuedConnection);
+}
+
+template <class Request>
+void CCameraControl::postStart(const CameraInfoPtr &camera, Request request)
+{
+    countStart(camera, +1);
+    post([this, camera, request](CPoolWorker *worker) {
+        request(worker);
+        countStart(camera, -1);
+    });
 }
 
 } // namespace CameraPool

@@ -4,6 +4,9 @@
 
 #include "ICameraControlService.h"
 
+#include <atomic>
+#include <memory>
+
 #include <QHash>
 #include <QMutex>
 
@@ -12,7 +15,8 @@ namespace CameraPool {
 class CPoolWorker;
 
 /// The state of the pool, as every thread may read it. Passes requests on to the worker in the
-/// pool's thread.
+/// pool's thread. A stop also goes to the grab straight away, because the worker may be waiting for
+/// another camera.
 class CCameraControl : public ICameraControlService
 {
     Q_OBJECT
@@ -40,14 +44,25 @@ public:
     /// Notes that a camera does not grab any more, before that is told. Callable in any thread.
     void noteGrabEnd(const QString &identity);
 
+    /// By which `stopGrab` stops the latest grab of a camera.
+    void setStopFlag(const QString &identity, std::weak_ptr<std::atomic<bool>> flag);
+
 private:
+    using StopFlag = std::weak_ptr<std::atomic<bool>>;
+
     template <class Request>
     void post(Request request);
+    template <class Request>
+    void postStart(const Core::CameraPoolComponents::CameraInfoPtr &camera, Request request);
+    void countStart(const Core::CameraPoolComponents::CameraInfoPtr &camera, int change);
+    StopFlag stopFlagOf(const Core::CameraPoolComponents::CameraInfoPtr &camera) const;
 
     CPoolWorker *m_worker = nullptr;
     mutable QMutex m_mutex;
     QList<Core::CameraPoolComponents::CameraInfoPtr> m_cameras; // guarded by m_mutex
     QHash<QString, CameraState> m_states;                       // guarded by m_mutex
+    QHash<QString, StopFlag> m_stopFlags; // of the latest grabs, by identity; guarded by m_mutex
+    QHash<QString, int> m_startCounts;    // that the worker has not done; guarded by m_mutex
 };
 
 } // namespace CameraPool

@@ -131,7 +131,7 @@ CStreamCounters CGrab::drain(CStream *stream, CGrabFigures *figures)
 
 bool CGrab::isOver() const
 {
-    return m_isStopping || !m_device->isOpen();
+    return *m_stopFlag || !m_device->isOpen();
 }
 
 void CGrab::tell(const Nerix::CGrabResultPtr &result, CGrabFigures *figures)

@@ -9,6 +9,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <thread>
 
 #include <QSharedPointer>
@@ -52,7 +53,13 @@ public:
     /// Lets the grab end soon. Callable in any thread.
     void stop()
     {
-        m_isStopping = true;
+        *m_stopFlag = true;
+    }
+
+    /// Set to true it does what `stop` does, by whoever must not own the grab. Expires with it.
+    std::weak_ptr<std::atomic<bool>> stopFlag() const
+    {
+        return m_stopFlag;
     }
 
     /// True when the grab has nothing more to tell.
@@ -74,7 +81,7 @@ private:
     const Core::CameraPoolComponents::CameraInfoPtr m_info;
     const GrabMode m_mode;
     const Listeners m_listeners;
-    std::atomic<bool> m_isStopping{false};
+    const std::shared_ptr<std::atomic<bool>> m_stopFlag{std::make_shared<std::atomic<bool>>(false)};
     std::atomic<bool> m_hasEnded{false};
     std::thread m_thread; // last: it uses the others
 };

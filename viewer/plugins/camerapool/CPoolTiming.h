@@ -12,8 +12,8 @@ struct CPoolTiming
     /// was reported earlier would be missed by them.
     int firstSearchDelay = 500;
 
-    /// Between two searches, so that the network is not searched all the time and requests to open
-    /// or close are served in between.
+    /// Between two searches, so that the network is not searched all the time, and that an opening,
+    /// for which Aravis waits until it has searched, is not held up for long.
     int searchPause = 500;
 };
 

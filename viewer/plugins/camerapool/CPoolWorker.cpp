@@ -14,8 +14,7 @@
 namespace CameraPool {
 namespace {
 
-// How long an opening waits for the end of the camera's last connection. Less than the pause
-// between two searches, so that none of them prolongs it.
+// How long an opening waits for the end of the camera's last connection.
 constexpr std::chrono::milliseconds ReleasePatience(400);
 
 } // namespace
@@ -23,8 +22,12 @@ constexpr std::chrono::milliseconds ReleasePatience(400);
 CPoolWorker::CPoolWorker(const Outlets &outlets, std::unique_ptr<ICameraSearch> search,
                          const CPoolTiming &timing)
     : m_outlets(outlets)
-    , m_search(std::move(search))
     , m_timing(timing)
+    , m_search(std::move(search),
+               [this](const QVector<CFoundCamera> &found) {
+                   QMetaObject::invokeMethod(
+                       this, [=] { onFound(found); }, Qt::QueuedConnection);
+               })
     , m_searchTimer(this) // a child, so that it moves to the pool's thread too
     , m_releaser([this](const QString &identity) {
         QMetaObject::invokeMethod(
@@ -46,27 +49,47 @@ void CPoolWorker::beginSearching()
 
 void CPoolWorker::searchOnce()
 {
-    const QVector<CFoundCamera> found = search();
+    if (m_isSearching) {
+        return;
+    }
+    m_isSearching = true;
+    m_lostMeanwhile.clear();
+    m_usedMeanwhile.clear();
+    m_search.begin();
+}
+
+void CPoolWorker::onFound(QVector<CFoundCamera> found)
+{
+    m_isSearching = false;
+    if (m_isEnding) {
+        return;
+    }
+    dropOutdated(&found);
     const QList<QString> open = m_open.keys();
     const auto changes = m_table.update(found, QSet<QString>(open.begin(), open.end()));
     publish();
     report(changes);
     reportEnumeration();
-    if (!m_isEnding) {
-        m_searchTimer.start(m_timing.searchPause);
-    }
+    m_searchTimer.start(m_timing.searchPause);
 }
 
-// A camera that was lost and is back is there once its lost connection is given back, which takes
-// some seconds: whoever sees it can open it.
-QVector<CFoundCamera> CPoolWorker::search()
+// A camera may have answered before it was lost, and have told who controlled it before it was
+// opened or closed. A camera that was lost and is back is there once its lost connection is given
+// back, which takes some seconds: whoever sees it can open it.
+void CPoolWorker::dropOutdated(QVector<CFoundCamera> *found) const
 {
-    QVector<CFoundCamera> found = m_search->search();
-    const auto isHeld = [this](const CFoundCamera &camera) {
-        return !m_table.find(camera.identity()) && m_releaser.isReleasing(camera.identity());
+    const auto isOutdated = [this](const CFoundCamera &camera) {
+        const QString identity = camera.identity();
+        return m_lostMeanwhile.contains(identity)
+               || (!m_table.find(identity) && m_releaser.isReleasing(identity));
     };
-    found.erase(std::remove_if(found.begin(), found.end(), isHeld), found.end());
-    return found;
+    found->erase(std::remove_if(found->begin(), found->end(), isOutdated), found->end());
+    for (CFoundCamera &camera : *found) {
+        const CFoundCamera *known = m_table.find(camera.identity());
+        if (known && m_usedMeanwhile.contains(camera.identity())) {
+            camera.isControlled = known->isControlled;
+        }
+    }
 }
 
 void CPoolWorker::report(const CCameraTable::Changes &changes)
@@ -153,6 +176,7 @@ void CPoolWorker::connectDevice(const CFoundCamera &found, const CameraInfoPtr &
 {
     const QString identity = camera->identity();
     const quint64 session = ++m_lastSession;
+    m_usedMeanwhile.insert(identity);
     const auto postLoss = [this, identity, session] {
         QMetaObject::invokeMethod(
             this, [=] { onDeviceLost(identity, session); }, Qt::QueuedConnection);
@@ -211,7 +235,9 @@ void CPoolWorker::startGrab(const CameraInfoPtr &camera, GrabMode mode)
         QMetaObject::invokeMethod(
             this, [=] { onGrabEnded(camera, reason); }, Qt::QueuedConnection);
     };
-    m_grabs.insert(identity, QSharedPointer<CGrab>::create(device, mode, listeners));
+    const auto grab = QSharedPointer<CGrab>::create(device, mode, listeners);
+    m_grabs.insert(identity, grab);
+    m_outlets.control->setStopFlag(identity, grab->stopFlag());
     publish();
 }
 
@@ -263,6 +289,7 @@ void CPoolWorker::onDeviceLost(const QString &identity, quint64 session)
     Q_EMIT m_outlets.control->closed(device->info());
     // Gone even if it has come back already: what was set in it is lost. The next search finds it.
     m_table.remove(identity);
+    m_lostMeanwhile.insert(identity);
     publish();
     Q_EMIT m_outlets.status->deviceDisconnected(device->info());
 }
@@ -286,6 +313,7 @@ void CPoolWorker::shut(const QString &identity)
     m_releaser.release(device);
     m_open.remove(identity);
     m_table.setControlled(identity, false);
+    m_usedMeanwhile.insert(identity);
     publish();
     qCInfo(lcCameraPool, "%s is closed", qUtf8Printable(identity));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CBackgroundSearch.h"
 #include "CCameraTable.h"
 #include "CDeviceReleaser.h"
 #include "CGrab.h"
@@ -27,8 +28,8 @@ class CDevice;
 class CDeviceStore;
 
 /// The work of the camera pool: searches, opens, closes and tells. Lives in the pool's thread,
-/// where every operation is called; nothing else does, so that searches and requests take turns and
-/// need no lock.
+/// where every operation is called; nothing else does, so that requests need no lock. A search is
+/// made in a thread of its own, and what it found is taken in between two requests.
 class CPoolWorker : public QObject
 {
     Q_OBJECT
@@ -61,7 +62,8 @@ public:
 
 private:
     void searchOnce();
-    QVector<CFoundCamera> search();
+    void onFound(QVector<CFoundCamera> found);
+    void dropOutdated(QVector<CFoundCamera> *found) const;
     void waitForRelease(const CameraInfoPtr &camera);
     void failWaiting(const QString &identity, const QString &reason);
     void report(const CCameraTable::Changes &changes);
@@ -76,8 +78,11 @@ private:
     void publish();
 
     const Outlets m_outlets;
-    const std::unique_ptr<ICameraSearch> m_search;
     const CPoolTiming m_timing;
+    CBackgroundSearch m_search;
+    bool m_isSearching = false;
+    QSet<QString> m_lostMeanwhile; // identities, since the search began
+    QSet<QString> m_usedMeanwhile; // opened, closed or refused, since the search began
     QTimer m_searchTimer;
     CCameraTable m_table;
     QMap<QString, QSharedPointer<CDevice>> m_open; // by identity

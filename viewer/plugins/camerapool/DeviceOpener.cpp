@@ -40,7 +40,8 @@ constexpr std::chrono::milliseconds Suspicion(500);
 }
 
 // By address and not by id: what Aravis knows of an id may come from an interface that is gone.
-// Directly, without Aravis' own search, which would broadcast.
+// Directly, without Aravis' own search, which would broadcast. What is not on loopback waits for a
+// broadcast that is under way, a second at most: Aravis (0.8.26) holds one lock for both.
 ArvDevice *openGigE(const std::string &address, GError **error)
 {
     const GObjectPtr<GInetAddress> target(g_inet_address_new_from_string(address.c_str()));

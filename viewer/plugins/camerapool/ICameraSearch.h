@@ -10,13 +10,13 @@
 
 namespace CameraPool {
 
-/// A way to find cameras. Used in the camera pool's thread only.
+/// A way to find cameras. Used by one thread at a time.
 class ICameraSearch
 {
 public:
     virtual ~ICameraSearch();
 
-    /// Every camera that answers now. May block for about a second.
+    /// Every camera that answers now. May block for about two seconds.
     virtual QVector<CFoundCamera> search() = 0;
 
 protected:
