@@ -15,6 +15,17 @@ CFoundCamera camera(const char *serial, const char *userName = "")
     found.model = QStringLiteral("XQZ-2000");
     found.serial = QString::fromLatin1(serial);
     found.userName = QString::fromLatin1(userName);
+    found.isNameKnown = true;
+    found.isControlKnown = true;
+    return found;
+}
+
+// One that answered the broadcast, but not when it was asked how it is.
+CFoundCamera silentCamera(const char *serial)
+{
+    CFoundCamera found = camera(serial);
+    found.isNameKnown = false;
+    found.isControlKnown = false;
     return found;
 }
 
@@ -48,6 +59,10 @@ private Q_SLOTS:
     void renamedCameraIsNeitherGoneNorConnected();
     void renamingIsToldOnceWithTheNewDescription();
     void renamingWhileTheCameraWasAwayIsToldToo();
+    void cameraThatDoesNotTellItsNameKeepsIt();
+    void cameraThatHasNeverToldItsNameHasNone();
+    void cameraThatTellsThatItHasNoNameLosesIt();
+    void cameraThatDoesNotTellWhoControlsItIsControlledAsBefore();
     void nameIsTheOneThatWasFoundLast();
     void descriptionStaysTheSameObjectWhileNothingChanges();
     void whoControlsACameraCanBeNotedBetweenSearches();
@@ -159,6 +174,48 @@ void CameraTableTest::renamingWhileTheCameraWasAwayIsToldToo()
     const auto changes = table.update({camera("A", "New")}, {});
     QCOMPARE(serials(changes.renamed), A);
     QCOMPARE(serials(changes.connected), A);
+}
+
+void CameraTableTest::cameraThatDoesNotTellItsNameKeepsIt()
+{
+    CCameraTable table;
+    table.update({camera("A", "Left of belt")}, {});
+    QVERIFY(table.update({silentCamera("A")}, {}).renamed.isEmpty());
+    QCOMPARE(table.cameras().first()->displayName(), QStringLiteral("Left of belt"));
+    QCOMPARE(table.nameOf(table.cameras().first()), QStringLiteral("Left of belt"));
+    QVERIFY(table.update({camera("A", "Left of belt")}, {}).renamed.isEmpty());
+}
+
+void CameraTableTest::cameraThatHasNeverToldItsNameHasNone()
+{
+    CCameraTable table;
+    QCOMPARE(serials(table.update({silentCamera("A")}, {}).connected), A);
+    QCOMPARE(table.cameras().first()->displayName(), QStringLiteral("Ostrand-XQZ-2000-A"));
+    QVERIFY(!table.find(QStringLiteral("Ostrand-XQZ-2000-A"))->isControlled);
+    QCOMPARE(serials(table.update({camera("A", "Left of belt")}, {}).renamed), A);
+    QCOMPARE(table.cameras().first()->displayName(), QStringLiteral("Left of belt"));
+}
+
+void CameraTableTest::cameraThatTellsThatItHasNoNameLosesIt()
+{
+    CCameraTable table;
+    table.update({camera("A", "Left of belt")}, {});
+    QCOMPARE(serials(table.update({camera("A")}, {}).renamed), A);
+    QCOMPARE(table.cameras().first()->displayName(), QStringLiteral("Ostrand-XQZ-2000-A"));
+}
+
+void CameraTableTest::cameraThatDoesNotTellWhoControlsItIsControlledAsBefore()
+{
+    const QString identity = QStringLiteral("Ostrand-XQZ-2000-A");
+    CCameraTable table;
+    CFoundCamera controlled = camera("A");
+    controlled.isControlled = true;
+    table.update({controlled}, {});
+    table.update({silentCamera("A")}, {});
+    QVERIFY(table.find(identity)->isControlled);
+    table.update({camera("A")}, {});
+    table.update({silentCamera("A")}, {});
+    QVERIFY(!table.find(identity)->isControlled);
 }
 
 void CameraTableTest::nameIsTheOneThatWasFoundLast()

@@ -28,6 +28,9 @@ private Q_SLOTS:
     void cameraThatAnswersNobodyAloneHasTheSameIdentity();
     void camerasAreAskedAllAtOnce_data();
     void camerasAreAskedAllAtOnce();
+    void questionThatIsLostIsAskedASecondTime_data();
+    void questionThatIsLostIsAskedASecondTime();
+    void cameraThatAnswersNobodyAloneIsFoundWithoutItsName();
     void environmentChoosesTheSearch_data();
     void environmentChoosesTheSearch();
 };
@@ -186,6 +189,48 @@ void SearchTest::camerasAreAskedAllAtOnce()
                                       : QStringLiteral("Right"));
         QCOMPARE(camera.isControlled, camera.serial == QStringLiteral("B2"));
     }
+}
+
+void SearchTest::questionThatIsLostIsAskedASecondTime_data()
+{
+    QTest::addColumn<bool>("isByAddress");
+    QTest::addColumn<int>("lost");
+    QTest::newRow("who are you, by address") << true << 1;
+    QTest::newRow("who controls you, by address") << true << 2;
+    QTest::newRow("who are you, by broadcast") << false << 1;
+    QTest::newRow("who controls you, by broadcast") << false << 2;
+}
+
+void SearchTest::questionThatIsLostIsAskedASecondTime()
+{
+    QFETCH(bool, isByAddress);
+    QFETCH(int, lost);
+    if (!isIsolated()) {
+        QSKIP("broadcasts only in a network of its own");
+    }
+    int count = 0; // in the camera's thread
+    const CGvcpResponder camera({"127.0.0.1", "02ab00000001", "A1", "Left of belt", 2,
+                                 [&count, lost] { return ++count != lost; }});
+    QVERIFY(camera.isListening());
+    const auto found = isByAddress ? CLoopbackSearch().search() : CNetworkSearch().search();
+    QCOMPARE(found.size(), 1);
+    QVERIFY(found.first().isNameKnown && found.first().isControlKnown);
+    QCOMPARE(found.first().userName, QStringLiteral("Left of belt"));
+    QVERIFY(found.first().isControlled);
+}
+
+void SearchTest::cameraThatAnswersNobodyAloneIsFoundWithoutItsName()
+{
+    if (!isIsolated()) {
+        QSKIP("broadcasts only in a network of its own");
+    }
+    const CGvcpResponder camera(
+        {"127.0.0.1", "02ab00000001", "A1", "Left of belt", 2, [] { return false; }});
+    QVERIFY(camera.isListening());
+    const auto found = CNetworkSearch().search();
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.first().openId, QStringLiteral("127.0.0.1"));
+    QVERIFY(!found.first().isNameKnown && !found.first().isControlKnown);
 }
 
 void SearchTest::environmentChoosesTheSearch_data()

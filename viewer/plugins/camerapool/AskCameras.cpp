@@ -63,8 +63,13 @@ void takeAnswers(const Dialogs &dialogs, const QDeadlineTimer &deadline)
 
 void askCameras(QVector<CFoundCamera> *cameras)
 {
+    const QDeadlineTimer end(AnswerTimeoutMs);
     const Dialogs dialogs = beginDialogs(cameras);
-    takeAnswers(dialogs, QDeadlineTimer(AnswerTimeoutMs));
+    takeAnswers(dialogs, QDeadlineTimer(AnswerTimeoutMs / 2));
+    for (CGvcpDialog *dialog : unfinished(dialogs)) {
+        dialog->askAgain();
+    }
+    takeAnswers(dialogs, end);
 }
 
 } // namespace CameraPool

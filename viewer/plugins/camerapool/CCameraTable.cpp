@@ -87,9 +87,21 @@ CCameraTable::Entry &CCameraTable::entry(const QString &identity)
     return m_entries.last();
 }
 
-void CCameraTable::take(const CFoundCamera &found, Changes *changes)
+CFoundCamera CCameraTable::withWhatWasKnown(CFoundCamera found, const CFoundCamera &before)
 {
-    Entry &camera = entry(found.identity());
+    if (!found.isNameKnown) {
+        found.userName = before.userName;
+    }
+    if (!found.isControlKnown) {
+        found.isControlled = before.isControlled;
+    }
+    return found;
+}
+
+void CCameraTable::take(const CFoundCamera &answer, Changes *changes)
+{
+    Entry &camera = entry(answer.identity());
+    const CFoundCamera found = withWhatWasKnown(answer, camera.found);
     if (!camera.info) {
         camera.info.reset(new CCameraInfo(found));
     } else if (camera.found.userName != found.userName) {

@@ -38,7 +38,8 @@ public:
     };
 
     /// Takes the result of a search. A camera that was renamed keeps its place and gets a new
-    /// description; it is neither connected nor gone by that.
+    /// description; it is neither connected nor gone by that. What a camera did not tell this time
+    /// stays as it was told before.
     Changes update(const QVector<CFoundCamera> &found, const QSet<QString> &openIdentities);
 
     /// Forgets that the camera is there, as if it had been missed often enough.
@@ -69,7 +70,8 @@ private:
     };
 
     Entry &entry(const QString &identity);
-    void take(const CFoundCamera &found, Changes *changes);
+    static CFoundCamera withWhatWasKnown(CFoundCamera found, const CFoundCamera &before);
+    void take(const CFoundCamera &answer, Changes *changes);
     static void miss(Entry *entry, bool isOpen, Changes *changes);
 
     QVector<Entry> m_entries;

@@ -17,8 +17,8 @@ struct CFoundCamera
     QString openId;   ///< by which the transport opens it: an IP address, else Aravis' own id
     bool isGigE = true;
     bool isControlled = false;   ///< some program controls it, this one included
-    bool isNameKnown = false;    ///< the camera told \c userName
-    bool isControlKnown = false; ///< the camera told \c isControlled
+    bool isNameKnown = false;    ///< false: the camera did not tell \c userName this time
+    bool isControlKnown = false; ///< false: it did not tell \c isControlled
 
     /// Unique, and the same after unplugging and renaming: "vendor-model-serial". The serial number
     /// is optional in GigE Vision; the MAC address stands for one that is missing.

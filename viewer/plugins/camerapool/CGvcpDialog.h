@@ -31,6 +31,12 @@ public:
         return m_socket.handle();
     }
 
+    /// Asks the question once more that was not answered. An answer to either counts.
+    void askAgain()
+    {
+        sendQuestion();
+    }
+
     /// Takes the datagram that has arrived, and asks on if it is the answer.
     void takeAnswer();
 

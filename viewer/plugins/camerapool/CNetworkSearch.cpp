@@ -36,6 +36,10 @@ CFoundCamera describe(unsigned int index)
     camera.isGigE = qstrcmp(arv_get_device_protocol(index), "GigEVision") == 0;
     if (camera.isGigE) {
         describeGigE(index, &camera);
+    } else {
+        // There is nobody to ask who could tell more.
+        camera.isNameKnown = true;
+        camera.isControlKnown = true;
     }
     // The address, because the same id may be known at two interfaces, one of which is gone.
     camera.openId =

@@ -85,9 +85,8 @@ void CPoolWorker::dropOutdated(QVector<CFoundCamera> *found) const
     };
     found->erase(std::remove_if(found->begin(), found->end(), isOutdated), found->end());
     for (CFoundCamera &camera : *found) {
-        const CFoundCamera *known = m_table.find(camera.identity());
-        if (known && m_usedMeanwhile.contains(camera.identity())) {
-            camera.isControlled = known->isControlled;
+        if (m_usedMeanwhile.contains(camera.identity())) {
+            camera.isControlKnown = false;
         }
     }
 }
