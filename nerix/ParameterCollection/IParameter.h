@@ -49,7 +49,8 @@ public:
 
     /// The current value as text, in GenICam's notation: an enumeration gives the name of its
     /// entry, a boolean "true" or "false", a float its shortest exact decimal form with a point.
-    /// @throws CParameterException if it cannot be read.
+    /// @throws CParameterException if it cannot be read, or has no text that could be set again: a
+    /// number that is no entry, a float that is not finite, a text that is not UTF-8.
     virtual QString valueText() const = 0;
 
     /// Sets the value from its text. Emits `parameterValueAboutToBeSet` before the device takes it.

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void testSameValueIsNotWanted();
     void testLockedFeatureCannotBeChanged();
     void testExpectedValueStandsUntilTheDeviceConfirmsIt();
+    void testExpectedValueStandsInPlaceOfOneThatCannotBeRead();
     void testRefusedValueGivesWayToTheOldOne();
     void testSearchKeepsFeaturesAndTheirParents_data();
     void testSearchKeepsFeaturesAndTheirParents();
@@ -294,6 +295,20 @@ void FeatureModelTest::testExpectedValueStandsUntilTheDeviceConfirmsIt()
     model.setState(0, stateOf("3")); // the device made it 3
     QCOMPARE(value.data().toString(), QString("3"));
     QVERIFY(!value.data(Qt::FontRole).value<QFont>().italic());
+}
+
+void FeatureModelTest::testExpectedValueStandsInPlaceOfOneThatCannotBeRead()
+{
+    CFeatureModel model;
+    model.setFeatures({feature("X", InterfaceFloat)});
+    CFeatureState unreadable = stateOf({});
+    unreadable.failure = "broken";
+    model.setState(0, unreadable);
+    model.expect(0, "2");
+    QCOMPARE(model.indexOf(0, CFeatureModel::ValueColumn).data().toString(), QString("2"));
+    model.refuse(0);
+    QCOMPARE(model.indexOf(0, CFeatureModel::ValueColumn).data().toString(),
+             QString("not readable"));
 }
 
 void FeatureModelTest::testRefusedValueGivesWayToTheOldOne()

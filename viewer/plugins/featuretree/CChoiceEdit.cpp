@@ -32,7 +32,7 @@ void CChoiceEdit::setEntries(const QStringList &entries)
         const QString chosen = currentText();
         clear();
         addItems(entries);
-        setCurrentText(chosen);
+        setCurrentIndex(findText(chosen));
     }
 }
 

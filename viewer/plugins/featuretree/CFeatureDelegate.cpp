@@ -62,7 +62,7 @@ void setText(QWidget *editor, const QString &text)
     if (auto *number = qobject_cast<CNumberEdit *>(editor)) {
         number->setText(text);
     } else if (auto *choice = qobject_cast<CChoiceEdit *>(editor)) {
-        choice->setCurrentText(text);
+        choice->setCurrentIndex(choice->findText(text)); // none is better than the first one
     } else if (auto *line = qobject_cast<QLineEdit *>(editor)) {
         line->setText(text);
         line->selectAll();
@@ -84,6 +84,13 @@ bool isNoNumber(const QWidget *editor)
 {
     const auto *number = qobject_cast<const CNumberEdit *>(editor);
     return number && number->number().isNull();
+}
+
+// The value at first may be no entry, or none that can be read.
+bool isNothingChosen(const QWidget *editor)
+{
+    const auto *choice = qobject_cast<const CChoiceEdit *>(editor);
+    return choice && choice->currentIndex() < 0;
 }
 
 bool isEnd(const QEvent &event)
@@ -167,6 +174,9 @@ void CFeatureDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
 {
     if (isNoNumber(editor)) {
         tellNoNumber(*editor);
+        return;
+    }
+    if (isNothingChosen(editor)) {
         return;
     }
     const QString text = textOf(editor);

@@ -183,6 +183,7 @@ CFeatureState CFeatureModel::shownState(int feature) const
     CFeatureState state = value.state;
     if (!value.expected.isNull() && m_features.at(feature).type != InterfaceCommand) {
         state.text = value.expected;
+        state.failure.clear();
     }
     return state;
 }

@@ -18,6 +18,14 @@ void CNodeAccess::refuse(const QString &reason) const
         QStringLiteral("%1: %2").arg(m_feature.fullName(), reason));
 }
 
+void CNodeAccess::refuseValue(const QString &problem, const QString &remedy) const
+{
+    refuse(QStringLiteral("%1: %2").arg(
+        problem, m_feature.hasWritableValue
+                     ? remedy
+                     : QStringLiteral("only the camera can change it, so read it again later")));
+}
+
 const CNodeAccess &CNodeAccess::offered() const
 {
     if (!isOffered()) {

@@ -62,6 +62,11 @@ public:
     /// Refuses something that was asked of the feature: "@CameraDevice/Width: " and \a reason.
     [[noreturn]] void refuse(const QString &reason) const;
 
+    /// Refuses to read a value that has no text which could be set again: \a problem, which names
+    /// the value, and what helps: \a remedy, or, if nobody can set the feature, to wait for another
+    /// one.
+    [[noreturn]] void refuseValue(const QString &problem, const QString &remedy) const;
+
     /// This object, for reading the value.
     /// @throws ParameterCollection::CParameterException if the device does not offer the feature.
     const CNodeAccess &offered() const;

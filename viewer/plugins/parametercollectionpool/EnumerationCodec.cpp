@@ -10,12 +10,25 @@ ArvGcEnumeration *enumeration(const CNodeAccess &access)
     return ARV_GC_ENUMERATION(access.node());
 }
 
-// Aravis owns the text and may drop it at the next read of the same node.
+[[noreturn]] void refuseNumber(const CNodeAccess &access)
+{
+    const QString number = QString::number(enumerationValue(access));
+    const QString entries = enumerationEntries(access).join(QStringLiteral(", "));
+    access.refuseValue(QStringLiteral("its value %1 is no entry").arg(number),
+                       QStringLiteral("set it to one of %1").arg(entries));
+}
+
+// Aravis owns the text and may drop it at the next read of the same node. For a number without an
+// entry it gives none, and no error.
 QString read(const CNodeAccess &access)
 {
-    return QString::fromUtf8(access.call([&](GError **error) {
+    const char *name = access.call([&](GError **error) {
         return arv_gc_enumeration_get_string_value(enumeration(access), error);
-    }));
+    });
+    if (!name) {
+        refuseNumber(access);
+    }
+    return QString::fromUtf8(name);
 }
 
 QString check(const CNodeAccess &access, const QString &text)

@@ -3,6 +3,8 @@
 #include "CValueCodec.h"
 #include "ValueText.h"
 
+#include <cmath>
+
 namespace ParameterCollectionPool {
 namespace {
 
@@ -13,7 +15,12 @@ ArvGcFloat *asFloat(const CNodeAccess &access)
 
 QString read(const CNodeAccess &access)
 {
-    return ValueText::fromFloat(floatValue(access));
+    const double value = floatValue(access);
+    if (!std::isfinite(value)) {
+        access.refuseValue(QStringLiteral("its value %1 is no number").arg(value),
+                           QStringLiteral("set it to one"));
+    }
+    return ValueText::fromFloat(value);
 }
 
 QString check(const CNodeAccess &access, const QString &text)

@@ -10,11 +10,30 @@ ArvGcString *string(const CNodeAccess &access)
     return ARV_GC_STRING(access.node());
 }
 
-// Aravis owns the text and may drop it at the next read of the same node.
+// The bytes in one line: what is not printed as it is in ASCII, as two hexadecimal digits.
+QString printed(const QByteArray &bytes)
+{
+    QString text;
+    for (const char byte : bytes) {
+        const bool isPlain = byte >= ' ' && byte <= '~';
+        text += isPlain ? QString(QLatin1Char(byte))
+                        : QStringLiteral("\\x%1").arg(uchar(byte), 2, 16, QLatin1Char('0'));
+    }
+    return text;
+}
+
+// Aravis owns the text and may drop it at the next read of the same node. A text that would be
+// written as other bytes than it was read from is none.
 QString read(const CNodeAccess &access)
 {
-    return QString::fromUtf8(access.call(
-        [&](GError **error) { return arv_gc_string_get_value(string(access), error); }));
+    const QByteArray bytes = access.call(
+        [&](GError **error) { return QByteArray(arv_gc_string_get_value(string(access), error)); });
+    const QString text = QString::fromUtf8(bytes);
+    if (text.toUtf8() != bytes) {
+        access.refuseValue(QStringLiteral("its text \"%1\" is not valid UTF-8").arg(printed(bytes)),
+                           QStringLiteral("set it anew"));
+    }
+    return text;
 }
 
 QString check(const CNodeAccess &access, const QString &text)
