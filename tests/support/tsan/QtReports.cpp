@@ -6,7 +6,8 @@
 // not see. The same for Aravis, which builds on GLib's locks. A suppression by name cannot say
 // that, since it would look for the name anywhere in the stack. Whatever our own code accesses is
 // reported, but for an atomic access that races with Qt's own: that is the count of what they
-// share, such as the characters of a string, which Qt counts unseen.
+// share, such as the characters of a string, which Qt counts unseen. If the sanitizer has forgotten
+// who made one of the accesses, the other one decides.
 
 #ifdef __SANITIZE_THREAD__
 
@@ -46,10 +47,11 @@ bool beginsWith(const char *text, const char *beginning)
     return std::strncmp(text, beginning, std::strlen(beginning)) == 0;
 }
 
-enum class Access { Own, OwnAtomic, Qt };
+enum class Access { Own, OwnAtomic, Qt, Forgotten };
 
 /// Whose access \a index was: that of Qt or GLib, too, if they called a function of the C library,
-/// which the sanitizer stands before.
+/// which the sanitizer stands before. Of an access long ago the sanitizer may have forgotten the
+/// stack.
 Access accessOf(void *report, std::size_t index)
 {
     int number = 0;
@@ -58,6 +60,9 @@ Access accessOf(void *report, std::size_t index)
     void *trace[traceSize] = {};
     __tsan_get_report_mop(report, index, &number, &address, &number, &number, &isAtomic, trace,
                           traceSize);
+    if (!trace[0]) {
+        return Access::Forgotten;
+    }
     void **caller = std::find_if(std::begin(trace), std::end(trace), [](void *frame) {
         return !beginsWith(libraryOf(frame), "libtsan");
     });
