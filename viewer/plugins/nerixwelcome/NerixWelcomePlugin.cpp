@@ -87,8 +87,13 @@ void CNerixWelcomePlugin::addWindow()
     if (!windows) {
         return;
     }
-    const auto make = [this, windows] {
-        m_window = new CWelcomeWindow(*m_controller, windows->window());
+    // Weak, because a timer that is never over keeps what it was given longer than the application.
+    const auto make = [this, weak = windows.toWeakRef()] {
+        const auto service = weak.toStrongRef();
+        if (!service) {
+            return;
+        }
+        m_window = new CWelcomeWindow(*m_controller, service->window());
         if (const auto help = Core::Plugin::findService<Help::IHelpViewService>(m_initializer)) {
             using Help::IHelpViewService;
             connect(help.data(), &IHelpViewService::failed, m_window, &CWelcomeWindow::showProblem);
