@@ -16,6 +16,7 @@ constexpr int LimitMs = 30000;
 struct CHeldSearch::CHold::State
 {
     std::atomic<bool> isHolding{false};
+    std::atomic<bool> isSearching{false};
     QSemaphore held;
     QSemaphore letGo;
 };
@@ -53,6 +54,11 @@ bool CHeldSearch::CHold::holdTheNext()
     return m_state->held.tryAcquire(1, LimitMs);
 }
 
+bool CHeldSearch::CHold::isSearching() const
+{
+    return m_state->isSearching;
+}
+
 CHeldSearch::CHeldSearch(std::shared_ptr<CHold::State> state)
     : m_state(std::move(state))
 {}
@@ -61,11 +67,13 @@ CHeldSearch::~CHeldSearch() = default;
 
 QVector<CFoundCamera> CHeldSearch::search()
 {
+    m_state->isSearching = true;
     const bool isHeld = m_state->isHolding;
     const auto found = m_loopback.search();
     if (isHeld) {
         m_state->held.release();
         m_state->letGo.acquire();
     }
+    m_state->isSearching = false;
     return found;
 }

@@ -32,6 +32,9 @@ public:
         // in then.
         bool holdTheNext();
 
+        // From the begin of a search to its end. Callable in any thread.
+        bool isSearching() const;
+
     private:
         friend class CHeldSearch;
         struct State;

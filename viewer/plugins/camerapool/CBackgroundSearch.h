@@ -6,11 +6,12 @@
 
 #include <functional>
 #include <memory>
+#include <thread>
 
 namespace CameraPool {
 
 /// Searches in a thread of its own, so that nobody who asks something of the pool waits for the
-/// answers of cameras. Used in one thread.
+/// answers of cameras. Used by one thread at a time.
 class CBackgroundSearch
 {
 public:
@@ -19,8 +20,7 @@ public:
     CBackgroundSearch(std::unique_ptr<ICameraSearch> search,
                       std::function<void(const QVector<CFoundCamera> &found)> onFound);
 
-    /// Does not wait for a search that is under way: it is left to itself, and what it finds is not
-    /// told.
+    /// Waits as `wait` does.
     ~CBackgroundSearch();
 
     Q_DISABLE_COPY_MOVE(CBackgroundSearch)
@@ -28,11 +28,14 @@ public:
     /// Searches once. The search before must have told what it found.
     void begin();
 
-private:
-    struct State;
+    /// Waits for the end of a search that is under way. A program must not end before: what it
+    /// tidies up at its end, Aravis is still using.
+    void wait();
 
-    // Shared with the thread, which may live longer.
-    const std::shared_ptr<State> m_state;
+private:
+    const std::unique_ptr<ICameraSearch> m_search;
+    const std::function<void(const QVector<CFoundCamera> &)> m_onFound;
+    std::thread m_thread;
 };
 
 } // namespace CameraPool

@@ -27,6 +27,8 @@ CCameraPool::CCameraPool(std::unique_ptr<ICameraSearch> search, const CPoolTimin
     m_control->setWorker(m_worker.get());
     m_thread.setObjectName(QStringLiteral("CameraPool"));
     m_worker->moveToThread(&m_thread);
+    // In the pool's thread, so that the caller of `stop` has its event loop meanwhile.
+    QObject::connect(&m_thread, &QThread::finished, m_worker.get(), &CPoolWorker::waitForSearch);
 }
 
 CCameraPool::~CCameraPool()

@@ -278,6 +278,11 @@ void CPoolWorker::closeAll()
     Q_EMIT m_outlets.control->allClosed();
 }
 
+void CPoolWorker::waitForSearch()
+{
+    m_search.wait();
+}
+
 void CPoolWorker::onDeviceLost(const QString &identity, quint64 session)
 {
     const auto device = m_open.value(identity);

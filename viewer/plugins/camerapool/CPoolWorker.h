@@ -60,6 +60,9 @@ public:
     void stopGrab(const CameraInfoPtr &camera);
     void closeAll();
 
+    /// Waits for the end of a search that is under way, a second or two. At the end of the thread.
+    void waitForSearch();
+
 private:
     void searchOnce();
     void onFound(QVector<CFoundCamera> found);
