@@ -53,6 +53,7 @@ int fromEnvironment(const char *name, int otherwise)
 const char script[] = R"JS(
 var lost = "Ostrand-XQZ-2000-A";
 var other = "Ostrand-ab1234-50c-B";
+var third = "Ostrand-zz-1-C";
 var isAlone = ALONE;
 var longest = 0;
 var setsTried = 0, setsDone = 0, otherSets = 0;
@@ -91,8 +92,17 @@ function setBoth(i) {
         otherSets += 1;
     }
 }
+// Changes are observed from when the opening was heard of. Nobody waits for that, but a closing is
+// waited for, and it is heard of after all that was before: that of a third camera serves here.
+function waitUntilHeard() {
+    if (!isAlone) {
+        cameras.open(third);
+        cameras.close(third);
+    }
+}
 function work() {
     timed("open", function () { cameras.open(lost); });
+    waitUntilHeard();
     timed("start", function () { grab.start(lost); });
     for (var i = 0; i < 40; ++i) {
         setBoth(i);
@@ -105,6 +115,7 @@ function work() {
 
 if (!isAlone) {
     cameras.waitFor(other, 60000);
+    cameras.waitFor(third, 60000);
     cameras.open(other);
     grab.start(other);
 }
@@ -190,6 +201,8 @@ void LostCameraTest::testTheViewerGoesOn()
     QVERIFY2(lost.start(), qPrintable(lost.errorText()));
     CSimulatorProcess other({"--address", "127.0.0.2", "--serial", "B", "--model", "ab1234-50c"});
     QVERIFY2(m_isAlone || other.start(), qPrintable(other.errorText()));
+    CSimulatorProcess third({"--address", "127.0.0.3", "--serial", "C", "--model", "zz-1"});
+    QVERIFY2(m_isAlone || third.start(), qPrintable(third.errorText()));
 
     m_viewer.storeConsent(true, true);
     // As they come: of more than 10,000 the library gives up the oldest.
