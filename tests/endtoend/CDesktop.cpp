@@ -3,6 +3,8 @@
 
 #include "CDesktop.h"
 
+#include "CViewerProcess.h"
+
 #include <QTest>
 
 namespace {
@@ -29,6 +31,15 @@ bool CDesktop::start()
     return m_windowManager.waitForStarted() && QTest::qWaitFor([] {
                return printedBy("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("0x");
            });
+}
+
+bool CDesktop::showFirstWindows(CViewerProcess &viewer)
+{
+    viewer.setOptions({"--show-windows"});
+    viewer.start("while (!welcome.visible()) { sleep(10); }\n"
+                 "print(\"shown\");\n"
+                 "for (;;) { sleep(10); }\n");
+    return viewer.waitForLine("shown");
 }
 
 QRect CDesktop::placeOf(const QString &title)

@@ -28,11 +28,7 @@ void FirstWindowsTest::testWelcomeScreenStandsInTheMiddleOfTheMainWindow()
     CDesktop desktop;
     QVERIFY(desktop.start());
     CViewerProcess viewer;
-    viewer.setOptions({"--show-windows"});
-    viewer.start("while (!welcome.visible()) { sleep(10); }\n"
-                 "print(\"shown\");\n"
-                 "for (;;) { sleep(10); }\n");
-    QVERIFY(viewer.waitForLine("shown"));
+    QVERIFY(desktop.showFirstWindows(viewer));
     QRect main;
     QRect welcome;
     QVERIFY(QTest::qWaitFor(

@@ -22,11 +22,7 @@ void SmallScreenTest::testMainWindowFillsTheScreenAndTheWelcomeScreenFitsInto()
     CDesktop desktop;
     QVERIFY(desktop.start());
     CViewerProcess viewer;
-    viewer.setOptions({"--show-windows"});
-    viewer.start("while (!welcome.visible()) { sleep(10); }\n"
-                 "print(\"shown\");\n"
-                 "for (;;) { sleep(10); }\n");
-    QVERIFY(viewer.waitForLine("shown"));
+    QVERIFY(desktop.showFirstWindows(viewer));
     const QRect screen(0, 0, 1366, 768);
     QRect main;
     QRect welcome;

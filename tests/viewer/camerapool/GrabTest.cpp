@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "CPoolRig.h"
 #include "CSimulatorProcess.h"
-#include "GvspSender.h"
 #include "plugins/camerapool/CCameraControl.h"
 #include "plugins/camerapool/CCameraStatus.h"
 #include "plugins/camerapool/CDevice.h"
-#include "plugins/camerapool/CDeviceAccess.h"
 #include "plugins/camerapool/CDeviceStore.h"
 
 #include <atomic>
@@ -36,8 +34,6 @@ private Q_SLOTS:
     void countersAreThoseOfTheLastGrab();
     void countersAreReadableWhenTheEndIsToldAndAfterClosing();
     void lostPacketsArriveAsFailedResults();
-    void imageWithChunkDataIsAnImage_data();
-    void imageWithChunkDataIsAnImage();
     void secondGrabAtTheSameTimeIsRefused();
     void grabCanBeStartedInTheSlotThatHearsOfTheEnd();
     void continuousGrabCanBeStartedAndStoppedManyTimes();
@@ -247,44 +243,6 @@ void GrabTest::lostPacketsArriveAsFailedResults()
     const CStreamCounters counters = m_rig->pool().devices()->device(m_camera)->counters();
     QVERIFY(*counters.at(FailedBuffers) >= grabbed.failures.size());
     QVERIFY(*counters.at(FailedPackets) > 0);
-}
-
-void GrabTest::imageWithChunkDataIsAnImage_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::newRow("none added") << int(GvspSender::Image);
-    QTest::newRow("added by a camera of GigE Vision 1") << int(GvspSender::ExtendedChunkData);
-}
-
-void GrabTest::imageWithChunkDataIsAnImage()
-{
-    QFETCH(int, type);
-    const auto device = m_rig->pool().devices()->device(m_camera);
-    device->call([](const CDeviceAccess &access) {
-        CGError error;
-        ArvDevice *camera = access.device();
-        arv_device_set_integer_feature_value(camera, "Width", 64, error.out());
-        arv_device_set_integer_feature_value(camera, "Height", 8, error.out());
-        // So that it sends nothing itself.
-        arv_device_set_string_feature_value(camera, "TriggerMode", "On", error.out());
-    });
-    m_rig->pool().control()->grabContinuous(m_camera);
-    QVERIFY(m_rig->waitFor(QStringLiteral("grabStarted A1")));
-    const auto port = device->call([](const CDeviceAccess &access) {
-        guint32 value = 0; // register of the first stream's port
-        arv_device_read_register(access.device(), 0x0d00, &value, nullptr);
-        return quint16(value & 0xffffU);
-    });
-    // The first can be sent before the stream listens.
-    quint16 id = 0;
-    QVERIFY(QTest::qWaitFor([&] {
-        GvspSender::send(port, ++id, GvspSender::PayloadType(type), 64, QByteArray(512, 'x'));
-        return !m_rig->grabbed(A1).images.isEmpty();
-    }));
-    const Nerix::CImage image = m_rig->grabbed(A1).images.first()->image();
-    QCOMPARE(int(image.width), 64);
-    QCOMPARE(int(image.height), 8);
-    QCOMPARE(quint32(image.pixelFormat), 0x01080001U);
 }
 
 void GrabTest::secondGrabAtTheSameTimeIsRefused()
