@@ -4,6 +4,7 @@
 
 #include "core/JsonWriter.h"
 #include "core/TimeText.h"
+#include "Printable.h"
 #include "TablePrinter.h"
 
 namespace rui::tool {
@@ -48,8 +49,9 @@ public:
 };
 
 // RFC 4180: a field with a comma, a quote or a line break is quoted, and its quotes doubled.
-std::string csvField(const std::string &text)
+std::string csvField(const std::string &value)
 {
+    const std::string text = withoutFormula(value);
     if (text.find_first_of(",\"\r\n") == std::string::npos) {
         return text;
     }

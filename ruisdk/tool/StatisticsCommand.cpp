@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Commands.h"
 #include "core/JsonWriter.h"
+#include "Printable.h"
 #include "store/Statistics.h"
 #include "TextTable.h"
 

@@ -3,6 +3,7 @@
 #include "TablePrinter.h"
 
 #include "core/TimeText.h"
+#include "Printable.h"
 
 namespace rui::tool {
 

@@ -8,7 +8,7 @@
 namespace rui::tool {
 
 // Aligned columns. Rows are kept until flush(), so that a column is as wide as its widest text.
-// Control characters are shown as escapes.
+// What a terminal would obey is shown as escapes.
 class TablePrinter : public Printer
 {
 public:

@@ -8,11 +8,6 @@ namespace rui::tool {
 
 namespace {
 
-bool isControl(char character)
-{
-    return static_cast<unsigned char>(character) < 0x20 || character == '\x7F';
-}
-
 // In characters: the bytes that do not continue a UTF-8 sequence.
 std::size_t widthOf(const std::string &text)
 {
@@ -21,21 +16,6 @@ std::size_t widthOf(const std::string &text)
 }
 
 } // namespace
-
-std::string printable(const std::string &text)
-{
-    static constexpr char digits[] = "0123456789abcdef";
-    std::string out;
-    for (const char character : text) {
-        if (isControl(character)) {
-            const auto code = static_cast<unsigned char>(character);
-            out += {'\\', 'x', digits[code >> 4], digits[code & 0x0F]};
-        } else {
-            out += character;
-        }
-    }
-    return out;
-}
 
 void TextTable::add(std::vector<std::string> row)
 {

@@ -25,7 +25,4 @@ private:
     std::vector<std::size_t> m_widths;
 };
 
-// The text with escapes, as in "\\x0a", for its control characters.
-std::string printable(const std::string &text);
-
 } // namespace rui::tool

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/Utf8.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -74,6 +73,11 @@ std::size_t asciiPrefix(std::string_view text) noexcept
 }
 
 } // namespace
+
+std::size_t characterLength(std::string_view text) noexcept
+{
+    return static_cast<Byte>(text[0]) < 0x80 ? 1 : sequenceLength(text);
+}
 
 bool isUtf8(std::string_view text) noexcept
 {
