@@ -113,7 +113,7 @@ TEST_F(Damage, NewerDatabaseIsUnsupportedAndLeftAlone)
 {
     m_session.open(m_path);
     m_session.destroy();
-    change(m_path, "PRAGMA user_version = 2");
+    change(m_path, "PRAGMA user_version = 1000");
     const std::string before = readFile(databasePath(m_path));
     Session next;
     EXPECT_EQ(next.open(m_path), 4);

@@ -180,11 +180,11 @@ TEST_F(EventsTool, DamagedDatabaseIsOneLineOfError)
 TEST_F(EventsTool, NewerDatabaseIsOneLineOfError)
 {
     storeTwo();
-    change(m_path, "PRAGMA user_version = 2");
+    change(m_path, "PRAGMA user_version = 1000");
     const Outcome outcome = run({m_path});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.errors,
-              "rui-events: the database has the newer version 2; update the program\n");
+              "rui-events: the database has the newer version 1000; update the program\n");
 }
 
 TEST_F(EventsTool, HelpNamesEveryOption)

@@ -3,6 +3,7 @@
 #include "store/Quota.h"
 
 #include "SetClock.h"
+#include "store/Notices.h"
 #include "store/Store.h"
 #include "StoredRecords.h"
 #include "TemporaryDirectory.h"
@@ -148,6 +149,41 @@ TEST_F(Quota, GapsThatExpiryLeavesAreNotCountedAsEvents)
     EXPECT_EQ(texts(), (Texts{"newer", "newest", "last"}));
 }
 
+// Steps of SQLite's machine for pushing out one event of many, with the number of a record of the
+// library's own between them or without.
+std::int64_t stepsToPushOutOne(bool withGap)
+{
+    constexpr int half = 1000;
+    const TemporaryDirectory directory;
+    const SetClock clock;
+    const auto busyLimit = std::make_shared<BusyLimit>(std::chrono::seconds(5));
+    Store store(StorePaths(directory.path()), OpeningOptions{}, {}, clock, busyLimit);
+    store.join({"1", "app", "", "", "", ""});
+    Database database(databasePath(directory.path()), Database::Access::ReadWrite, busyLimit);
+    for (int i = 0; i < 2 * half; ++i) {
+        if (i == half && withGap) {
+            addNotice(database, {nextSequence(database), NoticeKind::Loss, 0, 1, "{}"});
+        }
+        store.add({"", "", "", "text"});
+    }
+    std::int64_t steps = 0;
+    const auto count = [](void *sum) { return ++*static_cast<std::int64_t *>(sum) < 0 ? 1 : 0; };
+    sqlite3_progress_handler(database.handle(), 1, count, &steps);
+    Limits limits;
+    limits.maxEvents = 2 * half - 1;
+    enforceQuota(database, limits);
+    EXPECT_EQ(database.integer("SELECT count(*) FROM event"), limits.maxEvents);
+    return steps;
+}
+
+TEST(QuotaCost, OfAnEventThatIsPushedOutIsTheSameWithGapsInTheNumbersAsWithout)
+{
+    const std::int64_t without = stepsToPushOutOne(false);
+    const std::int64_t with = stepsToPushOutOne(true);
+    EXPECT_LE(with, without * 11 / 10);
+    EXPECT_LE(without, 1000);
+}
+
 TEST_F(Quota, OptOutRecordsAreNeverPushedOutAndNotCounted)
 {
     add("1");
@@ -159,6 +195,34 @@ TEST_F(Quota, OptOutRecordsAreNeverPushedOutAndNotCounted)
     m_clock.time = 1000 * day;
     drop();
     EXPECT_EQ(query(m_directory.path(), "SELECT name FROM record"), (Rows{{"OptOut"}}));
+}
+
+TEST_F(Quota, WhatIsWaitingIsKnownExactlyAfterEveryKindOfDeletion)
+{
+    m_limits.maxEvents = 8;
+    add("first");
+    Database database(databasePath(m_directory.path()), Database::Access::ReadWrite,
+                      std::make_shared<BusyLimit>(std::chrono::milliseconds(1000)));
+    const std::vector<const char *> deletions = {
+        "DELETE FROM event WHERE seq = (SELECT min(seq) FROM event)",
+        "DELETE FROM event WHERE seq = (SELECT max(seq) FROM event)",
+        "DELETE FROM event WHERE seq % 3 = 0",
+        "DELETE FROM event",
+    };
+    for (std::size_t i = 0; i < 40; ++i) {
+        add(std::string(i % 7, 'x'));
+        if (i % 5 == 0) {
+            addNotice(database, {nextSequence(database), NoticeKind::Loss, 0, 1, "{}"});
+        }
+        if (i % 3 == 0) {
+            database.execute("UPDATE state SET floor = max(floor, coalesce((SELECT max(seq) FROM"
+                             " event), 0))");
+            database.execute(deletions[i / 3 % deletions.size()]);
+        }
+        const Occupancy occupancy = occupancyOf(database);
+        EXPECT_EQ(occupancy.events, database.integer("SELECT count(*) FROM event")) << i;
+        EXPECT_EQ(occupancy.bytes, database.integer("SELECT total(size) FROM event")) << i;
+    }
 }
 
 TEST_F(Quota, DefaultsAreThePublishedOnes)

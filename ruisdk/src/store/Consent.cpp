@@ -79,7 +79,7 @@ void withdrawConsent(Database &database, const Product &product, std::int64_t no
     const std::int64_t seq = nextSequence(database);
     database.execute("DELETE FROM event; DELETE FROM loss; DELETE FROM notice WHERE kind = 'loss'");
     addNotice(database, {seq, NoticeKind::OptOut, now, resourceId(database, *client, product), ""});
-    database.execute("UPDATE state SET epoch = epoch + 1, client = NULL, gaps = 0,"
+    database.execute("UPDATE state SET epoch = epoch + 1, client = NULL,"
                      " not_before = 0, failures = 0");
     transaction.commit();
 }

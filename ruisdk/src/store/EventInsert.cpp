@@ -10,13 +10,11 @@ namespace rui {
 
 namespace {
 
-// What the next row follows from. The first and the last event are read through the table's own
-// key, and the last one stands on the page that is written next.
+// What the next row follows from. The last event is read through the table's own key, and stands
+// on the page that is written next.
 constexpr const char *lookSql =
     "SELECT epoch, floor, (SELECT seq FROM event ORDER BY seq DESC LIMIT 1),"
-    " (SELECT total FROM event ORDER BY seq DESC LIMIT 1),"
-    " (SELECT seq FROM event ORDER BY seq LIMIT 1),"
-    " (SELECT total - size FROM event ORDER BY seq LIMIT 1)"
+    " (SELECT total FROM event ORDER BY seq DESC LIMIT 1), gone, gone_bytes"
     " FROM state WHERE id = 1";
 
 constexpr const char *insertSql =
@@ -41,9 +39,8 @@ EventInsert::Position EventInsert::look()
     position.epoch = m_look.integer(0);
     position.seq = std::max(m_look.integer(1), m_look.integer(2)) + 1;
     position.total = m_look.integer(3);
-    const bool empty = m_look.isNull(4);
-    position.firstSeq = empty ? position.seq : m_look.integer(4);
-    position.totalBefore = m_look.integer(5);
+    position.gone = m_look.integer(4);
+    position.goneBytes = m_look.integer(5);
     return position;
 }
 
@@ -80,8 +77,8 @@ std::optional<Occupancy> EventInsert::run(const Event &event, const Membership &
         }
         insert(event, position, membership.resource, now);
         m_commit.run();
-        return Occupancy{position.seq - position.firstSeq + 1,
-                         position.total + event.size() - position.totalBefore};
+        return Occupancy{position.seq - position.gone,
+                         position.total + event.size() - position.goneBytes};
     } catch (...) {
         rollBack();
         throw;

@@ -11,8 +11,7 @@
 
 namespace rui {
 
-// How much is waiting for delivery. Errs on the high side when the numbers of the events have
-// gaps.
+// How much is waiting for delivery.
 struct Occupancy
 {
     std::int64_t events = 0;
@@ -38,8 +37,8 @@ private:
         std::int64_t epoch = 0;
         std::int64_t seq = 0;
         std::int64_t total = 0;
-        std::int64_t firstSeq = 0;
-        std::int64_t totalBefore = 0;
+        std::int64_t gone = 0;
+        std::int64_t goneBytes = 0;
     };
 
     Position look();

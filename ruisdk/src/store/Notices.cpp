@@ -32,7 +32,7 @@ void addNotice(Database &database, const Notice &notice)
     }
     insert.run();
     // A later event must not get this number.
-    database.prepare("UPDATE state SET floor = ?1, gaps = 1").bind(1, notice.seq).run();
+    database.prepare("UPDATE state SET floor = ?1").bind(1, notice.seq).run();
 }
 
 } // namespace rui

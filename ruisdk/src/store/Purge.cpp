@@ -17,9 +17,9 @@ Purged purge(Database &database)
         if (purged.pending > 0) {
             addLoss(database, LossReason::Purged, purged.pending);
         }
-        database.execute("UPDATE state SET gaps = 0,"
-                         " floor = max(floor, coalesce((SELECT max(seq) FROM event), 0));"
-                         "DELETE FROM event; DELETE FROM delivered");
+        database.execute(
+            "UPDATE state SET floor = max(floor, coalesce((SELECT max(seq) FROM event), 0));"
+            "DELETE FROM event; DELETE FROM delivered");
         transaction.commit();
     }
     sqlite3_wal_checkpoint_v2(database.handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr,

@@ -10,40 +10,6 @@ namespace rui {
 
 namespace {
 
-constexpr const char *spanOfNumbers =
-    "coalesce((SELECT max(seq) FROM event) - (SELECT min(seq) FROM event) + 1, 0)";
-
-// Reads two rows.
-Occupancy occupancyByNumbers(const Database &database)
-{
-    Statement query =
-        database.prepare(std::string("SELECT ") + spanOfNumbers
-                         + ", coalesce((SELECT total FROM event ORDER BY seq DESC LIMIT 1)"
-                           " - (SELECT total - size FROM event ORDER BY seq LIMIT 1), 0)");
-    query.step();
-    return {query.integer(0), query.integer(1)};
-}
-
-// Reads every row.
-Occupancy occupancyByCounting(const Database &database)
-{
-    Statement query = database.prepare("SELECT count(*), coalesce(sum(size), 0) FROM event");
-    query.step();
-    return {query.integer(0), query.integer(1)};
-}
-
-Occupancy occupancyOf(Database &database)
-{
-    if (database.integer("SELECT gaps FROM state") == 0) {
-        return occupancyByNumbers(database);
-    }
-    const Occupancy occupancy = occupancyByCounting(database);
-    if (occupancy.events == occupancyByNumbers(database).events) {
-        database.execute("UPDATE state SET gaps = 0");
-    }
-    return occupancy;
-}
-
 struct Eviction
 {
     std::int64_t last = 0;
@@ -85,6 +51,16 @@ constexpr const char *keepFloor =
 
 } // namespace
 
+Occupancy occupancyOf(const Database &database)
+{
+    Statement query =
+        database.prepare("SELECT max(floor, coalesce((SELECT max(seq) FROM event), 0)) - gone,"
+                         " coalesce((SELECT total FROM event ORDER BY seq DESC LIMIT 1), 0) - "
+                         "gone_bytes FROM state");
+    query.step();
+    return {query.integer(0), query.integer(1)};
+}
+
 bool exceeds(const Occupancy &occupancy, const Limits &limits)
 {
     return occupancy.events > limits.maxEvents || occupancy.bytes > limits.maxBytes;
@@ -114,8 +90,6 @@ void dropExpired(Database &database, const Limits &limits, std::int64_t now)
     count(database, LossReason::MaxAge, countOlder(database, oldest));
     database.execute(keepFloor);
     database.prepare("DELETE FROM event WHERE time < ?1").bind(1, oldest).run();
-    // A clock that was set may have left old times between newer ones.
-    database.execute("UPDATE state SET gaps = 1");
     transaction.commit();
 }
 

@@ -8,6 +8,9 @@
 
 namespace rui {
 
+// What is waiting now; reads no more than two rows. Throws SqliteError.
+Occupancy occupancyOf(const Database &database);
+
 bool exceeds(const Occupancy &occupancy, const Limits &limits);
 
 // Deletes the oldest events until the number and the size of the undelivered ones keep to the

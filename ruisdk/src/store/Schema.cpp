@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/Schema.h"
 
+#include "store/Migrations.h"
 #include "store/SqliteError.h"
 
 namespace rui {
@@ -10,7 +11,6 @@ namespace {
 
 // "RUI1" in the file's header says whose database it is.
 constexpr std::int64_t applicationId = 0x52554931;
-constexpr std::int64_t schemaVersion = 1;
 
 // What an event, a notice and a delivered record have in common.
 constexpr const char *recordColumns = "time INTEGER NOT NULL, uid TEXT NOT NULL,"
@@ -20,7 +20,7 @@ constexpr const char *recordColumns = "time INTEGER NOT NULL, uid TEXT NOT NULL,
 // epoch:      raised by every opt-out; an event is stored only under the epoch of its session
 // client:     the client id; null before the first session and after an opt-out
 // floor:      the highest number that a record outside of `event` has or had
-// gaps:       1 when numbers inside `event` may be missing, so that counting by numbers errs
+// gaps:       of version 1: 1 when numbers inside `event` may be missing
 // not_before: no request is sent before this time (nanoseconds since 1970)
 // failures:   failed tries in a row
 constexpr const char *stateTable = "CREATE TABLE state("
@@ -82,7 +82,7 @@ bool hasSchema(const Database &database)
         throw Failure(RUI_UNSUPPORTED, "the database belongs to another program");
     }
     const std::int64_t version = database.integer("PRAGMA user_version");
-    if (version > schemaVersion) {
+    if (version > newestSchemaVersion()) {
         throw Failure(RUI_UNSUPPORTED, "the database has the newer version "
                                            + std::to_string(version) + "; update the program");
     }
@@ -95,8 +95,9 @@ void createSchema(Database &database)
     Transaction transaction(database);
     database.execute(std::string(stateTable) + resourceTable + lossTable + recordTables()
                      + recordView + "PRAGMA application_id = " + std::to_string(applicationId)
-                     + "; PRAGMA user_version = " + std::to_string(schemaVersion));
+                     + "; PRAGMA user_version = 1");
     transaction.commit();
+    migrateSchema(database);
 }
 
 } // namespace rui

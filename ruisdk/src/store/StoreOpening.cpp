@@ -4,6 +4,7 @@
 
 #include "store/FileLock.h"
 #include "store/Losses.h"
+#include "store/Migrations.h"
 #include "store/PrivateFiles.h"
 #include "store/Readability.h"
 #include "store/Schema.h"
@@ -50,7 +51,9 @@ Database openChecked(const StorePaths &paths, const OpeningOptions &options,
     // Before the journal mode, which would be written to somebody else's database.
     const bool exists = hasSchema(database);
     configure(database, options);
-    if (!exists) {
+    if (exists) {
+        migrateSchema(database);
+    } else {
         createSchema(database);
     }
     if (options.verify) {

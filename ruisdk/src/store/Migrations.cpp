@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#include "store/Migrations.h"
+
+#include <array>
+#include <string>
+
+namespace rui {
+
+namespace {
+
+// What is waiting is told from the numbers of the last event, whatever gaps there are between.
+// gone:       how many of the numbers up to the highest one are no waiting events
+// gone_bytes: how much of the last event's total is the size of events that are gone
+// A database may also be in use by a library of version 1, which reads `gaps`.
+constexpr const char *countWhatIsGone =
+    "ALTER TABLE state ADD COLUMN gone INTEGER NOT NULL DEFAULT 0;"
+    "ALTER TABLE state ADD COLUMN gone_bytes INTEGER NOT NULL DEFAULT 0;"
+    "UPDATE state SET gaps = 1,"
+    " gone = max(floor, coalesce((SELECT max(seq) FROM event), 0)) - (SELECT count(*) FROM event),"
+    " gone_bytes = coalesce((SELECT total FROM event ORDER BY seq DESC LIMIT 1), 0)"
+    " - (SELECT coalesce(sum(size), 0) FROM event);"
+    "CREATE TRIGGER event_is_gone AFTER DELETE ON event BEGIN"
+    " UPDATE state SET gaps = 1, gone = gone + 1, gone_bytes ="
+    " CASE WHEN EXISTS(SELECT 1 FROM event WHERE seq > OLD.seq) THEN gone_bytes + OLD.size"
+    // The totals go on from the event that is the last one now, from 0 when there is none.
+    " ELSE gone_bytes - (OLD.total - OLD.size)"
+    " + coalesce((SELECT total FROM event ORDER BY seq DESC LIMIT 1), 0) END; END;"
+    "CREATE TRIGGER notice_takes_a_number AFTER INSERT ON notice BEGIN"
+    " UPDATE state SET gaps = 1, gone = gone + 1; END;";
+
+// Each leads from one version to the next; the first one to version 2. What stands here has run
+// on users' machines: add to its end only.
+constexpr std::array<const char *, 1> migrations = {countWhatIsGone};
+
+constexpr std::int64_t firstVersion = 1;
+
+std::int64_t versionOf(const Database &database)
+{
+    return database.integer("PRAGMA user_version");
+}
+
+} // namespace
+
+std::int64_t newestSchemaVersion()
+{
+    return firstVersion + static_cast<std::int64_t>(migrations.size());
+}
+
+void migrateSchema(Database &database)
+{
+    if (versionOf(database) == newestSchemaVersion()) {
+        return;
+    }
+    Transaction transaction(database);
+    for (std::int64_t version = versionOf(database); version < newestSchemaVersion(); ++version) {
+        database.execute(migrations.at(static_cast<std::size_t>(version - firstVersion)));
+        database.execute("PRAGMA user_version = " + std::to_string(version + 1));
+    }
+    transaction.commit();
+}
+
+} // namespace rui
