@@ -8,6 +8,7 @@ import { UserError } from "./user-error.js";
 // Loaded when called: the engine is 500 MB, and not every command needs it.
 const commands = {
     list: () => import("./commands/list.js"),
+    simulate: () => import("./commands/simulate.js"),
 };
 
 async function usage() {
