@@ -4,8 +4,8 @@
 
 #include "CDeviceAccess.h"
 #include "GrabErrors.h"
+#include "GuardedStream.h"
 #include "Logging.h"
-#include "StreamSocket.h"
 
 #include <ParameterCollection/CParameterException.h>
 
@@ -112,20 +112,12 @@ std::shared_ptr<Started> start(const CDeviceAccess &access, const QString &name,
         started->singlePatience = exposure(device) + framePeriod(device) + TransferPatience;
     }
 
-    if (ARV_IS_GV_DEVICE(device)) {
-        // A packet socket, which Aravis prefers where it has the right to, begins to listen some
-        // 20 ms after the stream is made: a single image would be missed.
-        arv_gv_device_set_stream_options(ARV_GV_DEVICE(device),
-                                         ARV_GV_STREAM_OPTION_PACKET_SOCKET_DISABLED);
-    }
     CGError error;
-    started->stream.reset(arv_device_create_stream(device, nullptr, nullptr, error.out()));
+    started->stream = createGuardedStream(device, SocketBufferSize, error.out());
     access.check(error, cannotGrab(name, "the stream cannot be made"));
     if (ARV_IS_GV_STREAM(started->stream.get())) {
-        ArvGvStream *stream = ARV_GV_STREAM(started->stream.get());
-        g_object_set(stream, "socket-buffer", ARV_GV_STREAM_SOCKET_BUFFER_FIXED,
+        g_object_set(started->stream.get(), "socket-buffer", ARV_GV_STREAM_SOCKET_BUFFER_FIXED,
                      "socket-buffer-size", SocketBufferSize, nullptr);
-        enlargeReceiveBuffer(arv_gv_stream_get_port(stream), SocketBufferSize);
     }
     const gint64 size = arv_device_get_integer_feature_value(device, "PayloadSize", error.out());
     access.check(error, cannotGrab(name, "the size of an image is unknown"));

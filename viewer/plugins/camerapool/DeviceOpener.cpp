@@ -4,6 +4,9 @@
 
 #include "CDeviceReleaser.h"
 #include "CGvcpProbe.h"
+#include "CSocketGuard.h"
+#include "GvcpMessage.h"
+#include "IpAddress.h"
 
 #include <chrono>
 #include <future>
@@ -42,13 +45,27 @@ constexpr std::chrono::milliseconds Suspicion(500);
 // By address and not by id: what Aravis knows of an id may come from an interface that is gone.
 // Directly, without Aravis' own search, which would broadcast. What is not on loopback waits for a
 // broadcast that is under way, a second at most: Aravis (0.8.26) holds one lock for both.
-ArvDevice *openGigE(const std::string &address, GError **error)
+ArvDevice *openGigEAt(const std::string &address, GError **error)
 {
     const GObjectPtr<GInetAddress> target(g_inet_address_new_from_string(address.c_str()));
     if (target && g_inet_address_get_is_loopback(target.get())) {
         return arv_gv_device_new(target.get(), target.get(), error);
     }
     return arv_open_device(address.c_str(), error);
+}
+
+// Nobody but the camera is believed, from the first answer on.
+ArvDevice *openGigE(const std::string &address, GError **error)
+{
+    const quint32 number = ipNumber(QString::fromStdString(address));
+    const CSocketGuard guard(SocketFilter::from({number, GvcpMessage::Port}));
+    GObjectPtr<ArvDevice> device(openGigEAt(address, error));
+    if (device && guard.sockets().empty()) {
+        g_set_error_literal(error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_UNKNOWN,
+                            "strangers cannot be kept from its connection");
+        return nullptr;
+    }
+    return device.release();
 }
 
 ArvDevice *openAny(bool isGigE, const std::string &id, GError **error)
