@@ -38,7 +38,7 @@ public:
         json.beginObject().key("seq").integer(record.seq).key("state").string(record.state);
         json.key("time").string(timeText(record.time)).key("uid").string(record.uid);
         json.key("category").string(record.category).key("name").string(record.name);
-        json.key("session").string(record.session).key("text");
+        json.key("session").string(record.session).key("run").string(record.run).key("text");
         if (record.text) {
             json.string(*record.text);
         } else {

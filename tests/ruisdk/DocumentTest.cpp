@@ -76,7 +76,8 @@ TEST(Document, ShowsARealRequest)
                   "Camera");
     session.destroy();
     change(directory.path(),
-           "UPDATE event SET time = 1795199937000000000, uid = '01M7X3PKPZ0XS3T5BFDHPJZ4DJ';"
+           "UPDATE event SET time = 1795199937000000000, uid = '01M7X3PKPZ0XS3T5BFDHPJZ4DJ',"
+           " run = 'a1d7c1f2-44ab-4b8e-9a55-0c2f5b8f7e31';"
            "UPDATE resource SET client = 'f81d4fae-7dec-41d0-a765-00a0c91e6bf6'");
     runProgram({RUI_EVENTS_PROGRAM, "send", "--to", server.url(), directory.path()});
     ASSERT_EQ(server.requests().size(), 1U);

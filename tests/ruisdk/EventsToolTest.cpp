@@ -33,7 +33,8 @@ protected:
         ruiTrackEvent(session.handle(), "Model", "a2A*", "");
         session.destroy();
         change(m_path, "UPDATE event SET time = 1795199937042000000 + seq * 1000000000,"
-                       " uid = '0000000000000000000000000' || seq");
+                       " uid = '0000000000000000000000000' || seq,"
+                       " run = '66666666-7777-4888-8999-000000000000'");
     }
 
     void storeText(const std::string &text)
@@ -79,10 +80,11 @@ TEST_F(EventsTool, PrintsJsonLinesWithEveryDetail)
     EXPECT_EQ(run({"--json", m_path}).output,
               "{\"seq\":1,\"state\":\"pending\",\"time\":\"2026-11-20T18:38:58.042Z\","
               "\"uid\":\"00000000000000000000000001\",\"category\":\"Camera\",\"name\":\"Opened\","
-              "\"session\":\"s1\",\"text\":\"{\\\"CameraNr\\\":0}\"}\n"
+              "\"session\":\"s1\",\"run\":\"66666666-7777-4888-8999-000000000000\","
+              "\"text\":\"{\\\"CameraNr\\\":0}\"}\n"
               "{\"seq\":2,\"state\":\"pending\",\"time\":\"2026-11-20T18:38:59.042Z\","
               "\"uid\":\"00000000000000000000000002\",\"category\":\"Model\",\"name\":\"a2A*\","
-              "\"session\":\"\",\"text\":null}\n");
+              "\"session\":\"\",\"run\":\"66666666-7777-4888-8999-000000000000\",\"text\":null}\n");
 }
 
 TEST_F(EventsTool, PrintsCsvWithQuotedFields)

@@ -103,6 +103,20 @@ TEST_F(OldDatabase, KeepsToTheQuotaFromThereOn)
     EXPECT_EQ(storedTexts(m_path), (Texts{"one", "three", "{}", "five", "six"}));
 }
 
+TEST_F(OldDatabase, KnowsNoRunOfWhatItHolds)
+{
+    open();
+    EXPECT_EQ(query(m_path, "SELECT DISTINCT run FROM record"), (std::vector<Row>{{""}}));
+}
+
+TEST_F(OldDatabase, IsReadBeforeItKnowsAnyRun)
+{
+    Texts texts;
+    const RecordReader reader{StorePaths(m_path)};
+    reader.read({}, 0, [&](const Record &record) { texts.push_back(*record.text + record.run); });
+    EXPECT_EQ(texts, (Texts{"one", "two", "three", "{}", "five"}));
+}
+
 TEST_F(OldDatabase, IsReadWithoutBeingChanged)
 {
     const RecordReader reader{StorePaths(m_path)};

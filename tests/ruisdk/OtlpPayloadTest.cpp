@@ -20,7 +20,8 @@ protected:
     void fixIds()
     {
         change(m_path, "UPDATE resource SET client = '11111111-2222-4333-8444-555555555555' || id");
-        change(m_path, "UPDATE event SET uid = '0000000000000000000000000' || seq");
+        change(m_path, "UPDATE event SET uid = '0000000000000000000000000' || seq,"
+                       " run = '66666666-7777-4888-8999-000000000000'");
     }
 };
 
@@ -51,7 +52,9 @@ TEST_F(Otlp, RequestIsThisText)
                     R"("value":{"stringValue":"00000000000000000000000001"}},)"
                     R"({"key":"rui.event.category","value":{"stringValue":"Camera"}},)"
                     R"({"key":"rui.event.name","value":{"stringValue":"Opened"}},)"
-                    R"({"key":"rui.session.id","value":{"stringValue":"s1"}}]},)"
+                    R"({"key":"rui.session.id","value":{"stringValue":"s1"}},)"
+                    R"({"key":"rui.run.id",)"
+                    R"("value":{"stringValue":"66666666-7777-4888-8999-000000000000"}}]},)"
                     R"({"timeUnixNano":"1795199937000000001",)"
                     R"("observedTimeUnixNano":"1795199937000000001","severityNumber":9,)"
                     R"("eventName":"rui.Model.a2A*","attributes":[)"
@@ -59,7 +62,9 @@ TEST_F(Otlp, RequestIsThisText)
                     R"("value":{"stringValue":"00000000000000000000000002"}},)"
                     R"({"key":"rui.event.category","value":{"stringValue":"Model"}},)"
                     R"({"key":"rui.event.name","value":{"stringValue":"a2A*"}},)"
-                    R"({"key":"rui.session.id","value":{"stringValue":""}}]})"
+                    R"({"key":"rui.session.id","value":{"stringValue":""}},)"
+                    R"({"key":"rui.run.id",)"
+                    R"("value":{"stringValue":"66666666-7777-4888-8999-000000000000"}}]})"
                     R"(]}]}]})");
 }
 

@@ -50,6 +50,9 @@ void writeRecord(JsonWriter &json, const Record &record)
     writeAttribute(json, "rui.event.category", record.category);
     writeAttribute(json, "rui.event.name", record.name);
     writeAttribute(json, "rui.session.id", record.session);
+    if (!record.run.empty()) {
+        writeAttribute(json, "rui.run.id", record.run);
+    }
     json.endArray().endObject();
 }
 

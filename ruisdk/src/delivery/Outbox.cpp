@@ -10,7 +10,8 @@ namespace rui {
 
 namespace {
 
-constexpr const char *columns = "SELECT seq, time, uid, resource, category, name, session, text";
+constexpr const char *columns =
+    "SELECT seq, time, uid, resource, category, name, session, text, run";
 
 Record recordOf(const Statement &query)
 {
@@ -25,6 +26,7 @@ Record recordOf(const Statement &query)
     if (!query.isNull(7)) {
         record.text = std::string(query.text(7));
     }
+    record.run = query.text(8);
     return record;
 }
 
@@ -152,8 +154,8 @@ void Outbox::keepDelivered(const Batch &batch, std::int64_t now)
 {
     const std::string copy =
         "INSERT INTO delivered(seq, delivered, size, time, uid, resource, category, name,"
-        " session, text) SELECT seq, ?2, coalesce(length(CAST(text AS BLOB)), 0), time, uid,"
-        " resource, category, name, session, text FROM ";
+        " session, text, run) SELECT seq, ?2, coalesce(length(CAST(text AS BLOB)), 0), time, uid,"
+        " resource, category, name, session, text, run FROM ";
     Statement event = m_database.prepare(copy + "event WHERE seq = ?1");
     Statement notice = m_database.prepare(copy + "notice WHERE seq = ?1");
     for (const std::int64_t seq : batch.seqs) {

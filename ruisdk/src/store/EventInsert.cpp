@@ -18,8 +18,8 @@ constexpr const char *lookSql =
     " FROM state WHERE id = 1";
 
 constexpr const char *insertSql =
-    "INSERT INTO event(seq, size, total, time, uid, resource, category, name, session, text)"
-    " VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10)";
+    "INSERT INTO event(seq, size, total, time, uid, resource, category, name, session, text,"
+    " run) VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11)";
 
 } // namespace
 
@@ -44,18 +44,19 @@ EventInsert::Position EventInsert::look()
     return position;
 }
 
-void EventInsert::insert(const Event &event, const Position &position, std::int64_t resource,
+void EventInsert::insert(const Event &event, const Position &position, Origin origin,
                          std::int64_t now)
 {
     const std::string uid = m_ulids.make(now);
     m_insert.bind(1, position.seq).bind(2, event.size()).bind(3, position.total + event.size());
-    m_insert.bind(4, now).bind(5, uid).bind(6, resource);
+    m_insert.bind(4, now).bind(5, uid).bind(6, origin.membership.resource);
     m_insert.bind(7, event.category).bind(8, event.name).bind(9, event.session);
     if (event.text) {
         m_insert.bind(10, *event.text);
     } else {
         m_insert.bindNull(10);
     }
+    m_insert.bind(11, origin.run);
     m_insert.run();
 }
 
@@ -65,17 +66,16 @@ void EventInsert::rollBack() noexcept
     sqlite3_exec(m_handle, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
-std::optional<Occupancy> EventInsert::run(const Event &event, const Membership &membership,
-                                          std::int64_t now)
+std::optional<Occupancy> EventInsert::run(const Event &event, Origin origin, std::int64_t now)
 {
     m_begin.run();
     try {
         const Position position = look();
-        if (position.epoch != membership.epoch) {
+        if (position.epoch != origin.membership.epoch) {
             rollBack();
             return std::nullopt;
         }
-        insert(event, position, membership.resource, now);
+        insert(event, position, origin, now);
         m_commit.run();
         return Occupancy{position.seq - position.gone,
                          position.total + event.size() - position.goneBytes};

@@ -18,6 +18,14 @@ struct Occupancy
     std::int64_t bytes = 0;
 };
 
+// Under what an event is stored. Views: valid during the call.
+struct Origin
+{
+    const Membership &membership;
+    // The random id of the session.
+    std::string_view run;
+};
+
 // The one transaction that stores an event: it checks the consent, numbers the event, stores it
 // and tells what is waiting now. Between the check and the insert no opt-out can come. Used by
 // one thread at a time, not longer than the database.
@@ -27,8 +35,7 @@ public:
     explicit EventInsert(const Database &database);
 
     // Commits. Nothing when the epoch has passed: then nothing is stored. Throws SqliteError.
-    std::optional<Occupancy> run(const Event &event, const Membership &membership,
-                                 std::int64_t now);
+    std::optional<Occupancy> run(const Event &event, Origin origin, std::int64_t now);
 
 private:
     // Where the event goes, and what stands there.
@@ -42,8 +49,7 @@ private:
     };
 
     Position look();
-    void insert(const Event &event, const Position &position, std::int64_t resource,
-                std::int64_t now);
+    void insert(const Event &event, const Position &position, Origin origin, std::int64_t now);
     void rollBack() noexcept;
 
     sqlite3 *m_handle;

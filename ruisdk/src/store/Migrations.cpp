@@ -29,9 +29,24 @@ constexpr const char *countWhatIsGone =
     "CREATE TRIGGER notice_takes_a_number AFTER INSERT ON notice BEGIN"
     " UPDATE state SET gaps = 1, gone = gone + 1; END;";
 
+// run: the random id of the session that stored the record; empty in what was stored before, and
+// in the library's own records
+constexpr const char *keepTheRun =
+    "ALTER TABLE event ADD COLUMN run TEXT NOT NULL DEFAULT '';"
+    "ALTER TABLE notice ADD COLUMN run TEXT NOT NULL DEFAULT '';"
+    "ALTER TABLE delivered ADD COLUMN run TEXT NOT NULL DEFAULT '';"
+    "DROP VIEW record;"
+    "CREATE VIEW record AS"
+    " SELECT seq, 'pending' AS state, time, uid, resource, category, name, session, text, run"
+    " FROM event UNION ALL"
+    " SELECT seq, 'pending', time, uid, resource, category, name, session, text, run"
+    " FROM notice UNION ALL"
+    " SELECT seq, 'delivered', time, uid, resource, category, name, session, text, run"
+    " FROM delivered;";
+
 // Each leads from one version to the next; the first one to version 2. What stands here has run
 // on users' machines: add to its end only.
-constexpr std::array<const char *, 1> migrations = {countWhatIsGone};
+constexpr std::array<const char *, 2> migrations = {countWhatIsGone, keepTheRun};
 
 constexpr std::int64_t firstVersion = 1;
 

@@ -76,10 +76,18 @@ Database requireDatabase(const StorePaths &paths)
     return std::move(*database);
 }
 
-std::string querySql(const RecordFilter &filter)
+// A database of an earlier version, which a reader does not change, has none.
+bool hasRuns(const Database &database)
 {
-    std::string sql = "SELECT seq, state, time, uid, resource, category, name, session, text"
-                      " FROM record WHERE seq > ?1";
+    return database.integer("SELECT count(*) FROM pragma_table_info('record') WHERE name = 'run'")
+           != 0;
+}
+
+std::string querySql(const Database &database, const RecordFilter &filter)
+{
+    std::string sql = "SELECT seq, state, time, uid, resource, category, name, session, text, ";
+    sql += hasRuns(database) ? "run" : "'' AS run";
+    sql += " FROM record WHERE seq > ?1";
     sql += filter.category ? " AND category = ?2" : "";
     sql += filter.name ? " AND name = ?3" : "";
     sql += filter.since ? " AND time >= ?4" : "";
@@ -117,6 +125,7 @@ Record recordOf(const Statement &query)
     if (!query.isNull(8)) {
         record.text = std::string(query.text(8));
     }
+    record.run = query.text(9);
     return record;
 }
 
@@ -137,7 +146,7 @@ std::int64_t RecordReader::read(const RecordFilter &filter, std::int64_t after,
                                 const std::function<void(const Record &)> &take) const
 {
     std::int64_t last = after;
-    Statement query = m_database.prepare(querySql(filter));
+    Statement query = m_database.prepare(querySql(m_database, filter));
     query.bind(1, after);
     bindFilter(query, filter);
     while (query.step()) {

@@ -33,6 +33,7 @@ struct Record
     std::string category;
     std::string name;
     std::string session;
+    std::string run; // the random id of the session that stored it; empty when none did
     std::optional<std::string> text; // nothing: tracked without a text
 };
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/Store.h"
 
+#include "core/Random.h"
 #include "store/Losses.h"
 #include "store/Quota.h"
 #include "store/SqliteError.h"
@@ -64,6 +65,7 @@ void Store::join(const Product &product)
 {
     recovering([&](Connection &current) { m_membership = joinConsent(current.database, product); });
     m_product = product;
+    m_run = randomUuid();
 }
 
 void Store::leave()
@@ -125,7 +127,7 @@ Store::Connection &Store::connection()
 
 Occupancy Store::insert(Connection &current, const Event &event) const
 {
-    const auto occupancy = current.insert.run(event, m_membership, m_clock.now());
+    const auto occupancy = current.insert.run(event, {m_membership, m_run}, m_clock.now());
     if (!occupancy) {
         throw Failure(RUI_OPTED_OUT, "consent was withdrawn");
     }

@@ -68,6 +68,8 @@ private:
     std::optional<Connection> m_connection;
     std::optional<Product> m_product;
     Membership m_membership;
+    // The random id of the session; stays when the database is replaced.
+    std::string m_run;
     // Events that could not be stored, and are not counted in the database yet.
     std::int64_t m_unstored = 0;
 };
