@@ -7,6 +7,8 @@ import { UserError } from "./user-error.js";
 // `run(values, positionals)`, which may be asynchronous and throws UserError.
 // Loaded when called: the engine is 500 MB, and not every command needs it.
 const commands = {
+    load: () => import("./commands/load.js"),
+    ask: () => import("./commands/ask.js"),
     list: () => import("./commands/list.js"),
     simulate: () => import("./commands/simulate.js"),
 };

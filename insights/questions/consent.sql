@@ -21,7 +21,7 @@ WITH groups AS (
     GROUP BY week
     UNION ALL
     SELECT toMonday(withdrawn_on) AS week, 'withdrawn' AS what, count() AS clients
-    FROM (SELECT min(day) AS withdrawn_on FROM erased WHERE day > 0 GROUP BY client_hash)
+    FROM (SELECT min(day) AS withdrawn_on FROM erased WHERE day > toDate(0) GROUP BY client_hash)
     WHERE withdrawn_on >= {since:Date} AND withdrawn_on < {until:Date}
     GROUP BY week
 ), counted AS (

@@ -13,9 +13,9 @@
 --   period, the clients with such a stream. Groups are the features of which fewer than `threshold`
 --   clients have a `FeatureChosen` or `ParameterValueChanged` in the period. Leaves out.
 WITH owners AS (
-    SELECT arrayJoin(features) AS feature, client
+    SELECT arrayJoin(stream) AS feature, client
     FROM (
-        SELECT client, any(features) AS features
+        SELECT client, any(features) AS stream
         FROM daily_streams
         WHERE day >= {since:Date} AND day < {until:Date}
         GROUP BY client, cityHash64(features)

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+import { mkdirSync } from "node:fs";
+import { resolve } from "node:path";
+import { UserError } from "../user-error.js";
+import { settings } from "./settings.js";
+
+async function connect(folder) {
+    let chdb;
+    try {
+        chdb = await import("chdb");
+    } catch {
+        throw new UserError("the engine is not installed: run \"npm ci\" in the folder insights");
+    }
+    try {
+        mkdirSync(folder, { recursive: true });
+        return new chdb.Session(folder, {
+            connectionArgs: Object.entries(settings).map(([name, value]) => `--${name}=${value}`),
+        });
+    } catch (error) {
+        throw new UserError(`${folder} cannot be used: another nerix-insights works in it`
+            + ` (wait for its end), or it is no folder that you may write to (${error.code})`);
+    }
+}
+
+/**
+ * The engine in this process; its data lies in `folder`, which one process uses at a time.
+ * One call after the other.
+ */
+export class EmbeddedEngine {
+    static async open(folder) {
+        const engine = new EmbeddedEngine();
+        engine.session = await connect(resolve(folder));
+        await engine.run("CREATE DATABASE IF NOT EXISTS nerix_insights");
+        await engine.run("USE nerix_insights");
+        return engine;
+    }
+
+    /** Where statements read the lines of a file from: a parameter `file` gives its path. */
+    lineSource = "file({file:String}, 'LineAsString', 'line String')";
+
+    async query(sql, parameters, format) {
+        try {
+            return (await this.session.queryBindAsync(sql, parameters, { format })).text();
+        } catch (error) {
+            throw new UserError(`the engine: ${error.message.split("\n")[0]}`, { cause: error });
+        }
+    }
+
+    /** The rows of a query, as arrays. Values of `parameters` are bound, never part of the text. */
+    async rows(sql, parameters = {}) {
+        return (await this.query(sql, parameters, "JSONCompactEachRow")).split("\n").filter(Boolean).map((line) => JSON.parse(line));
+    }
+
+    async run(sql, parameters = {}) {
+        await this.query(sql, parameters, "Null");
+    }
+
+    /** Runs an INSERT that reads lineSource; `path` must have no character with a meaning in globs. */
+    async runOnFile(sql, path, parameters) {
+        await this.run(sql, { ...parameters, file: path });
+    }
+
+    async close() {
+        this.session.close();
+    }
+}

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+import { createReadStream } from "node:fs";
+import { UserError } from "../user-error.js";
+import { settings } from "./settings.js";
+
+const database = "nerix_insights";
+
+function environment(name) {
+    return process.env[`NERIX_INSIGHTS_${name}`] ?? "";
+}
+
+function checkedUrl(text) {
+    const url = URL.canParse?.(text) ?? true ? new URL(text) : null;
+    if (!url || !["http:", "https:"].includes(url.protocol)) {
+        throw new UserError(`--server ${text}: give an address such as https://clickhouse.example.com:8443`);
+    }
+    return url;
+}
+
+/** A ClickHouse server, through its HTTP interface; the same operations as EmbeddedEngine. */
+export class ServerEngine {
+    static async open(address) {
+        const engine = new ServerEngine();
+        engine.url = checkedUrl(address);
+        await engine.request(`CREATE DATABASE IF NOT EXISTS ${database}`, {}, undefined, "default");
+        return engine;
+    }
+
+    lineSource = "input('line String')";
+
+    async request(sql, parameters, body, inDatabase = database) {
+        const url = new URL(this.url);
+        for (const [name, value] of Object.entries({ database: inDatabase, ...settings })) {
+            url.searchParams.set(name, value);
+        }
+        for (const [name, value] of Object.entries(parameters)) {
+            url.searchParams.set(`param_${name}`, value);
+        }
+        if (body) {
+            url.searchParams.set("query", sql);
+        }
+        let response;
+        try {
+            response = await fetch(url, { method: "POST", body: body ?? sql, duplex: "half", headers: {
+                "X-ClickHouse-User": environment("USER") || "default",
+                "X-ClickHouse-Key": environment("PASSWORD") } });
+        } catch (error) {
+            throw new UserError(`${this.url.host} cannot be reached (${error.cause?.code ?? error.message});`
+                + " look at --server and at the network");
+        }
+        const text = await response.text();
+        if (!response.ok) {
+            throw new UserError(`${this.url.host}: ${text.split("\n")[0].slice(0, 300)}`);
+        }
+        return text;
+    }
+
+    async rows(sql, parameters = {}) {
+        const text = await this.request(`${sql}\nFORMAT JSONCompactEachRow`, parameters);
+        return text.split("\n").filter(Boolean).map((line) => JSON.parse(line));
+    }
+
+    async run(sql, parameters = {}) {
+        await this.request(sql, parameters);
+    }
+
+    async runOnFile(sql, path, parameters) {
+        await this.request(`${sql} FORMAT LineAsString`, parameters, createReadStream(path));
+    }
+
+    async close() {}
+}
