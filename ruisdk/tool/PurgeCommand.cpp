@@ -16,6 +16,10 @@ void purgeAll(const Options &options, std::ostream &out)
     const Purged purged = purge(database);
     out << "deleted " << purged.pending << " pending and " << purged.delivered
         << " delivered events\n";
+    if (!purged.isErased) {
+        out << "another program is reading them; they are erased when it has ended and the next"
+               " session begins\n";
+    }
 }
 
 } // namespace rui::tool

@@ -20,21 +20,27 @@ const Product update{"1", "app", "edition", "language", "7.2.0", "12000"};
 class Consent : public testing::Test
 {
 protected:
+    Membership join(const Product &what)
+    {
+        return joinConsent(m_database, m_mark, what, 0);
+    }
+
     TemporaryDirectory m_directory;
+    WithdrawalMark m_mark{StorePaths(m_directory.path()).consent()};
     Database m_database = openStore(StorePaths(m_directory.path()), {},
                                     std::make_shared<BusyLimit>(std::chrono::milliseconds(100)));
 };
 
 TEST_F(Consent, FirstSessionIsUnderTheFirstEpoch)
 {
-    EXPECT_EQ(joinConsent(m_database, product).epoch, 1);
+    EXPECT_EQ(join(product).epoch, 1);
 }
 
 TEST_F(Consent, SameProductUnderTheSameClientIsOneResource)
 {
-    const auto first = joinConsent(m_database, product);
-    const auto second = joinConsent(m_database, product);
-    const auto other = joinConsent(m_database, update);
+    const auto first = join(product);
+    const auto second = join(product);
+    const auto other = join(update);
     EXPECT_EQ(first.resource, second.resource);
     EXPECT_NE(first.resource, other.resource);
     EXPECT_EQ(queryValue(m_directory.path(), "SELECT count(DISTINCT client) FROM resource"), "1");
@@ -42,25 +48,25 @@ TEST_F(Consent, SameProductUnderTheSameClientIsOneResource)
 
 TEST_F(Consent, WithdrawalRaisesTheEpochByOne)
 {
-    joinConsent(m_database, product);
-    withdrawConsent(m_database, product, 0);
-    EXPECT_EQ(joinConsent(m_database, product).epoch, 2);
+    join(product);
+    withdrawConsent(m_database, m_mark, &product, 0);
+    EXPECT_EQ(join(product).epoch, 2);
 }
 
 TEST_F(Consent, RecordOfTheWithdrawalHasItsTime)
 {
-    joinConsent(m_database, product);
-    withdrawConsent(m_database, product, 1795199937000000000);
+    join(product);
+    withdrawConsent(m_database, m_mark, &product, 1795199937000000000);
     EXPECT_EQ(queryValue(m_directory.path(), "SELECT time FROM notice"), "1795199937000000000");
 }
 
 TEST_F(Consent, FailedWithdrawalChangesNothing)
 {
-    joinConsent(m_database, product);
+    join(product);
     const auto before = query(m_directory.path(), "SELECT * FROM state");
     change(m_directory.path(), "CREATE TRIGGER refuse BEFORE INSERT ON notice BEGIN"
                                " SELECT RAISE(ABORT, 'refused'); END");
-    EXPECT_THROW(withdrawConsent(m_database, product, 0), Failure);
+    EXPECT_THROW(withdrawConsent(m_database, m_mark, &product, 0), Failure);
     EXPECT_EQ(query(m_directory.path(), "SELECT * FROM state"), before);
 }
 

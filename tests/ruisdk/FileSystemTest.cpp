@@ -35,7 +35,7 @@ protected:
         }
     }
 
-    // $writer, $events, $server and $data can be used.
+    // $writer, $withdrawer, $events, $server and $data can be used.
     Outcome run(const std::string &size, const std::string &script) const
     {
         return runProgram({"unshare", "-Urm", "sh", "-ec",
@@ -43,6 +43,7 @@ protected:
                           {{"place", m_directory.path()},
                            {"data", m_directory.path("data")},
                            {"writer", RUI_WRITER_PROGRAM},
+                           {"withdrawer", RUI_WITHDRAWER_PROGRAM},
                            {"events", RUI_EVENTS_PROGRAM},
                            {"server", m_server.url()},
                            {"ASAN_OPTIONS", "detect_leaks=0"}});
@@ -87,6 +88,40 @@ TEST_F(OwnFileSystem, ThatWasFullDeliversEverythingOnceThereIsRoom)
     for (const std::string &text : report.acknowledged) {
         EXPECT_EQ(arrived.count(text), text == "afterwards 1" ? 0U : 1U) << text;
     }
+}
+
+std::vector<std::string> receivedTexts(const TestServer &server)
+{
+    Texts texts;
+    for (const ReceivedRecord &record : receivedRecords(server)) {
+        if (!record.text.empty()) {
+            texts.push_back(record.text);
+        }
+    }
+    return texts;
+}
+
+// The file that fills the disk is as large as it can get.
+TEST_F(OwnFileSystem, ThatIsFullWhenConsentIsWithdrawnSendsNothingAndEndsTheConsentOnceThereIsRoom)
+{
+    const Outcome outcome = run("2m", "\"$writer\" \"$data\" w 100 > /dev/null\n"
+                                      "head -c 3000000 /dev/zero > \"$place/filler\" || true\n"
+                                      "\"$withdrawer\" \"$data\" \"$server\"\n"
+                                      "rm \"$place/filler\"\n"
+                                      "\"$writer\" \"$data\" next 1 \"$server\"");
+    EXPECT_EQ(outcome.output, "config 0\nproduct 0\noptOut 6\nstart 6\ntrack 3\nstop 3\nnext 1\n");
+    EXPECT_EQ(receivedTexts(m_server), Texts{"next 1"});
+}
+
+TEST_F(OwnFileSystem, ThatFillsUpBeforeConsentIsWithdrawnInAnOpenDirectoryDeliversNothing)
+{
+    const Outcome outcome = run("2m", "\"$writer\" \"$data\" w 100 \"\" stay > \"$place/out\" &\n"
+                                      "while ! grep -q 'w 100' \"$place/out\"; do sleep 0.01; done\n"
+                                      "head -c 3000000 /dev/zero > \"$place/filler\" || true\n"
+                                      "\"$withdrawer\" \"$data\" \"$server\"\n"
+                                      "kill -9 $!");
+    EXPECT_NE(outcome.output.find("start 6\ntrack 3\nstop 3\n"), std::string::npos) << outcome.output;
+    EXPECT_EQ(receivedTexts(m_server), Texts{});
 }
 
 TEST_F(OwnFileSystem, ThatBecomesReadOnlyIsAStorageErrorUntilItIsWritableAgain)

@@ -42,6 +42,9 @@ Instance::~Instance() = default;
 
 void Instance::require(bool allowed) const
 {
+    if (m_state == State::Ended) {
+        throw Failure(RUI_BAD_HANDLE, "the instance is being destroyed");
+    }
     if (!allowed) {
         throw Failure(RUI_WRONG_STATE, "the call does not fit the state of the instance");
     }
@@ -76,8 +79,10 @@ void Instance::start()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     require(m_state == State::Ready || m_state == State::Stopped);
-    if (!m_optedOut) {
+    if (m_withdrawal == Withdrawal::None) {
         m_store->join(m_product);
+    } else {
+        withdraw();
     }
     startWorker();
     m_state = State::Running;
@@ -98,9 +103,9 @@ void Instance::startWorker()
     m_worker = std::make_unique<Worker>(std::move(options));
 }
 
-std::unique_ptr<Worker> Instance::endSession()
+std::unique_ptr<Worker> Instance::endSession(State next)
 {
-    m_state = State::Stopped;
+    m_state = next;
     if (m_store) {
         m_store->leave();
     }
@@ -122,7 +127,7 @@ void Instance::stop(bool deliver)
     std::unique_lock<std::mutex> lock(m_mutex);
     require(m_state == State::Running);
     const auto limit = stopLimit();
-    const auto worker = endSession();
+    const auto worker = endSession(State::Stopped);
     // Other calls need not wait for the worker; they find the session ended.
     lock.unlock();
     worker->stop(deliver, limit);
@@ -132,18 +137,35 @@ void Instance::optOut()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     require(m_state != State::Created);
-    m_store->withdraw(m_product);
-    m_optedOut = true;
+    try {
+        withdraw();
+    } catch (...) {
+        if (m_worker) {
+            m_worker->endDelivery();
+        }
+        throw;
+    }
     if (m_worker) {
         m_worker->notify(true);
     }
+}
+
+void Instance::withdraw()
+{
+    // Carried out once: a new consent that somebody gave since then is not this instance's.
+    if (m_withdrawal == Withdrawal::Done) {
+        return;
+    }
+    m_withdrawal = Withdrawal::Asked;
+    m_store->withdraw(m_product);
+    m_withdrawal = Withdrawal::Done;
 }
 
 void Instance::track(const Event &event)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     require(m_state == State::Running);
-    if (m_optedOut) {
+    if (m_withdrawal != Withdrawal::None) {
         throw Failure(RUI_OPTED_OUT, "this instance has opted out");
     }
     m_store->add(event);
@@ -154,7 +176,7 @@ void Instance::shutDown() noexcept
 {
     const NoWaiting noWaiting(*m_busyLimit);
     std::unique_lock<std::mutex> lock(m_mutex);
-    const auto worker = endSession();
+    const auto worker = endSession(State::Ended);
     lock.unlock();
     if (worker) {
         worker->stop(false, m_limits.stopLimit);

@@ -43,15 +43,20 @@ public:
     void optOut();
     void track(const Event &event);
 
-    // Ends the session if one is open, without delivering anything.
+    // Ends the session if one is open, without delivering anything, and the instance with it: every
+    // later call is RUI_BAD_HANDLE.
     void shutDown() noexcept;
 
 private:
-    enum class State { Created, Configured, Ready, Running, Stopped };
+    enum class State { Created, Configured, Ready, Running, Stopped, Ended };
+    // Asked: the user has withdrawn consent, and it could not be carried out yet. Either way this
+    // instance never stores an event again, nor begins a session of events.
+    enum class Withdrawal { None, Asked, Done };
 
     void require(bool allowed) const;
+    void withdraw();
     void startWorker();
-    std::unique_ptr<Worker> endSession();
+    std::unique_ptr<Worker> endSession(State next);
     std::chrono::milliseconds stopLimit() noexcept;
 
     const Limits m_limits;
@@ -59,7 +64,7 @@ private:
     const std::shared_ptr<BusyLimit> m_busyLimit;
     std::mutex m_mutex;
     State m_state = State::Created;
-    bool m_optedOut = false;
+    Withdrawal m_withdrawal = Withdrawal::None;
     Config m_config;
     Product m_product;
     std::optional<Store> m_store;

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "delivery/Outbox.h"
 
+#include "core/Failure.h"
+#include "store/Consent.h"
 #include "store/LossRecord.h"
+#include "store/StorePaths.h"
 
 #include <algorithm>
 
@@ -52,6 +55,7 @@ void run(Database &database, const char *sql, std::int64_t parameter)
 
 Outbox::Outbox(Database &database, Limits limits)
     : m_database(database)
+    , m_mark(StorePaths::of(database.path()).consent())
     , m_limits(limits)
 {}
 
@@ -103,6 +107,8 @@ const Resource &Outbox::resource(std::int64_t id)
 
 Batch Outbox::read(const std::string &sql, std::size_t maxRecords, std::size_t maxBytes)
 {
+    // The number of a retired description may have been given to another one since.
+    m_resources.clear();
     Batch batch;
     OtlpPayload payload;
     Statement query = m_database.prepare(sql);
@@ -134,7 +140,18 @@ Batch Outbox::next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t no
                            " ORDER BY seq LIMIT ?1",
                      maxRecords, maxBytes);
     }
+    // After the reading: a withdrawal that was requested before is either in the batch or seen here.
+    requireConsent();
     return batch;
+}
+
+void Outbox::requireConsent()
+{
+    if (isWithdrawalPending(m_database, m_mark)) {
+        throw Failure(RUI_OPTED_OUT, m_database.path()
+                                         + ": consent was withdrawn; nothing is sent before that is"
+                                           " carried out");
+    }
 }
 
 void Outbox::noteLosses(std::int64_t now)
@@ -198,6 +215,9 @@ void Outbox::settle(const Batch &batch, std::int64_t rejected, std::int64_t now)
     keepDelivered(batch, now);
     const std::int64_t events = remove(batch);
     trimDelivered();
+    if (batch.isOptOut) {
+        forgetRetiredClients(m_database);
+    }
     const std::int64_t refused = std::min(rejected, events);
     if (refused > 0) {
         addLoss(m_database, LossReason::PartlyRejected, refused);

@@ -5,6 +5,7 @@
 #include "core/Limits.h"
 #include "delivery/OtlpPayload.h"
 #include "store/Losses.h"
+#include "store/WithdrawalMark.h"
 
 #include <map>
 
@@ -33,7 +34,8 @@ public:
     Outbox(Database &database, Limits limits);
 
     // Fewer seqs than asked for when the payload would become too long, at least one when
-    // anything waits. Losses that were not told yet join a batch of events.
+    // anything waits. Losses that were not told yet join a batch of events. Throws Failure with
+    // RUI_OPTED_OUT while a withdrawal of consent is not carried out: nothing may be sent.
     Batch next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t now);
 
     bool hasRecords() const;
@@ -50,6 +52,7 @@ public:
     void drop(const Batch &batch, LossReason reason);
 
 private:
+    void requireConsent();
     Batch read(const std::string &sql, std::size_t maxRecords, std::size_t maxBytes);
     const Resource &resource(std::int64_t id);
     void noteLosses(std::int64_t now);
@@ -58,6 +61,7 @@ private:
     std::int64_t remove(const Batch &batch);
 
     Database &m_database;
+    WithdrawalMark m_mark;
     const Limits m_limits;
     std::map<std::int64_t, Resource> m_resources;
 };

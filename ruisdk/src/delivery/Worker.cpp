@@ -53,6 +53,11 @@ void Worker::notify(bool urgent)
     m_loop->notify(urgent);
 }
 
+void Worker::endDelivery()
+{
+    m_loop->endDelivery();
+}
+
 void Worker::stop(bool deliver, std::chrono::milliseconds limit)
 {
     if (!m_thread.joinable()) {

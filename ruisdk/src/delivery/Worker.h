@@ -26,6 +26,9 @@ public:
     // the worker knows already.
     void notify(bool urgent);
 
+    // Ends the request that is under way, and lets no other one begin.
+    void endDelivery();
+
     // Ends the thread within the limit, whatever the server does. With deliver, it first sends
     // what waits, as far as that is possible in time.
     void stop(bool deliver, std::chrono::milliseconds limit);

@@ -3,6 +3,7 @@
 #include "delivery/WorkerLoop.h"
 
 #include "core/Failure.h"
+#include "store/Erasure.h"
 #include "store/Quota.h"
 
 #include <algorithm>
@@ -99,11 +100,14 @@ void WorkerLoop::round(Work &work)
 Step WorkerLoop::deliver(Work &work)
 {
     Step step;
-    while (work.sender && !m_cancelled) {
+    while (work.sender && !m_deliveryEnded) {
         step = work.sender->step();
         if (step.kind != Step::Kind::Progress) {
             break;
         }
+    }
+    if (!finishErasure(work.database)) {
+        m_sleepTime = std::min(m_sleepTime, m_options.collectTime);
     }
     return step;
 }
@@ -165,14 +169,20 @@ void WorkerLoop::requestStop(bool deliver, std::chrono::milliseconds limit)
     m_wake.notify_all();
 }
 
+void WorkerLoop::endDelivery()
+{
+    m_deliveryEnded = true;
+    if (m_options.transport) {
+        m_options.transport->cancel();
+    }
+}
+
 void WorkerLoop::cancel()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_cancelled = true;
     m_busyLimit->giveUp = true;
-    if (m_options.transport) {
-        m_options.transport->cancel();
-    }
+    endDelivery();
     m_wake.notify_all();
 }
 

@@ -24,7 +24,9 @@ public:
     // urgent: the journal has grown large; the worker does not wait for more to come.
     void notify(bool urgent);
     void requestStop(bool deliver, std::chrono::milliseconds limit);
-    // Ends a request and every waiting for a lock.
+    // Ends a request, and every later one at once.
+    void endDelivery();
+    // The same, and every waiting for a lock.
     void cancel();
     // False when the time was over first.
     bool waitUntilDone(std::chrono::milliseconds limit);
@@ -50,6 +52,7 @@ private:
     std::atomic<bool> m_notified{false};
     std::atomic<bool> m_urgent{false};
     std::atomic<bool> m_cancelled{false};
+    std::atomic<bool> m_deliveryEnded{false};
     bool m_stop = false;
     bool m_deliverAtStop = false;
     std::chrono::milliseconds m_stopLimit{0};

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "store/Consent.h"
 
+#include "core/Failure.h"
 #include "core/Random.h"
+#include "store/Erasure.h"
 #include "store/Notices.h"
 
 #include <optional>
@@ -53,35 +55,123 @@ std::int64_t resourceId(const Database &database, const std::string &client, con
     return query.integer(0);
 }
 
+// The newest description of the product under this client id; 0 when there is none.
+std::int64_t newestResource(const Database &database, const std::string &client)
+{
+    Statement query =
+        database.prepare("SELECT coalesce(max(id), 0) FROM resource WHERE client = ?1");
+    query.bind(1, client).step();
+    return query.integer(0);
+}
+
+void setWithdrawn(const Database &database, const std::string &token)
+{
+    database.prepare("UPDATE state SET withdrawn = ?1").bind(1, token).run();
+}
+
+// Deletes what the client has stored, and leaves the record of the opt-out.
+void endClient(Database &database, const std::string &client, const Product *product,
+               std::int64_t now)
+{
+    const std::int64_t seq = nextSequence(database);
+    const std::int64_t resource = product != nullptr ? resourceId(database, client, *product)
+                                                     : newestResource(database, client);
+    deleteAllEvents(database);
+    database.execute("DELETE FROM loss; DELETE FROM notice WHERE kind = 'loss'");
+    if (resource != 0) {
+        addNotice(database, {seq, NoticeKind::OptOut, now, resource, ""});
+    }
+    database.execute("DELETE FROM resource WHERE id NOT IN (SELECT resource FROM notice);"
+                     "UPDATE state SET epoch = epoch + 1, client = NULL,"
+                     " not_before = 0, failures = 0");
+    requestErasure(database);
+}
+
+// Part of the caller's transaction.
+void carryOut(Database &database, const std::string &token, const Product *product,
+              std::int64_t now)
+{
+    if (const auto client = clientId(database)) {
+        endClient(database, *client, product, now);
+    }
+    setWithdrawn(database, token);
+}
+
+bool isPending(const Database &database, const std::string &requested)
+{
+    Statement query = database.prepare("SELECT withdrawn FROM state");
+    query.step();
+    return requested.empty() || query.isNull(0) || query.text(0) != requested;
+}
+
+// A database that is new, of an earlier version, or was begun in the place of a damaged one knows
+// no mark yet.
+void bindToMark(Database &database, WithdrawalMark &mark)
+{
+    const WithdrawalMark::Content content = mark.read();
+    setWithdrawn(database, content.isThere ? content.done : mark.create());
+}
+
 } // namespace
 
-Membership joinConsent(Database &database, const Product &product)
+Membership joinConsent(Database &database, WithdrawalMark &mark, const Product &product,
+                       std::int64_t now)
 {
     Transaction transaction(database);
+    // Read within the transaction: the withdrawal of another process is either seen here, or sees
+    // this session.
+    const std::string token = mark.read().requested;
+    if (token.empty()) {
+        throw Failure(RUI_STORAGE, database.path() + ": the record of the consent is missing");
+    }
+    if (isPending(database, token)) {
+        carryOut(database, token, nullptr, now);
+    }
     const auto known = clientId(database);
     const std::string client = known ? *known : newClientId(database);
     Membership membership;
     membership.resource = resourceId(database, client, product);
     membership.epoch = database.integer("SELECT epoch FROM state");
+    membership.token = token;
     transaction.commit();
+    mark.noteDone(token);
     return membership;
 }
 
-void withdrawConsent(Database &database, const Product &product, std::int64_t now)
+void withdrawConsent(Database &database, WithdrawalMark &mark, const Product *product,
+                     std::int64_t now)
 {
-    // What is deleted is overwritten, too; otherwise it would stay readable in free pages.
-    database.execute("PRAGMA secure_delete = ON");
     Transaction transaction(database);
-    const auto client = clientId(database);
-    if (!client) {
+    const std::string token = mark.read().requested;
+    carryOut(database, token, product, now);
+    transaction.commit();
+    mark.noteDone(token);
+}
+
+void forgetRetiredClients(Database &database)
+{
+    database.execute("DELETE FROM resource WHERE client IS NOT (SELECT client FROM state)"
+                     " AND id NOT IN (SELECT resource FROM notice)");
+    requestErasure(database);
+}
+
+bool isWithdrawalPending(const Database &database, WithdrawalMark &mark)
+{
+    return isPending(database, mark.read().requested);
+}
+
+void settleWithdrawal(Database &database, WithdrawalMark &mark, std::int64_t now)
+{
+    if (database.integer("SELECT withdrawn IS NULL FROM state") != 0) {
+        bindToMark(database, mark);
+    }
+    if (!isWithdrawalPending(database, mark)) {
         return;
     }
-    const std::int64_t seq = nextSequence(database);
-    database.execute("DELETE FROM event; DELETE FROM loss; DELETE FROM notice WHERE kind = 'loss'");
-    addNotice(database, {seq, NoticeKind::OptOut, now, resourceId(database, *client, product), ""});
-    database.execute("UPDATE state SET epoch = epoch + 1, client = NULL,"
-                     " not_before = 0, failures = 0");
-    transaction.commit();
+    withdrawConsent(database, mark, nullptr, now);
+    if (mark.read().requested.empty()) {
+        setWithdrawn(database, mark.create());
+    }
 }
 
 } // namespace rui

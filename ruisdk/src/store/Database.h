@@ -35,6 +35,11 @@ public:
     // Opens a file that exists already.
     Database(const std::string &path, Access access, std::shared_ptr<BusyLimit> busyLimit);
 
+    const std::string &path() const noexcept
+    {
+        return m_path;
+    }
+
     // Makes locks be waited for, as they are at first.
     void waitForLocks() const noexcept;
 

@@ -15,7 +15,7 @@ namespace rui {
 
 FileLock::FileLock(const std::string &path)
     : m_path(path)
-    , m_descriptor(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
+    , m_descriptor(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600))
 {
     if (m_descriptor < 0) {
         throw SystemError(path, errno);

@@ -44,9 +44,15 @@ constexpr const char *keepTheRun =
     " SELECT seq, 'delivered', time, uid, resource, category, name, session, text, run"
     " FROM delivered;";
 
+// withdrawn: the request in the mark that was carried out last; null: no mark is known yet
+// erase:     what was deleted is still to be erased; see Erasure.cpp
+constexpr const char *rememberWithdrawals =
+    "ALTER TABLE state ADD COLUMN withdrawn TEXT;"
+    "ALTER TABLE state ADD COLUMN erase INTEGER NOT NULL DEFAULT 0;";
+
 // Each leads from one version to the next; the first one to version 2. What stands here has run
 // on users' machines: add to its end only.
-constexpr std::array<const char *, 2> migrations = {countWhatIsGone, keepTheRun};
+constexpr std::array migrations = {countWhatIsGone, keepTheRun, rememberWithdrawals};
 
 constexpr std::int64_t firstVersion = 1;
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
+#include "store/StorePaths.h"
 
 namespace rui {
 
@@ -14,5 +14,9 @@ void makePrivateDirectory(const std::string &path);
 // Creates an empty file with mode 0600; one of ours that exists is closed to others, and not
 // opened. SQLite gives its side files the same mode. Throws Failure with RUI_STORAGE.
 void makePrivateFile(const std::string &path);
+
+// A symbolic link in the place of one of the directory's files would let us write to a file of
+// somebody else. Throws Failure with RUI_STORAGE.
+void requirePlainFiles(const StorePaths &paths);
 
 } // namespace rui

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "store/Purge.h"
 
+#include "store/Erasure.h"
 #include "store/Losses.h"
 
 namespace rui {
 
 Purged purge(Database &database)
 {
-    database.execute("PRAGMA secure_delete = ON");
     Purged purged;
     {
         Transaction transaction(database);
@@ -17,13 +17,11 @@ Purged purge(Database &database)
         if (purged.pending > 0) {
             addLoss(database, LossReason::Purged, purged.pending);
         }
-        database.execute(
-            "UPDATE state SET floor = max(floor, coalesce((SELECT max(seq) FROM event), 0));"
-            "DELETE FROM event; DELETE FROM delivered");
+        deleteAllEvents(database);
+        requestErasure(database);
         transaction.commit();
     }
-    sqlite3_wal_checkpoint_v2(database.handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr,
-                              nullptr);
+    purged.isErased = finishErasure(database);
     return purged;
 }
 

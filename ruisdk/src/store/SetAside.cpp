@@ -4,6 +4,8 @@
 
 #include "store/SystemError.h"
 
+#include <unistd.h>
+
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -24,9 +26,11 @@ std::string timeStamp()
     return text.data();
 }
 
+constexpr const char *mark = ".damaged-";
+
 std::string freeName(const std::string &path)
 {
-    const std::string base = path + ".damaged-" + timeStamp();
+    const std::string base = path + mark + timeStamp();
     std::string name = base;
     for (int i = 2; std::filesystem::exists(name); ++i) {
         name = base + "-" + std::to_string(i);
@@ -50,6 +54,18 @@ void setAside(const StorePaths &paths)
     std::fprintf(stderr,
                  "ruiSDK: %s is not a usable database; set aside as %s, a new one is begun\n",
                  database.c_str(), name.c_str());
+}
+
+void removeSetAside(const std::string &database)
+{
+    const std::filesystem::path path(database);
+    const std::string prefix = path.filename().string() + mark;
+    for (const auto &entry : std::filesystem::directory_iterator(path.parent_path())) {
+        if (entry.path().filename().string().rfind(prefix, 0) == 0
+            && unlink(entry.path().c_str()) != 0) {
+            throw SystemError(entry.path().string(), errno);
+        }
+    }
 }
 
 } // namespace rui

@@ -10,4 +10,8 @@ namespace rui {
 // error. Throws Failure with RUI_STORAGE. The caller holds the opening lock.
 void setAside(const StorePaths &paths);
 
+// Removes everything that was set aside of the database with this path: what a user has deleted
+// may stand there, too. Throws Failure with RUI_STORAGE.
+void removeSetAside(const std::string &database);
+
 } // namespace rui

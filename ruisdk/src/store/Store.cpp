@@ -3,6 +3,7 @@
 #include "store/Store.h"
 
 #include "core/Random.h"
+#include "store/Erasure.h"
 #include "store/Losses.h"
 #include "store/Quota.h"
 #include "store/SqliteError.h"
@@ -14,14 +15,19 @@ namespace {
 // Twice: once for damage, once for a file that another process has replaced meanwhile.
 constexpr int maxReopenings = 2;
 
-// What an opt-out deletes stands in the journal, too. Nobody is waited for: the next one who
-// opens or checkpoints erases it otherwise.
-void eraseJournal(const Database &database)
+// The withdrawal holds without it; the worker and the next opening try again.
+void tryErasure(Database &database)
 {
-    sqlite3_busy_handler(database.handle(), nullptr, nullptr);
-    sqlite3_wal_checkpoint_v2(database.handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr,
-                              nullptr);
-    database.waitForLocks();
+    try {
+        finishErasure(database);
+    } catch (const Failure &) {
+        // A full disk, for example.
+    }
+}
+
+bool mayPass(const Failure &failure)
+{
+    return failure.result() == RUI_FULL || failure.result() == RUI_BUSY;
 }
 
 } // namespace
@@ -33,8 +39,16 @@ Store::Store(StorePaths paths, OpeningOptions options, Limits limits, const Cloc
     , m_limits(limits)
     , m_clock(clock)
     , m_busyLimit(std::move(busyLimit))
+    , m_mark(m_paths.consent())
 {
-    m_connection.emplace(openStore(m_paths, m_options, m_busyLimit));
+    try {
+        m_connection.emplace(openStore(m_paths, m_options, m_busyLimit));
+        m_options.create = false;
+    } catch (const Failure &failure) {
+        if (!mayPass(failure) || !m_mark.read().isThere) {
+            throw;
+        }
+    }
 }
 
 template <typename Action>
@@ -63,7 +77,12 @@ void Store::recovering(Action action)
 
 void Store::join(const Product &product)
 {
-    recovering([&](Connection &current) { m_membership = joinConsent(current.database, product); });
+    if (m_mark.read().requested.empty()) {
+        reopen(false);
+    }
+    recovering([&](Connection &current) {
+        m_membership = joinConsent(current.database, m_mark, product, m_clock.now());
+    });
     m_product = product;
     m_run = randomUuid();
 }
@@ -75,9 +94,14 @@ void Store::leave()
 
 void Store::withdraw(const Product &product)
 {
+    try {
+        m_mark.request();
+    } catch (const Failure &) {
+        // Then the database is all there is to keep it.
+    }
     recovering([&](Connection &current) {
-        withdrawConsent(current.database, product, m_clock.now());
-        eraseJournal(current.database);
+        withdrawConsent(current.database, m_mark, &product, m_clock.now());
+        tryErasure(current.database);
     });
 }
 
@@ -90,6 +114,7 @@ bool Store::hasOptOut()
 
 void Store::add(const Event &event)
 {
+    requireConsent();
     if (event.size() > m_limits.maxEventBytes) {
         recovering(
             [](Connection &current) { addLoss(current.database, LossReason::EventSize, 1); });
@@ -139,10 +164,28 @@ void Store::reopen(bool verify)
     m_connection.reset();
     OpeningOptions options = m_options;
     options.verify = verify;
-    options.create = false;
     m_connection.emplace(openStore(m_paths, options, m_busyLimit));
+    m_options.create = false;
     if (m_product) {
-        m_membership = joinConsent(m_connection->database, *m_product);
+        rejoin();
+    }
+}
+
+// In another database the session goes on, unless consent was withdrawn since it began.
+void Store::rejoin()
+{
+    const std::string token = m_membership.token;
+    Membership joined;
+    if (m_mark.read().requested == token) {
+        joined = joinConsent(m_connection->database, m_mark, *m_product, m_clock.now());
+    }
+    m_membership = joined.token == token ? joined : Membership{-1, 0, token};
+}
+
+void Store::requireConsent()
+{
+    if (m_membership.token != m_mark.current()) {
+        throw Failure(RUI_OPTED_OUT, "consent was withdrawn");
     }
 }
 

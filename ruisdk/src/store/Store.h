@@ -17,6 +17,9 @@ class Store
 {
 public:
     // busyLimit: ends the waiting of a call for a lock from another thread.
+    //
+    // A database that is locked, or has no room, is opened by the first function that needs it:
+    // the user can withdraw consent meanwhile.
     Store(StorePaths paths, OpeningOptions options, Limits limits, const Clock &clock,
           std::shared_ptr<BusyLimit> busyLimit);
 
@@ -29,7 +32,8 @@ public:
     // Commits an event of the session. RUI_OPTED_OUT after an opt-out by anybody.
     void add(const Event &event);
 
-    // See ruiOptOut.
+    // See ruiOptOut. When it fails, the request is kept: no session stores or sends anything
+    // before it is carried out.
     void withdraw(const Product &product);
 
     // An opt-out waits for delivery.
@@ -55,6 +59,8 @@ private:
     void recovering(Action action);
     Occupancy insert(Connection &current, const Event &event) const;
     void reopen(bool verify);
+    void rejoin();
+    void requireConsent();
     void store(const Event &event);
     void keepToQuota(const Occupancy &occupancy) noexcept;
     void boundJournal() noexcept;
@@ -65,6 +71,7 @@ private:
     Limits m_limits;
     const Clock &m_clock;
     std::shared_ptr<BusyLimit> m_busyLimit;
+    WithdrawalMark m_mark;
     std::optional<Connection> m_connection;
     std::optional<Product> m_product;
     Membership m_membership;

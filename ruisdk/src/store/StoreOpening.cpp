@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "store/StoreOpening.h"
 
+#include "core/Clock.h"
+#include "store/Consent.h"
+#include "store/Erasure.h"
 #include "store/FileLock.h"
 #include "store/Losses.h"
 #include "store/Migrations.h"
@@ -76,6 +79,35 @@ std::optional<Database> openUnlessDamaged(const StorePaths &paths, const Opening
     }
 }
 
+// The caller holds the opening lock.
+Database openOrReplace(const StorePaths &paths, const OpeningOptions &options,
+                       const std::shared_ptr<BusyLimit> &busyLimit)
+{
+    if (auto database = openUnlessDamaged(paths, options, busyLimit)) {
+        return std::move(*database);
+    }
+    // SQLite also calls it corruption when the device fails to give a page. Only what can be read
+    // whole, and is found damaged a second time, is damaged.
+    requireReadable(paths);
+    OpeningOptions thorough = options;
+    thorough.verify = true;
+    if (auto database = openUnlessDamaged(paths, thorough, busyLimit)) {
+        return std::move(*database);
+    }
+    setAside(paths);
+    Database database = openChecked(paths, options, busyLimit);
+    addLoss(database, LossReason::Damaged, 1);
+    return database;
+}
+
+// What others left undone comes before anything else.
+void settle(Database &database, const StorePaths &paths)
+{
+    WithdrawalMark mark(paths.consent());
+    settleWithdrawal(database, mark, systemClock().now());
+    finishErasure(database);
+}
+
 } // namespace
 
 Failure noEventsIn(const StorePaths &paths)
@@ -95,20 +127,9 @@ Database openStore(const StorePaths &paths, const OpeningOptions &options,
     }
     FileLock opening(paths.openingLock());
     opening.lock(*busyLimit);
-    if (auto database = openUnlessDamaged(paths, options, busyLimit)) {
-        return std::move(*database);
-    }
-    // SQLite also calls it corruption when the device fails to give a page. Only what can be read
-    // whole, and is found damaged a second time, is damaged.
-    requireReadable(paths);
-    OpeningOptions thorough = options;
-    thorough.verify = true;
-    if (auto database = openUnlessDamaged(paths, thorough, busyLimit)) {
-        return std::move(*database);
-    }
-    setAside(paths);
-    Database database = openChecked(paths, options, busyLimit);
-    addLoss(database, LossReason::Damaged, 1);
+    requirePlainFiles(paths);
+    Database database = openOrReplace(paths, options, busyLimit);
+    settle(database, paths);
     return database;
 }
 

@@ -14,6 +14,12 @@ public:
         : m_directory(std::move(directory))
     {}
 
+    // Those of the directory in which this database stands.
+    static StorePaths of(const std::string &database)
+    {
+        return StorePaths(database.substr(0, database.rfind('/')));
+    }
+
     const std::string &directory() const
     {
         return m_directory;
@@ -21,6 +27,11 @@ public:
     std::string database() const
     {
         return m_directory + "/usage-events.sqlite";
+    }
+    // See WithdrawalMark.
+    std::string consent() const
+    {
+        return m_directory + "/usage-events.consent";
     }
     // Held while the database is opened, created or set aside.
     std::string openingLock() const
