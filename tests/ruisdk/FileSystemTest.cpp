@@ -115,12 +115,14 @@ TEST_F(OwnFileSystem, ThatIsFullWhenConsentIsWithdrawnSendsNothingAndEndsTheCons
 
 TEST_F(OwnFileSystem, ThatFillsUpBeforeConsentIsWithdrawnInAnOpenDirectoryDeliversNothing)
 {
-    const Outcome outcome = run("2m", "\"$writer\" \"$data\" w 100 \"\" stay > \"$place/out\" &\n"
-                                      "while ! grep -q 'w 100' \"$place/out\"; do sleep 0.01; done\n"
-                                      "head -c 3000000 /dev/zero > \"$place/filler\" || true\n"
-                                      "\"$withdrawer\" \"$data\" \"$server\"\n"
-                                      "kill -9 $!");
-    EXPECT_NE(outcome.output.find("start 6\ntrack 3\nstop 3\n"), std::string::npos) << outcome.output;
+    const Outcome outcome =
+        run("2m", "\"$writer\" \"$data\" w 100 \"\" stay > \"$place/out\" &\n"
+                  "while ! grep -q 'w 100' \"$place/out\"; do sleep 0.01; done\n"
+                  "head -c 3000000 /dev/zero > \"$place/filler\" || true\n"
+                  "\"$withdrawer\" \"$data\" \"$server\"\n"
+                  "kill -9 $!");
+    EXPECT_NE(outcome.output.find("start 6\ntrack 3\nstop 3\n"), std::string::npos)
+        << outcome.output;
     EXPECT_EQ(receivedTexts(m_server), Texts{});
 }
 

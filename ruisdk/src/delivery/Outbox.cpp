@@ -140,7 +140,8 @@ Batch Outbox::next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t no
                            " ORDER BY seq LIMIT ?1",
                      maxRecords, maxBytes);
     }
-    // After the reading: a withdrawal that was requested before is either in the batch or seen here.
+    // After the reading: a withdrawal that was requested before is either in the batch or seen
+    // here.
     requireConsent();
     return batch;
 }

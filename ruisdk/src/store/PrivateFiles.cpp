@@ -67,8 +67,8 @@ void makePrivateFile(const std::string &path)
 void requirePlainFiles(const StorePaths &paths)
 {
     const std::string database = paths.database();
-    for (const std::string &path : {database, database + "-wal", database + "-shm",
-                                    paths.consent(), paths.openingLock(), paths.senderLock()}) {
+    for (const std::string &path : {database, database + "-wal", database + "-shm", paths.consent(),
+                                    paths.openingLock(), paths.senderLock()}) {
         struct stat status = {};
         if (lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode)) {
             throw Failure(RUI_STORAGE, path + ": is a symbolic link; remove it");

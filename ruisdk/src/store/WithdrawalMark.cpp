@@ -28,9 +28,18 @@ constexpr std::size_t fileSize = heading.size() + 2 * (tokenSize + 1);
 std::string newToken()
 {
     std::array<char, tokenSize + 1> text{};
-    std::snprintf(text.data(), text.size(), "%016llx",
-                  static_cast<unsigned long long>(random64()));
+    std::snprintf(text.data(), text.size(), "%016llx", static_cast<unsigned long long>(random64()));
     return text.data();
+}
+
+template <typename Call>
+ssize_t uninterrupted(Call call)
+{
+    ssize_t result = call();
+    while (result < 0 && errno == EINTR) {
+        result = call();
+    }
+    return result;
 }
 
 bool isToken(std::string_view text)
@@ -41,8 +50,8 @@ bool isToken(std::string_view text)
 WithdrawalMark::Content parse(std::string_view text)
 {
     constexpr std::size_t second = heading.size() + tokenSize + 1;
-    const bool complete = text.substr(0, heading.size()) == heading
-                          && text[second - 1] == ' ' && text.back() == '\n';
+    const bool complete =
+        text.substr(0, heading.size()) == heading && text[second - 1] == ' ' && text.back() == '\n';
     if (!complete) {
         return {true, {}, {}};
     }
@@ -59,7 +68,8 @@ WithdrawalMark::Content readFrom(int descriptor, const std::string &path)
 {
     // One more than a whole file, so that a longer one is noticed.
     std::array<char, fileSize + 1> text{};
-    const ssize_t size = pread(descriptor, text.data(), text.size(), 0);
+    const ssize_t size =
+        uninterrupted([&] { return pread(descriptor, text.data(), text.size(), 0); });
     if (size == static_cast<ssize_t>(fileSize)) {
         return parse({text.data(), fileSize});
     }
@@ -154,10 +164,10 @@ std::string WithdrawalMark::create()
 
 void WithdrawalMark::write(const Content &content)
 {
-    const std::string text =
-        std::string(heading) + content.requested + ' ' + content.done + '\n';
+    const std::string text = std::string(heading) + content.requested + ' ' + content.done + '\n';
     errno = ENOSPC;
-    if (pwrite(m_descriptor, text.data(), text.size(), 0) != static_cast<ssize_t>(text.size())
+    const auto all = static_cast<ssize_t>(text.size());
+    if (uninterrupted([&] { return pwrite(m_descriptor, text.data(), text.size(), 0); }) != all
         || fdatasync(m_descriptor) != 0) {
         throw SystemError(m_path, errno);
     }
@@ -181,8 +191,8 @@ void WithdrawalMark::request()
 // Both need no room, not even on a file system that never writes in place.
 bool WithdrawalMark::ruin() noexcept
 {
-    const bool isEmpty = m_descriptor >= 0 && ftruncate(m_descriptor, 0) == 0
-                         && fdatasync(m_descriptor) == 0;
+    const bool isEmpty =
+        m_descriptor >= 0 && ftruncate(m_descriptor, 0) == 0 && fdatasync(m_descriptor) == 0;
     return isEmpty || unlink(m_path.c_str()) == 0;
 }
 

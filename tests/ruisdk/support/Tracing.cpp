@@ -25,7 +25,8 @@ void append(Words &words, const Words &more)
 Words filesOf(const std::string &directory)
 {
     Words words = {"-P", directory};
-    for (const char *ending : {"sqlite", "sqlite-wal", "sqlite-shm", "consent", "opening", "sender"}) {
+    for (const char *ending :
+         {"sqlite", "sqlite-wal", "sqlite-shm", "consent", "opening", "sender"}) {
         append(words, {"-P", directory + "/usage-events." + ending});
     }
     return words;
