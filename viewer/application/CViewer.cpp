@@ -8,6 +8,7 @@
 #include "application/Folders.h"
 #include "plugins/nerixviewer/IApplicationService.h"
 #include "scripting/CScriptRunner.h"
+#include "windows/ShownText.h"
 
 #include <Core/Plugin/ServiceLookup.h>
 
@@ -123,7 +124,8 @@ void CViewer::runScript()
 {
     const QString failure = m_script->run(m_commandLine.scriptFile);
     if (!failure.isEmpty()) {
-        std::fputs((failure + QLatin1Char('\n')).toUtf8().constData(), stderr);
+        const QString shown = Windows::shownText(failure, failure.size());
+        std::fputs((shown + QLatin1Char('\n')).toUtf8().constData(), stderr);
         m_status = scriptFailed;
     }
     closeApplication();

@@ -3,6 +3,8 @@
 
 #include "application/LogOutput.h"
 
+#include "windows/ShownText.h"
+
 #include <cstdio>
 
 #include <QString>
@@ -15,7 +17,8 @@ namespace {
 // A single call, so that lines of several threads do not mix.
 void writeLine(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    const QByteArray line = qFormatLogMessage(type, context, message).toUtf8() + '\n';
+    const QString shown = Windows::shownLine(message, message.size());
+    const QByteArray line = qFormatLogMessage(type, context, shown).toUtf8() + '\n';
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
     std::fflush(stderr);
 }

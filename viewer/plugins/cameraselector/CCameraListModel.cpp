@@ -5,6 +5,7 @@
 
 #include "plugins/camerapool/DistinctName.h"
 #include "plugins/cameraselector/CameraStateLook.h"
+#include "windows/ShownText.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,6 +14,18 @@
 #include <QPalette>
 
 namespace CameraSelector {
+
+namespace {
+
+QString toolTipOf(const Core::CameraPoolComponents::ICameraInfo &camera)
+{
+    return Windows::toolTipText(QStringLiteral("%1 %2\n%3")
+                                    .arg(Windows::shownLine(camera.vendorName()),
+                                         Windows::shownLine(camera.modelName()),
+                                         Windows::shownLine(camera.identity())));
+}
+
+} // namespace
 
 CCameraListModel::CCameraListModel(QSharedPointer<CameraPool::ICameraControlService> control,
                                    QObject *parent)
@@ -118,18 +131,18 @@ QVariant CCameraListModel::data(const QModelIndex &index, int role) const
     const bool isName = index.column() == CameraColumn;
     switch (role) {
     case Qt::DisplayRole:
-        return isName ? row.name : stateText(row.state);
+        return isName ? Windows::shownLine(row.name) : stateText(row.state);
     case Qt::DecorationRole:
         return isName ? stateIcon(row.state) : QVariant();
     case Qt::ToolTipRole:
-        return QStringLiteral("%1 %2\n%3")
-            .arg(row.camera->vendorName(), row.camera->modelName(), row.camera->identity());
+        return toolTipOf(*row.camera);
     case Qt::ForegroundRole:
         return row.state == CameraPool::ICameraControlService::Gone
                    ? QVariant(QGuiApplication::palette().color(QPalette::Disabled, QPalette::Text))
                    : QVariant();
     case Qt::AccessibleTextRole:
-        return isName ? QStringLiteral("%1, %2").arg(row.name, stateText(row.state))
+        return isName ? QStringLiteral("%1, %2").arg(Windows::shownLine(row.name),
+                                                     stateText(row.state))
                       : stateText(row.state);
     default:
         return {};

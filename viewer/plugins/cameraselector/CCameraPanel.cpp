@@ -6,6 +6,7 @@
 #include "plugins/cameraselector/CCameraCommands.h"
 #include "plugins/cameraselector/CCameraListModel.h"
 #include "plugins/cameraselector/IDeviceSelectionService.h"
+#include "windows/CPlainLabel.h"
 #include "windows/OnLanguageChange.h"
 
 #include <utility>
@@ -13,7 +14,6 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -26,15 +26,15 @@ CCameraPanel::CCameraPanel(CCameraListModel &model, CCameraCommands &commands,
     , m_commands(commands)
     , m_selection(std::move(selection))
     , m_view(new QTreeView(this))
-    , m_hint(new QLabel(this))
-    , m_problem(new QLabel(this))
+    , m_hint(new Windows::CPlainLabel(this))
+    , m_problem(new Windows::CPlainLabel(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_hint);
     layout->addWidget(m_view);
     layout->addWidget(m_problem);
-    for (QLabel *label : {m_hint, m_problem}) {
+    for (Windows::CPlainLabel *label : {m_hint, m_problem}) {
         label->setWordWrap(true);
         label->setMargin(8);
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -7,8 +7,11 @@
 #include <QSharedPointer>
 #include <QWidget>
 
-class QLabel;
 class QTreeView;
+
+namespace Windows {
+class CPlainLabel;
+}
 
 namespace CameraSelector {
 
@@ -47,8 +50,8 @@ private:
     CCameraCommands &m_commands;
     QSharedPointer<IDeviceSelectionService> m_selection;
     QTreeView *m_view;
-    QLabel *m_hint;    // over the list while it is empty
-    QLabel *m_problem; // below it
+    Windows::CPlainLabel *m_hint;    // over the list while it is empty
+    Windows::CPlainLabel *m_problem; // below it
 };
 
 } // namespace CameraSelector

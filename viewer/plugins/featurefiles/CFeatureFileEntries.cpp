@@ -4,7 +4,9 @@
 #include "plugins/featurefiles/CFeatureFileEntries.h"
 
 #include "plugins/featurefiles/CLoadReportDialog.h"
+#include "windows/CPlainLabel.h"
 #include "windows/MenuEntry.h"
+#include "windows/MessageBox.h"
 
 #include <Plugin/AppCore/IMenuService.h>
 
@@ -12,7 +14,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QMessageBox>
 #include <QProgressDialog>
 #include <QRegularExpression>
 #include <QSettings>
@@ -30,12 +31,15 @@ constexpr const char *folderKey = "FeatureFiles/Folder";
 // The suffix of the files; it is added when the user gives none.
 constexpr const char *suffix = "features";
 
+// In characters: a file system that takes names of 255 bytes takes this in any script.
+constexpr int longestProposal = 60;
+
 // The name of the camera as far as a file may be called so.
 QString proposedName(const QString &cameraName)
 {
     static const QRegularExpression unwanted(QStringLiteral("[^\\w.-]+"));
-    return QString(cameraName).replace(unwanted, QStringLiteral("_")) + QLatin1Char('.')
-           + QLatin1String(suffix);
+    return QString(cameraName.left(longestProposal)).replace(unwanted, QStringLiteral("_"))
+           + QLatin1Char('.') + QLatin1String(suffix);
 }
 
 } // namespace
@@ -92,10 +96,9 @@ void CFeatureFileEntries::connectTask()
     connect(&m_task, &CFeatureFileTask::loaded, this, &CFeatureFileEntries::onLoaded);
     connect(&m_task, &CFeatureFileTask::failed, this, [this](const QString &reason) {
         tell(Severity::Error, reason);
-        auto *box = new QMessageBox(QMessageBox::Critical, tr("Features"), reason,
-                                    QMessageBox::Close, m_services.window);
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->open();
+        Windows::newMessageBox(QMessageBox::Critical, tr("Features"), reason, QMessageBox::Close,
+                               m_services.window)
+            ->open();
     });
 }
 
@@ -168,7 +171,8 @@ void CFeatureFileEntries::begin(const QString &fileName, bool isSaving)
 
 void CFeatureFileEntries::showProgress(const QString &text)
 {
-    m_progress = new QProgressDialog(text, tr("Cancel"), 0, 0, m_services.window);
+    m_progress = new QProgressDialog(QString(), tr("Cancel"), 0, 0, m_services.window);
+    m_progress->setLabel(new Windows::CPlainLabel(text));
     m_progress->setWindowTitle(tr("Features"));
     m_progress->setWindowModality(Qt::WindowModal);
     m_progress->setAutoClose(false);

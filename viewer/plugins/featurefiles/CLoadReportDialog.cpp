@@ -3,10 +3,12 @@
 
 #include "plugins/featurefiles/CLoadReportDialog.h"
 
+#include "windows/CPlainLabel.h"
+#include "windows/ShownText.h"
+
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTreeWidget>
@@ -35,9 +37,9 @@ CLoadReportDialog::CLoadReportDialog(const QString &cameraName, const CLoadRepor
     , m_list(new QTreeWidget)
 {
     setWindowTitle(tr("Load Features"));
-    auto *summary =
-        new QLabel(tr("Some features of %1 do not have the value of the file.").arg(cameraName)
-                   + QLatin1Char('\n') + summaryOf(report));
+    auto *summary = new Windows::CPlainLabel(
+        tr("Some features of %1 do not have the value of the file.").arg(cameraName)
+        + QLatin1Char('\n') + summaryOf(report));
     summary->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(summary);
@@ -59,8 +61,9 @@ void CLoadReportDialog::createList(const CLoadReport &report)
     m_list->setAlternatingRowColors(true);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     for (const CLoadReport::Refused &refused : report.refused) {
-        auto *row = new QTreeWidgetItem(m_list, {refused.name, refused.reason});
-        row->setToolTip(1, refused.reason);
+        auto *row = new QTreeWidgetItem(
+            m_list, {Windows::shownLine(refused.name), Windows::shownLine(refused.reason)});
+        row->setToolTip(1, Windows::toolTipText(refused.reason));
     }
     m_list->resizeColumnToContents(0);
     m_list->setCurrentItem(m_list->topLevelItem(0), 0, QItemSelectionModel::NoUpdate);

@@ -3,6 +3,8 @@
 
 #include "plugins/featuretree/CChoiceEdit.h"
 
+#include "windows/ShownText.h"
+
 #include <QMetaObject>
 
 namespace FeatureTree {
@@ -26,14 +28,21 @@ void CChoiceEdit::setEntries(const QStringList &entries)
 {
     QStringList present;
     for (int i = 0; i < count(); ++i) {
-        present.append(itemText(i));
+        present.append(itemData(i).toString());
     }
     if (entries != present) {
-        const QString chosen = currentText();
+        const QString chosen = entry();
         clear();
-        addItems(entries);
-        setCurrentIndex(findText(chosen));
+        for (const QString &one : entries) {
+            addItem(Windows::shownLine(one), one);
+        }
+        setCurrentIndex(findData(chosen));
     }
+}
+
+QString CChoiceEdit::entry() const
+{
+    return currentData().toString();
 }
 
 // The list is hidden first and tells only then which entry was picked.

@@ -20,6 +20,9 @@ public:
     /// Offers \a entries, as long as they are others than before.
     void setEntries(const QStringList &entries);
 
+    /// The chosen one as it was offered, which may be shown otherwise; null if none is chosen.
+    QString entry() const;
+
     void hidePopup() override;
 
 Q_SIGNALS:

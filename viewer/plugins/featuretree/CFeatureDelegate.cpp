@@ -52,7 +52,7 @@ QString textOf(const QWidget *editor)
         return number->number();
     }
     if (const auto *choice = qobject_cast<const CChoiceEdit *>(editor)) {
-        return choice->currentText();
+        return choice->entry();
     }
     return qobject_cast<const QLineEdit *>(editor)->text();
 }
@@ -62,7 +62,7 @@ void setText(QWidget *editor, const QString &text)
     if (auto *number = qobject_cast<CNumberEdit *>(editor)) {
         number->setText(text);
     } else if (auto *choice = qobject_cast<CChoiceEdit *>(editor)) {
-        choice->setCurrentIndex(choice->findText(text)); // none is better than the first one
+        choice->setCurrentIndex(choice->findData(text)); // none is better than the first one
     } else if (auto *line = qobject_cast<QLineEdit *>(editor)) {
         line->setText(text);
         line->selectAll();
@@ -160,7 +160,7 @@ void CFeatureDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
 {
     const CFeatureState state = stateOf(index);
     setLimits(editor, state);
-    editor->setToolTip(index.data(Qt::ToolTipRole).toString());
+    editor->setToolTip(index.data(Qt::ToolTipRole).toString()); // safe as the model gives it
     if (!editor->property(firstText).isValid()) {
         const QString text = index.data(Qt::EditRole).toString();
         setText(editor, text);

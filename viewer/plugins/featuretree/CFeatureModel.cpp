@@ -6,6 +6,7 @@
 #include "plugins/featuretree/CFeatureTexts.h"
 #include "plugins/featuretree/LockIcon.h"
 #include "plugins/featuretree/MutedText.h"
+#include "windows/ShownText.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -267,7 +268,8 @@ QVariant CFeatureModel::nameData(const Node &node, int role) const
         return QLatin1Char('@') + node.treeName;
     }
     if (role == Qt::DisplayRole) {
-        return node.feature < 0 ? node.treeName : m_features.at(node.feature).displayName;
+        return Windows::shownLine(node.feature < 0 ? node.treeName
+                                                   : m_features.at(node.feature).displayName);
     }
     const bool isCategory = node.feature < 0 || m_features.at(node.feature).isCategory();
     if (role == Qt::FontRole && isCategory) {

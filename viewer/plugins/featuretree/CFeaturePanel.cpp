@@ -5,6 +5,7 @@
 
 #include "plugins/featuretree/CFeatureTexts.h"
 #include "plugins/featuretree/CFeatureView.h"
+#include "windows/CPlainLabel.h"
 #include "windows/OnLanguageChange.h"
 
 #include <QComboBox>
@@ -21,6 +22,7 @@
 namespace FeatureTree {
 
 using namespace ParameterCollection;
+using Windows::CPlainLabel;
 
 namespace {
 
@@ -29,9 +31,10 @@ constexpr const char *levelKey = "FeatureTree/Level";
 // So that the tree does not jump with each row that is explained; most explanations fit.
 constexpr int explanationLines = 6;
 
-QLabel *createText(const char *name)
+template <class Label>
+Label *createText(const char *name)
 {
-    auto *label = new QLabel;
+    auto *label = new Label;
     label->setObjectName(QString::fromLatin1(name));
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -59,13 +62,14 @@ void CFeaturePanel::createWidgets()
     m_view = new CFeatureView;
     m_view->setObjectName(QStringLiteral("FeatureTree.View"));
     m_view->setModel(&m_filter);
-    m_notice = createText("FeatureTree.Notice");
+    m_notice = createText<CPlainLabel>("FeatureTree.Notice");
     m_notice->setAlignment(Qt::AlignCenter);
     m_notice->setMargin(fontMetrics().height());
     m_stack = new QStackedWidget;
     m_stack->addWidget(m_view);
     m_stack->addWidget(m_notice);
-    m_explanation = createText("FeatureTree.Explanation");
+    m_explanation = createText<QLabel>("FeatureTree.Explanation");
+    m_explanation->setTextFormat(Qt::RichText); // of ours: what is of the camera is escaped
     m_explanation->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     m_explanation->setMargin(fontMetrics().height() / 3);
     m_explanation->setMinimumHeight(fontMetrics().lineSpacing() * explanationLines);
@@ -99,10 +103,10 @@ QWidget *CFeaturePanel::createSearchRow()
 
 QWidget *CFeaturePanel::createProblemRow()
 {
-    auto *icon = new QLabel;
+    auto *icon = new CPlainLabel;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
-    m_problem = createText("FeatureTree.Problem");
+    m_problem = createText<CPlainLabel>("FeatureTree.Problem");
     m_dismiss = new QToolButton;
     m_dismiss->setAutoRaise(true);
     m_dismiss->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));

@@ -14,6 +14,10 @@ class QShortcut;
 class QStackedWidget;
 class QToolButton;
 
+namespace Windows {
+class CPlainLabel;
+}
+
 namespace FeatureTree {
 
 class CFeatureView;
@@ -54,10 +58,10 @@ private:
     QComboBox *m_level = nullptr;
     QStackedWidget *m_stack = nullptr;
     CFeatureView *m_view = nullptr;
-    QLabel *m_notice = nullptr;
+    Windows::CPlainLabel *m_notice = nullptr;
     QLabel *m_explanation = nullptr;
     QWidget *m_problemRow = nullptr;
-    QLabel *m_problem = nullptr;
+    Windows::CPlainLabel *m_problem = nullptr;
     QToolButton *m_dismiss = nullptr;
     QShortcut *m_escape = nullptr; // ends the problem
     int m_explained = -1;          // the feature that is explained; -1 for none

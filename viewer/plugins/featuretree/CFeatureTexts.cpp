@@ -4,16 +4,20 @@
 #include "plugins/featuretree/CFeatureTexts.h"
 
 #include "plugins/parametercollectionpool/ValueText.h"
+#include "windows/ShownText.h"
 
 namespace FeatureTree {
 using namespace ParameterCollection;
 using ParameterCollectionPool::ValueText::fromFloat;
+using Windows::shownLine;
+using Windows::shownText;
 
 namespace {
 
 QString withUnit(const QString &text, const CFeatureDescription &description)
 {
-    return description.unit.isEmpty() ? text : text + QLatin1Char(' ') + description.unit;
+    return description.unit.isEmpty() ? text
+                                      : text + QLatin1Char(' ') + shownLine(description.unit);
 }
 
 QString range(const QString &minimum, const QString &maximum,
@@ -24,7 +28,7 @@ QString range(const QString &minimum, const QString &maximum,
 
 QString line(const QString &text)
 {
-    return QStringLiteral("<br>") + text.toHtmlEscaped();
+    return QStringLiteral("<br>") + shownText(text).toHtmlEscaped();
 }
 
 QString onOrOff(const CFeatureState &state)
@@ -51,7 +55,8 @@ QString CFeatureTexts::value(const CFeatureDescription &description, const CFeat
     if (state.text.isNull()) {
         return tr("can only be set");
     }
-    return description.type == InterfaceBoolean ? QString() : withUnit(state.text, description);
+    return description.type == InterfaceBoolean ? QString()
+                                                : withUnit(shownLine(state.text), description);
 }
 
 QString CFeatureTexts::limits(const CFeatureDescription &description, const CFeatureState &state)
@@ -72,7 +77,8 @@ QString CFeatureTexts::limits(const CFeatureDescription &description, const CFea
 
 QString CFeatureTexts::toolTip(const CFeatureDescription &description, const CFeatureState &state)
 {
-    QString text = QStringLiteral("<b>%1</b>").arg(description.displayName.toHtmlEscaped());
+    QString text =
+        QStringLiteral("<b>%1</b>").arg(shownLine(description.displayName).toHtmlEscaped());
     if (!description.toolTip.isEmpty()) {
         text += line(description.toolTip);
     }
@@ -118,7 +124,7 @@ QString CFeatureTexts::noNumber(const CFeatureDescription &description, const CF
             : tr("%1: \"%2\" cannot be read as a number; give one with a point for decimals and no "
                  "other separators");
     const QString allowed = limits(description, state);
-    return reason.arg(description.displayName, typed)
+    return reason.arg(shownLine(description.displayName), shownLine(typed))
            + (allowed.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(allowed));
 }
 

@@ -5,10 +5,10 @@
 
 #include "plugins/grabbing/CGrabController.h"
 #include "plugins/grabbing/FigureTexts.h"
+#include "windows/CPlainLabel.h"
 #include "windows/OnLanguageChange.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 
 namespace Grabbing {
 
@@ -17,13 +17,13 @@ namespace {
 constexpr int gap = 18;
 
 // A label grows with its text and does not shrink again, so that the others stay where they are.
-void setSteadyText(QLabel *label, const QString &text)
+void setSteadyText(Windows::CPlainLabel *label, const QString &text)
 {
     label->setText(text);
     label->setMinimumWidth(qMax(label->minimumWidth(), label->sizeHint().width()));
 }
 
-void setBold(QLabel *label, bool isBold)
+void setBold(Windows::CPlainLabel *label, bool isBold)
 {
     QFont font = label->font();
     font.setBold(isBold);
@@ -52,9 +52,9 @@ CFiguresBar::CFiguresBar(const CGrabController &controller, QWidget *parent)
 
 CFiguresBar::~CFiguresBar() = default;
 
-QLabel *CFiguresBar::addLabel(const char *name)
+Windows::CPlainLabel *CFiguresBar::addLabel(const char *name)
 {
-    auto *label = new QLabel(this);
+    auto *label = new Windows::CPlainLabel(this);
     label->setObjectName(QLatin1String(name));
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout()->addWidget(label);
@@ -63,7 +63,7 @@ QLabel *CFiguresBar::addLabel(const char *name)
 
 void CFiguresBar::giveRoomBack()
 {
-    for (QLabel *label : {m_images, m_failures, m_imageRate, m_dataRate}) {
+    for (Windows::CPlainLabel *label : {m_images, m_failures, m_imageRate, m_dataRate}) {
         label->setMinimumWidth(0);
     }
 }

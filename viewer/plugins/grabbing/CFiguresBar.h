@@ -4,7 +4,9 @@
 
 #include <QWidget>
 
-class QLabel;
+namespace Windows {
+class CPlainLabel;
+}
 
 namespace Grabbing {
 
@@ -22,15 +24,15 @@ public:
     ~CFiguresBar() override;
 
 private:
-    QLabel *addLabel(const char *name);
+    Windows::CPlainLabel *addLabel(const char *name);
     void giveRoomBack();
     void update();
 
     const CGrabController &m_controller;
-    QLabel *m_images;
-    QLabel *m_failures;
-    QLabel *m_imageRate;
-    QLabel *m_dataRate;
+    Windows::CPlainLabel *m_images;
+    Windows::CPlainLabel *m_failures;
+    Windows::CPlainLabel *m_imageRate;
+    Windows::CPlainLabel *m_dataRate;
 };
 
 } // namespace Grabbing

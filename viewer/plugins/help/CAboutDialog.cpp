@@ -3,6 +3,8 @@
 
 #include "plugins/help/CAboutDialog.h"
 
+#include "windows/CPlainLabel.h"
+
 #include <CHelpHelper.h>
 
 #include <arv.h>
@@ -10,7 +12,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialogButtonBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QSysInfo>
 #include <QVBoxLayout>
@@ -40,9 +41,9 @@ QString glibVersion()
         .arg(glib_micro_version);
 }
 
-QLabel *makeHeading(QWidget *parent)
+Windows::CPlainLabel *makeHeading(QWidget *parent)
 {
-    auto *heading = new QLabel(QStringLiteral("Nerix Viewer " NERIX_VERSION), parent);
+    auto *heading = new Windows::CPlainLabel(QStringLiteral("Nerix Viewer " NERIX_VERSION), parent);
     QFont font = heading->font();
     font.setPointSize(font.pointSize() + headingPoints);
     font.setBold(true);
@@ -50,10 +51,9 @@ QLabel *makeHeading(QWidget *parent)
     return heading;
 }
 
-QLabel *makeText(const QString &text, QWidget *parent)
+Windows::CPlainLabel *makeText(const QString &text, QWidget *parent)
 {
-    auto *label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
+    auto *label = new Windows::CPlainLabel(text, parent);
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     return label;

@@ -5,6 +5,7 @@
 
 #include "plugins/help/CHelpBrowser.h"
 #include "windows/OnLanguageChange.h"
+#include "windows/ShownText.h"
 
 #include <DocumentationHelper.h>
 
@@ -44,7 +45,9 @@ CHelpWindow::CHelpWindow(const CHelpDocuments &documents, QWidget *parent)
     connect(m_browser, &QTextBrowser::historyChanged, this, &CHelpWindow::setTitle);
     connect(m_browser, &CHelpBrowser::addressClicked, this, &CHelpWindow::openAddress);
     connect(m_browser, QOverload<const QUrl &>::of(&QTextBrowser::highlighted), this,
-            [this](const QUrl &link) { statusBar()->showMessage(link.toString()); });
+            [this](const QUrl &link) {
+                statusBar()->showMessage(Windows::shownLine(link.toString()));
+            });
     Windows::onLanguageChange(this, [this] { setTitle(); });
     resize(firstSize);
 }
@@ -96,7 +99,7 @@ QAction *CHelpWindow::addEntry(const char *icon, std::function<QString()> text,
     Windows::onLanguageChange(action, [action, text = std::move(text)] {
         const QString key = action->shortcut().toString(QKeySequence::NativeText);
         action->setText(text());
-        action->setToolTip(QStringLiteral("%1 (%2)").arg(text(), key));
+        action->setToolTip(Windows::toolTipText(QStringLiteral("%1 (%2)").arg(text(), key)));
     });
     connect(action, &QAction::triggered, this, std::move(act));
     m_toolBar->addAction(action);
@@ -173,7 +176,8 @@ void CHelpWindow::setTitle()
 void CHelpWindow::openAddress(const QUrl &address)
 {
     if (!DocumentationHelper::OpenUrl(address.toString(), false)) {
-        statusBar()->showMessage(tr("%1 cannot be opened").arg(address.toString()));
+        statusBar()->showMessage(
+            Windows::shownLine(tr("%1 cannot be opened").arg(address.toString())));
     }
 }
 

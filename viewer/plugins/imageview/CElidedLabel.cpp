@@ -8,17 +8,15 @@
 namespace ImageView {
 
 CElidedLabel::CElidedLabel(Qt::TextElideMode mode, QWidget *parent)
-    : QLabel(parent)
+    : CPlainLabel(parent)
     , m_mode(mode)
-{
-    setTextFormat(Qt::PlainText);
-}
+{}
 
 CElidedLabel::~CElidedLabel() = default;
 
 QSize CElidedLabel::minimumSizeHint() const
 {
-    return {0, QLabel::minimumSizeHint().height()};
+    return {0, CPlainLabel::minimumSizeHint().height()};
 }
 
 void CElidedLabel::paintEvent(QPaintEvent *)

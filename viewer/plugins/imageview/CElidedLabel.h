@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLabel>
+#include "windows/CPlainLabel.h"
 
 namespace ImageView {
 
 /// One line of plain text that is cut short with an ellipsis where there is no room for all of it,
 /// so that it asks for none. Readers of the screen get all of it. GUI thread.
-class CElidedLabel : public QLabel
+class CElidedLabel : public Windows::CPlainLabel
 {
     Q_OBJECT
 

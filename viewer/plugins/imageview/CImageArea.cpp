@@ -8,6 +8,7 @@
 #include "plugins/imageview/CImageView.h"
 #include "plugins/imageview/CLiveCamera.h"
 #include "plugins/imageview/CLiveImages.h"
+#include "windows/CPlainLabel.h"
 #include "windows/OnLanguageChange.h"
 
 #include <algorithm>
@@ -15,7 +16,6 @@
 #include <utility>
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
@@ -56,8 +56,8 @@ CImageArea::~CImageArea() = default;
 QWidget *CImageArea::newWelcome()
 {
     auto *page = new QWidget(this);
-    auto *title = new QLabel(page);
-    auto *text = new QLabel(page);
+    auto *title = new Windows::CPlainLabel(page);
+    auto *text = new Windows::CPlainLabel(page);
     title->setObjectName(QStringLiteral("welcomeTitle"));
     text->setObjectName(QStringLiteral("welcomeText"));
     QFont font = title->font();
@@ -66,7 +66,7 @@ QWidget *CImageArea::newWelcome()
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(welcomeMargin, welcomeMargin, welcomeMargin, welcomeMargin);
     layout->addStretch();
-    for (QLabel *label : {title, text}) {
+    for (Windows::CPlainLabel *label : {title, text}) {
         label->setAlignment(Qt::AlignCenter);
         label->setWordWrap(true);
         layout->addWidget(label);

@@ -9,7 +9,6 @@
 #include <QWidget>
 
 class QGridLayout;
-class QLabel;
 class QStackedLayout;
 
 namespace CameraSelector {

@@ -9,9 +9,9 @@
 #include "plugins/imageview/COverlayLabel.h"
 #include "plugins/imageview/PixelTexts.h"
 #include "windows/OnLanguageChange.h"
+#include "windows/ShownText.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLocale>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -23,7 +23,7 @@ namespace {
 constexpr int frameWidth = 2;
 constexpr int smallGap = 6;
 
-QLabel *newLabel(QWidget *parent, const char *name, Qt::TextElideMode mode)
+CElidedLabel *newLabel(QWidget *parent, const char *name, Qt::TextElideMode mode)
 {
     auto *label = new CElidedLabel(mode, parent);
     label->setObjectName(QLatin1String(name));
@@ -127,9 +127,9 @@ void CImagePane::mousePressEvent(QMouseEvent *)
 
 void CImagePane::retranslate()
 {
-    const QString name = m_camera.name();
+    const QString name = Windows::shownLine(m_camera.name());
     m_name->setText(name);
-    m_name->setToolTip(m_camera.info()->identity());
+    m_name->setToolTip(Windows::toolTipText(m_camera.info()->identity()));
     setAccessibleName(name);
     m_view->setAccessibleName(tr("Image of %1").arg(name));
     m_pixel->setAccessibleName(tr("Pixel under the pointer"));
@@ -149,7 +149,7 @@ void CImagePane::showState()
     const QString words = wordsForNoImage();
     m_words->setText(words);
     m_words->setVisible(!words.isEmpty());
-    m_view->setAccessibleDescription(words);
+    m_view->setAccessibleDescription(Windows::shownText(words));
 
     const int failures = m_camera.failureCount();
     m_failure->setVisible(failures > 0);

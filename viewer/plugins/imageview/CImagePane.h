@@ -4,12 +4,12 @@
 
 #include <QWidget>
 
-class QLabel;
-
 namespace ImageView {
 
+class CElidedLabel;
 class CImageView;
 class CLiveCamera;
+class COverlayLabel;
 
 /// One camera in the live view: its name, its image or words in its place, what failed, the pixel
 /// under the pointer, size and format. GUI thread.
@@ -48,11 +48,11 @@ private:
 
     CLiveCamera &m_camera;
     CImageView *m_view;
-    QLabel *m_name;
-    QLabel *m_words;   // in the place of an image
-    QLabel *m_failure; // over the image
-    QLabel *m_pixel;
-    QLabel *m_format;
+    CElidedLabel *m_name;
+    COverlayLabel *m_words;   // in the place of an image
+    COverlayLabel *m_failure; // over the image
+    CElidedLabel *m_pixel;
+    CElidedLabel *m_format;
     bool m_isSelected = false;
 };
 

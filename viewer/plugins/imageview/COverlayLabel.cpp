@@ -16,13 +16,12 @@ const QColor darkGround(0, 0, 0, 170);
 } // namespace
 
 COverlayLabel::COverlayLabel(Ground ground, QWidget *parent)
-    : QLabel(parent)
+    : CPlainLabel(parent)
     , m_ground(ground)
 {
     QPalette light = palette();
     light.setColor(QPalette::WindowText, Qt::white);
     setPalette(light);
-    setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setMargin(textMargin);
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -39,7 +38,7 @@ void COverlayLabel::paintEvent(QPaintEvent *event)
         painter.setBrush(darkGround);
         painter.drawRoundedRect(rect(), cornerRadius, cornerRadius);
     }
-    QLabel::paintEvent(event);
+    CPlainLabel::paintEvent(event);
 }
 
 } // namespace ImageView

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLabel>
+#include "windows/CPlainLabel.h"
 
 namespace ImageView {
 
 /// Words over an image view: light, and over an image on a dark, translucent ground, so that they
 /// are read on every image and in every palette. The mouse goes through it. GUI thread.
-class COverlayLabel : public QLabel
+class COverlayLabel : public Windows::CPlainLabel
 {
     Q_OBJECT
 

@@ -19,6 +19,9 @@ namespace {
 // Of the TIFF format: lossless, and read by every program.
 constexpr int lzwCompression = 1;
 
+// In characters: a file system that takes names of 255 bytes takes this in any script.
+constexpr int longestProposal = 60;
+
 QString text(const char *source)
 {
     return QCoreApplication::translate("ImageView::File", source);
@@ -69,7 +72,7 @@ QString writeImageFile(const Nerix::CImage &image, const QString &path)
 QString suggestedFileName(const QString &cameraName, const QDateTime &time)
 {
     const QString refused = QStringLiteral("/\\:*?\"<>|");
-    QString name = cameraName;
+    QString name = cameraName.left(longestProposal);
     for (QChar &character : name) {
         if (refused.contains(character) || !character.isPrint()) {
             character = QLatin1Char('_');

@@ -12,12 +12,12 @@
 #include "plugins/imageview/CLiveImages.h"
 #include "plugins/imageview/CViewEntries.h"
 #include "plugins/nerixviewer/IMainWindowService.h"
+#include "windows/MessageBox.h"
 
 #include <Core/Plugin/ServiceLookup.h>
 #include <Plugin/AppCore/IMenuService.h>
 
 #include <QDir>
-#include <QMessageBox>
 
 namespace ImageView {
 
@@ -99,11 +99,9 @@ void CImageViewPlugin::onSavingFailed(const QString &message) const
 {
     report(IMessageService::Severity::Error, message);
     if (const auto window = findService<IMainWindowService>(m_initializer)) {
-        auto *box = new QMessageBox(QMessageBox::Critical, tr("Save Image"), message,
-                                    QMessageBox::Close, window->window());
-        box->setTextFormat(Qt::PlainText);
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->open();
+        Windows::newMessageBox(QMessageBox::Critical, tr("Save Image"), message, QMessageBox::Close,
+                               window->window())
+            ->open();
     }
 }
 

@@ -3,6 +3,8 @@
 
 #include "plugins/nerixviewer/CMessageModel.h"
 
+#include "windows/ShownText.h"
+
 #include <QApplication>
 #include <QLocale>
 #include <QStyle>
@@ -31,8 +33,9 @@ CMessageModel::CMessageModel(QObject *parent)
     : QAbstractTableModel(parent)
 {}
 
-void CMessageModel::add(Severity severity, const QString &text)
+void CMessageModel::add(Severity severity, const QString &message)
 {
+    const QString text = Windows::shownText(message);
     const QDateTime now = QDateTime::currentDateTime();
     if (!m_messages.empty() && m_messages.back().text == text
         && m_messages.back().severity == severity) {
@@ -97,7 +100,7 @@ QVariant CMessageModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return textOf(message, index.column());
     case Qt::ToolTipRole:
-        return message.text;
+        return Windows::toolTipText(message.text);
     case Qt::DecorationRole:
         if (index.column() == TextColumn) {
             return QApplication::style()->standardIcon(symbolOf(message.severity));

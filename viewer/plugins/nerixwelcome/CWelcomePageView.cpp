@@ -4,10 +4,10 @@
 #include "plugins/nerixwelcome/CWelcomePageView.h"
 
 #include "plugins/nerixwelcome/CPageWidget.h"
+#include "windows/CPlainLabel.h"
 
 #include <Plugin/NerixWelcome/INerixWelcomeTab.h>
 
-#include <QLabel>
 #include <QQuickItem>
 
 namespace Plugin {
@@ -56,9 +56,8 @@ void CWelcomePageView::showPage(CWelcomePages &pages)
 
 void CWelcomePageView::showError(const QString &error)
 {
-    auto *label = new QLabel(error, this);
+    auto *label = new Windows::CPlainLabel(error, this);
     label->setObjectName(QStringLiteral("error"));
-    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setMargin(3 * margin);

@@ -6,12 +6,12 @@
 #include "plugins/nerixwelcome/CNerixWelcomeController.h"
 #include "plugins/nerixwelcome/CWelcomePageView.h"
 #include "plugins/nerixwelcome/QuickRenderer.h"
+#include "windows/CPlainLabel.h"
 #include "windows/OnLanguageChange.h"
 
 #include <Plugin/NerixWelcome/INerixWelcomeTab.h>
 
 #include <QAccessible>
-#include <QLabel>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QStackedWidget>
@@ -40,7 +40,7 @@ CWelcomeWindow::CWelcomeWindow(CNerixWelcomeController &controller, QWidget *par
     , m_pages(controller)
     , m_tabBar(new QTabBar(this))
     , m_views(new QStackedWidget(this))
-    , m_notice(new QLabel(this))
+    , m_notice(new Windows::CPlainLabel(this))
 {
     setObjectName(QStringLiteral("welcomeWindow"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -99,7 +99,6 @@ void CWelcomeWindow::layOut()
     m_notice->setObjectName(QStringLiteral("notice"));
     m_notice->setMinimumHeight(noticeHeight);
     m_notice->setMargin(4);
-    m_notice->setTextFormat(Qt::PlainText);
     m_notice->setWordWrap(true);
     m_notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
 

@@ -8,9 +8,12 @@
 
 #include <QDialog>
 
-class QLabel;
 class QStackedWidget;
 class QTabBar;
+
+namespace Windows {
+class CPlainLabel;
+}
 
 namespace Plugin {
 namespace NerixWelcome {
@@ -72,7 +75,7 @@ private:
     std::vector<Tab> m_tabs;
     QTabBar *m_tabBar;
     QStackedWidget *m_views;
-    QLabel *m_notice;
+    Windows::CPlainLabel *m_notice;
     bool m_isSayingWhyItStays = false;
 };
 

@@ -4,6 +4,7 @@
 #include "plugins/usagedatalog/CEventModel.h"
 
 #include "windows/OnLanguageChange.h"
+#include "windows/ShownText.h"
 
 #include <algorithm>
 
@@ -21,7 +22,7 @@ QString begin(const QByteArray &text)
 {
     // A character has up to four bytes; one that is cut is left out.
     const QString shown = QString::fromUtf8(text.left(4 * shownOfRecord)).left(shownOfRecord);
-    return shown.simplified();
+    return Windows::shownLine(shown.simplified(), shownOfRecord);
 }
 
 } // namespace
@@ -96,9 +97,9 @@ QVariant CEventModel::data(const QModelIndex &index, int role) const
     case TimeColumn:
         return event.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     case CategoryColumn:
-        return event.category;
+        return Windows::shownLine(event.category);
     case NameColumn:
-        return event.name;
+        return Windows::shownLine(event.name);
     case RecordColumn:
         return begin(event.text);
     case StateColumn:

@@ -7,7 +7,10 @@
 #include "plugins/usagedatalog/CEventFilter.h"
 #include "plugins/usagedatalog/CEventModel.h"
 #include "plugins/usagedatalog/CEventStore.h"
+#include "windows/CPlainLabel.h"
+#include "windows/MessageBox.h"
 #include "windows/OnLanguageChange.h"
+#include "windows/ShownText.h"
 
 #include <chrono>
 
@@ -15,9 +18,7 @@
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -50,13 +51,13 @@ CUsageDataLogWindow::CUsageDataLogWindow(CEventStore &store, CConsentWatch &cons
     , m_store(store)
     , m_consent(consent)
     , m_filter(new CEventFilter(this))
-    , m_consentText(new QLabel(this))
+    , m_consentText(new Windows::CPlainLabel(this))
     , m_consentButton(new QPushButton(this))
     , m_search(new QLineEdit(this))
     , m_table(new QTableView(this))
     , m_record(new QPlainTextEdit(this))
-    , m_stateText(new QLabel(this))
-    , m_notice(new QLabel(this))
+    , m_stateText(new Windows::CPlainLabel(this))
+    , m_notice(new Windows::CPlainLabel(this))
     , m_exportButton(new QPushButton(this))
     , m_deleteButton(new QPushButton(this))
     , m_closeButton(new QPushButton(this))
@@ -269,7 +270,8 @@ void CUsageDataLogWindow::updateRecord()
     const auto rows = m_table->selectionModel()->selectedRows();
     const QByteArray text =
         rows.isEmpty() ? QByteArray() : rows.first().data(CEventModel::WholeTextRole).toByteArray();
-    m_record->setPlainText(QString::fromUtf8(text));
+    const QString record = QString::fromUtf8(text);
+    m_record->setPlainText(Windows::shownText(record, record.size()));
 }
 
 void CUsageDataLogWindow::chooseExport()
@@ -289,13 +291,12 @@ void CUsageDataLogWindow::chooseExport()
 
 void CUsageDataLogWindow::askToDelete()
 {
-    auto *question = new QMessageBox(
+    auto *question = Windows::newMessageBox(
         QMessageBox::Question, tr("Delete All Events"),
         tr("Delete all %1 events? Those that wait will never be delivered. If you have agreed to "
            "recording, it goes on.")
             .arg(m_store.model().rowCount()),
         QMessageBox::NoButton, this);
-    question->setAttribute(Qt::WA_DeleteOnClose);
     const auto *yes = question->addButton(tr("&Delete"), QMessageBox::DestructiveRole);
     question->setDefaultButton(question->addButton(QMessageBox::Cancel));
     connect(yes, &QAbstractButton::clicked, &m_store, &CEventStore::deleteAll);

@@ -5,11 +5,14 @@
 #include <QDialog>
 #include <QTimer>
 
-class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 class QTableView;
+
+namespace Windows {
+class CPlainLabel;
+}
 
 namespace Plugin {
 namespace UsageDataLog {
@@ -53,13 +56,13 @@ private:
     CEventStore &m_store;
     CConsentWatch &m_consent;
     CEventFilter *m_filter;
-    QLabel *m_consentText;
+    Windows::CPlainLabel *m_consentText;
     QPushButton *m_consentButton;
     QLineEdit *m_search;
     QTableView *m_table;
     QPlainTextEdit *m_record;
-    QLabel *m_stateText;
-    QLabel *m_notice;
+    Windows::CPlainLabel *m_stateText;
+    Windows::CPlainLabel *m_notice;
     QPushButton *m_exportButton;
     QPushButton *m_deleteButton;
     QPushButton *m_closeButton;

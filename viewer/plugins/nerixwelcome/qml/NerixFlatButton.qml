@@ -23,6 +23,7 @@ T.Button {
     Keys.onEnterPressed: control.clicked()
 
     contentItem: Text {
+        textFormat: Text.PlainText
         text: control.text
         font: control.font
         color: control.enabled ? "#ffffff" : "#767676"
