@@ -28,7 +28,7 @@ test("each line of each file is a request", () => {
     assert.equal(status, 0);
     assert.match(stdout, /^\d+ events of \d+ clients in \d+ requests, \d+ MB; \d+ of the events/);
     const files = readdirSync(out);
-    assert.ok(files.includes("events-2026-11-13.jsonl"), files.join(" "));
+    assert.ok(files.includes("events-2026-11-09.jsonl"), files.join(" "));
     for (const file of files) {
         const lines = readFileSync(path.join(out, file), "utf8").trimEnd().split("\n");
         assert.ok(lines.every((line) => JSON.parse(line).resourceLogs.length === 1));
