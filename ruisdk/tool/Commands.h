@@ -16,6 +16,9 @@ void showStatistics(const Options &options, std::ostream &out);
 // something is left, with the reason; what the server refuses is left.
 void sendNow(const Options &options, std::ostream &out);
 
+// Writes what waits to a new file instead of sending it, and says how much it was.
+void handOverTo(const Options &options, std::ostream &out);
+
 void purgeAll(const Options &options, std::ostream &out);
 
 } // namespace rui::tool

@@ -43,6 +43,7 @@ const std::map<std::string, ValueAction> &valueOptions()
 {
     static const std::map<std::string, ValueAction> table = {
         {"--to", [](Options &options, const std::string &v) { options.server = v; }},
+        {"--otlp", [](Options &options, const std::string &v) { options.output = v; }},
         {"--category", [](Options &options, const std::string &v) { options.filter.category = v; }},
         {"--name", [](Options &options, const std::string &v) { options.filter.name = v; }},
         {"--since", [](Options &options,
@@ -67,10 +68,13 @@ void takeDirectory(Options &options, const std::string &argument)
 // A command stands in front of everything; "./send" is a directory.
 bool takeCommand(Options &options, const std::string &argument, std::size_t at)
 {
-    if (at != 0 || (argument != "send" && argument != "purge")) {
+    static const std::map<std::string, Command> commands = {
+        {"send", Command::Send}, {"export", Command::Export}, {"purge", Command::Purge}};
+    const auto command = commands.find(argument);
+    if (at != 0 || command == commands.end()) {
         return false;
     }
-    options.command = argument == "send" ? Command::Send : Command::Purge;
+    options.command = command->second;
     return true;
 }
 
@@ -84,6 +88,9 @@ void requireComplete(const Options &options)
     }
     if ((options.command == Command::Send) != !options.server.empty()) {
         throw UsageError("'send' and '--to' with the address of the server belong together");
+    }
+    if ((options.command == Command::Export) != !options.output.empty()) {
+        throw UsageError("'export' and '--otlp' with the name of a new file belong together");
     }
 }
 
@@ -109,12 +116,15 @@ const Fitting &fitting(Command command)
         {"--json", "--csv", "--raw", "--follow", "--category", "--name", "--since", "--until"}};
     static const Fitting statistics{"--stats", {"--stats", "--json"}};
     static const Fitting send{"send", {"--to"}};
+    static const Fitting handOver{"export", {"--otlp"}};
     static const Fitting purge{"purge", {}};
     switch (command) {
     case Command::Statistics:
         return statistics;
     case Command::Send:
         return send;
+    case Command::Export:
+        return handOver;
     case Command::Purge:
         return purge;
     default:
@@ -189,23 +199,25 @@ const char *helpText()
     return "usage: rui-events [OPTIONS] DIRECTORY\n"
            "       rui-events --stats [--json] DIRECTORY\n"
            "       rui-events send --to URL DIRECTORY\n"
+           "       rui-events export --otlp FILE DIRECTORY\n"
            "       rui-events purge DIRECTORY\n"
            "\n"
            "Prints the usage events that are stored in a configuration directory, oldest first.\n"
            "\n"
-           "  --json           one JSON object a line, with every detail\n"
-           "  --csv            comma-separated values with a header line\n"
-           "  --raw            category, tab, name, tab and the very bytes of the text\n"
-           "  --follow         go on with new events until interrupted\n"
-           "  --category TEXT  only events of this category\n"
-           "  --name TEXT      only events of this name\n"
-           "  --since TIME     only events from this UTC time on, as 2026-11-20T18:30:00\n"
-           "  --until TIME     only events before this UTC time\n"
-           "  --stats          counts: pending, delivered, lost by reason, and by event\n"
-           "  send --to URL    deliver what waits now, as in https://collector.example.com\n"
-           "  purge            delete every event; an opt-out that waits for delivery stays\n"
-           "  --help           this text\n"
-           "  --version        the version\n";
+           "  --json              one JSON object a line, with every detail\n"
+           "  --csv               comma-separated values with a header line\n"
+           "  --raw               category, tab, name, tab and the very bytes of the text\n"
+           "  --follow            go on with new events until interrupted\n"
+           "  --category TEXT     only events of this category\n"
+           "  --name TEXT         only events of this name\n"
+           "  --since TIME        only events from this UTC time on, as 2026-11-20T18:30:00\n"
+           "  --until TIME        only events before this UTC time\n"
+           "  --stats             counts: pending, delivered, lost by reason, and by event\n"
+           "  send --to URL       deliver what waits now, as in https://collector.example.com\n"
+           "  export --otlp FILE  write what waits to a new file instead, one request a line\n"
+           "  purge               delete every event; an opt-out that waits for delivery stays\n"
+           "  --help              this text\n"
+           "  --version           the version\n";
 }
 
 } // namespace rui::tool

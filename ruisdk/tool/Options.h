@@ -11,7 +11,7 @@
 namespace rui::tool {
 
 enum class Format { Table, Json, Csv, Raw };
-enum class Command { List, Statistics, Send, Purge, Help, Version };
+enum class Command { List, Statistics, Send, Export, Purge, Help, Version };
 
 struct Options
 {
@@ -21,6 +21,8 @@ struct Options
     RecordFilter filter;
     // Where "send" delivers to.
     std::string server;
+    // The file that "export" writes.
+    std::string output;
     std::string directory;
 };
 

@@ -14,7 +14,8 @@ std::string jsonOf(const Statistics &statistics)
 {
     JsonWriter json;
     json.beginObject().key("pending").integer(statistics.pending);
-    json.key("delivered").integer(statistics.delivered).key("lost").beginObject();
+    json.key("delivered").integer(statistics.delivered);
+    json.key("exported").integer(statistics.exported).key("lost").beginObject();
     for (const Statistics::LossCount &loss : statistics.losses) {
         json.key(loss.reason).integer(loss.count);
     }
@@ -22,7 +23,8 @@ std::string jsonOf(const Statistics &statistics)
     for (const Statistics::EventCount &event : statistics.events) {
         json.beginObject().key("category").string(event.category).key("name").string(event.name);
         json.key("pending").integer(event.pending);
-        json.key("delivered").integer(event.delivered).endObject();
+        json.key("delivered").integer(event.delivered);
+        json.key("exported").integer(event.exported).endObject();
     }
     return json.endArray().endObject().text();
 }
@@ -32,6 +34,7 @@ void printTables(const Statistics &statistics, std::ostream &out)
     TextTable totals;
     totals.add({"pending", std::to_string(statistics.pending)});
     totals.add({"delivered", std::to_string(statistics.delivered)});
+    totals.add({"exported", std::to_string(statistics.exported)});
     totals.add({"lost", std::to_string(statistics.lost)});
     for (const Statistics::LossCount &loss : statistics.losses) {
         totals.add({"  " + loss.reason, std::to_string(loss.count)});
@@ -39,10 +42,10 @@ void printTables(const Statistics &statistics, std::ostream &out)
     totals.write(out);
     out << '\n';
     TextTable events;
-    events.add({"CATEGORY", "NAME", "PENDING", "DELIVERED"});
+    events.add({"CATEGORY", "NAME", "PENDING", "DELIVERED", "EXPORTED"});
     for (const Statistics::EventCount &event : statistics.events) {
         events.add({printable(event.category), printable(event.name), std::to_string(event.pending),
-                    std::to_string(event.delivered)});
+                    std::to_string(event.delivered), std::to_string(event.exported)});
     }
     events.write(out);
 }

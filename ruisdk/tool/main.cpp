@@ -57,6 +57,9 @@ void run(const Options &options)
     case Command::Send:
         sendNow(options, std::cout);
         return;
+    case Command::Export:
+        handOverTo(options, std::cout);
+        return;
     case Command::Purge:
         purgeAll(options, std::cout);
         return;

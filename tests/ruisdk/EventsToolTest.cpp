@@ -193,8 +193,9 @@ TEST_F(EventsTool, HelpNamesEveryOption)
 {
     const Outcome outcome = run({"--help"});
     EXPECT_EQ(outcome.status, 0);
-    for (const char *option : {"--json", "--csv", "--raw", "--follow", "--category", "--name",
-                               "--since", "--until", "--help", "--version"}) {
+    for (const char *option :
+         {"--json", "--csv", "--raw", "--follow", "--category", "--name", "--since", "--until",
+          "--stats", "send --to", "export --otlp", "purge", "--help", "--version"}) {
         EXPECT_NE(outcome.output.find(option), std::string::npos) << option;
     }
 }

@@ -50,16 +50,17 @@ TEST_F(ToolCommands, StatisticsCountByStateReasonAndEvent)
     session.track(std::string(2000000, 'x'));
     EXPECT_EQ(run({"--stats"}).output, "pending      4\n"
                                        "delivered    2\n"
+                                       "exported     0\n"
                                        "lost         1\n"
                                        "  eventSize  1\n"
                                        "\n"
-                                       "CATEGORY  NAME    PENDING  DELIVERED\n"
-                                       "Camera    Closed  1        2\n"
-                                       "Camera    Opened  3        0\n");
+                                       "CATEGORY  NAME    PENDING  DELIVERED  EXPORTED\n"
+                                       "Camera    Closed  1        2          0\n"
+                                       "Camera    Opened  3        0          0\n");
     EXPECT_EQ(run({"--stats", "--json"}).output,
-              R"({"pending":4,"delivered":2,"lost":{"eventSize":1},"events":[)"
-              R"({"category":"Camera","name":"Closed","pending":1,"delivered":2},)"
-              R"({"category":"Camera","name":"Opened","pending":3,"delivered":0}]})"
+              R"({"pending":4,"delivered":2,"exported":0,"lost":{"eventSize":1},"events":[)"
+              R"({"category":"Camera","name":"Closed","pending":1,"delivered":2,"exported":0},)"
+              R"({"category":"Camera","name":"Opened","pending":3,"delivered":0,"exported":0}]})"
               "\n");
 }
 

@@ -105,14 +105,15 @@ const Resource &Outbox::resource(std::int64_t id)
     return m_resources[id] = resourceOf(query);
 }
 
-Batch Outbox::read(const std::string &sql, std::size_t maxRecords, std::size_t maxBytes)
+Batch Outbox::read(const std::string &sql, std::size_t maxRecords, std::size_t maxBytes,
+                   std::int64_t after)
 {
     // The number of a retired description may have been given to another one since.
     m_resources.clear();
     Batch batch;
     OtlpPayload payload;
     Statement query = m_database.prepare(sql);
-    query.bind(1, static_cast<std::int64_t>(maxRecords));
+    query.bind(1, static_cast<std::int64_t>(maxRecords)).bind(2, after);
     while (query.step()) {
         const Record record = recordOf(query);
         if (!payload.add(record, resource(record.resource), maxBytes)) {
@@ -126,19 +127,20 @@ Batch Outbox::read(const std::string &sql, std::size_t maxRecords, std::size_t m
     return batch;
 }
 
-Batch Outbox::next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t now)
+Batch Outbox::next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t now,
+                   std::int64_t after)
 {
     Batch batch = read(std::string(columns)
-                           + " FROM notice WHERE kind = 'optOut'"
+                           + " FROM notice WHERE kind = 'optOut' AND seq > ?2"
                              " ORDER BY seq LIMIT ?1",
-                       maxRecords, maxBytes);
+                       maxRecords, maxBytes, after);
     batch.isOptOut = !batch.seqs.empty();
     if (!batch.isOptOut) {
         noteLosses(now);
         batch = read(std::string(columns)
-                         + " FROM (SELECT * FROM record WHERE state = 'pending')"
+                         + " FROM (SELECT * FROM record WHERE state = 'pending' AND seq > ?2)"
                            " ORDER BY seq LIMIT ?1",
-                     maxRecords, maxBytes);
+                     maxRecords, maxBytes, after);
     }
     // After the reading: a withdrawal that was requested before is either in the batch or seen
     // here.
@@ -168,17 +170,17 @@ void Outbox::noteLosses(std::int64_t now)
     }
 }
 
-void Outbox::keepDelivered(const Batch &batch, std::int64_t now)
+void Outbox::keepDelivered(const Batch &batch, std::int64_t now, bool exported)
 {
     const std::string copy =
         "INSERT INTO delivered(seq, delivered, size, time, uid, resource, category, name,"
-        " session, text, run) SELECT seq, ?2, coalesce(length(CAST(text AS BLOB)), 0), time, uid,"
-        " resource, category, name, session, text, run FROM ";
+        " session, text, run, exported) SELECT seq, ?2, coalesce(length(CAST(text AS BLOB)), 0),"
+        " time, uid, resource, category, name, session, text, run, ?4 FROM ";
     Statement event = m_database.prepare(copy + "event WHERE seq = ?1");
     Statement notice = m_database.prepare(copy + "notice WHERE seq = ?1");
     for (const std::int64_t seq : batch.seqs) {
-        event.bind(1, seq).bind(2, now).run();
-        notice.bind(1, seq).bind(2, now).run();
+        event.bind(1, seq).bind(2, now).bind(4, exported ? 1 : 0).run();
+        notice.bind(1, seq).bind(2, now).bind(4, exported ? 1 : 0).run();
     }
 }
 
@@ -194,6 +196,11 @@ void Outbox::trimDelivered()
         m_limits.deliveredBytes);
 }
 
+void Outbox::clearSchedule()
+{
+    m_database.execute("UPDATE state SET not_before = 0, failures = 0");
+}
+
 // Returns how many events were still there.
 std::int64_t Outbox::remove(const Batch &batch)
 {
@@ -205,15 +212,14 @@ std::int64_t Outbox::remove(const Batch &batch)
         events += sqlite3_changes(m_database.handle());
         notice.bind(1, seq).run();
     }
-    run(m_database, "UPDATE state SET floor = max(floor, ?1), not_before = 0, failures = 0",
-        batch.seqs.back());
+    run(m_database, "UPDATE state SET floor = max(floor, ?1)", batch.seqs.back());
     return events;
 }
 
 void Outbox::settle(const Batch &batch, std::int64_t rejected, std::int64_t now)
 {
     Transaction transaction(m_database);
-    keepDelivered(batch, now);
+    keepDelivered(batch, now, false);
     const std::int64_t events = remove(batch);
     trimDelivered();
     if (batch.isOptOut) {
@@ -224,6 +230,20 @@ void Outbox::settle(const Batch &batch, std::int64_t rejected, std::int64_t now)
         addLoss(m_database, LossReason::PartlyRejected, refused);
     }
     run(m_database, "UPDATE state SET delivered = delivered + ?1", events - refused);
+    clearSchedule();
+    transaction.commit();
+}
+
+void Outbox::settleExported(const Batch &batch, std::int64_t now)
+{
+    Transaction transaction(m_database);
+    keepDelivered(batch, now, true);
+    const std::int64_t events = remove(batch);
+    trimDelivered();
+    if (batch.isOptOut) {
+        forgetRetiredClients(m_database);
+    }
+    run(m_database, "UPDATE state SET exported = exported + ?1", events);
     transaction.commit();
 }
 
@@ -237,6 +257,7 @@ void Outbox::drop(const Batch &batch, LossReason reason)
     if (events > 0) {
         addLoss(m_database, reason, events);
     }
+    clearSchedule();
     transaction.commit();
 }
 

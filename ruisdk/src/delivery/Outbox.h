@@ -33,10 +33,15 @@ class Outbox
 public:
     Outbox(Database &database, Limits limits);
 
-    // Fewer seqs than asked for when the payload would become too long, at least one when
-    // anything waits. Losses that were not told yet join a batch of events. Throws Failure with
-    // RUI_OPTED_OUT while a withdrawal of consent is not carried out: nothing may be sent.
-    Batch next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t now);
+    // The oldest records above `after`. Fewer seqs than asked for when the payload would become too
+    // long, at least one when anything waits. Losses that were not told yet join a batch of events.
+    // Throws as requireConsent() does.
+    Batch next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t now,
+               std::int64_t after = 0);
+
+    // Throws Failure with RUI_OPTED_OUT while a withdrawal of consent is not carried out: nothing
+    // may leave this machine.
+    void requireConsent();
 
     bool hasRecords() const;
     bool hasOptOut() const;
@@ -48,16 +53,20 @@ public:
     // The batch arrived, but for so many of its records. Clears the schedule.
     void settle(const Batch &batch, std::int64_t rejected, std::int64_t now);
 
+    // The batch was handed over in a file, which says nothing about the server: the schedule stays.
+    void settleExported(const Batch &batch, std::int64_t now);
+
     // The batch will never arrive: its events are counted as lost. Clears the schedule.
     void drop(const Batch &batch, LossReason reason);
 
 private:
-    void requireConsent();
-    Batch read(const std::string &sql, std::size_t maxRecords, std::size_t maxBytes);
+    Batch read(const std::string &sql, std::size_t maxRecords, std::size_t maxBytes,
+               std::int64_t after);
     const Resource &resource(std::int64_t id);
     void noteLosses(std::int64_t now);
-    void keepDelivered(const Batch &batch, std::int64_t now);
+    void keepDelivered(const Batch &batch, std::int64_t now, bool exported);
     void trimDelivered();
+    void clearSchedule();
     std::int64_t remove(const Batch &batch);
 
     Database &m_database;

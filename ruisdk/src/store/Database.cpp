@@ -77,6 +77,12 @@ std::int64_t Database::integer(std::string_view sql) const
     return statement.step() ? statement.integer(0) : 0;
 }
 
+bool Database::hasColumn(std::string_view table, std::string_view column) const
+{
+    Statement query = prepare("SELECT 1 FROM pragma_table_info(?1) WHERE name = ?2");
+    return query.bind(1, table).bind(2, column).step();
+}
+
 // SQLite can tell, too, but takes every failure to look for a proof.
 bool Database::hasMoved() const
 {

@@ -54,6 +54,9 @@ public:
     // The first column of the first row; 0 when there is no row.
     std::int64_t integer(std::string_view sql) const;
 
+    // A database of an earlier version lacks some; a reader does not bring it to the newest one.
+    bool hasColumn(std::string_view table, std::string_view column) const;
+
     // True when the file was removed from its path or another one stands there now. False also
     // when that cannot be told.
     bool hasMoved() const;

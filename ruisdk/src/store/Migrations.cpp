@@ -50,9 +50,23 @@ constexpr const char *rememberWithdrawals =
     "ALTER TABLE state ADD COLUMN withdrawn TEXT;"
     "ALTER TABLE state ADD COLUMN erase INTEGER NOT NULL DEFAULT 0;";
 
+// exported: in delivered, 1 for what was handed over in a file; in state, how many events were
+constexpr const char *keepTheHandOver =
+    "ALTER TABLE delivered ADD COLUMN exported INTEGER NOT NULL DEFAULT 0;"
+    "ALTER TABLE state ADD COLUMN exported INTEGER NOT NULL DEFAULT 0;"
+    "DROP VIEW record;"
+    "CREATE VIEW record AS"
+    " SELECT seq, 'pending' AS state, time, uid, resource, category, name, session, text, run"
+    " FROM event UNION ALL"
+    " SELECT seq, 'pending', time, uid, resource, category, name, session, text, run"
+    " FROM notice UNION ALL"
+    " SELECT seq, iif(exported, 'exported', 'delivered'), time, uid, resource, category, name,"
+    " session, text, run FROM delivered;";
+
 // Each leads from one version to the next; the first one to version 2. What stands here has run
 // on users' machines: add to its end only.
-constexpr std::array migrations = {countWhatIsGone, keepTheRun, rememberWithdrawals};
+constexpr std::array migrations = {countWhatIsGone, keepTheRun, rememberWithdrawals,
+                                   keepTheHandOver};
 
 constexpr std::int64_t firstVersion = 1;
 

@@ -76,17 +76,10 @@ Database requireDatabase(const StorePaths &paths)
     return std::move(*database);
 }
 
-// A database of an earlier version, which a reader does not change, has none.
-bool hasRuns(const Database &database)
-{
-    return database.integer("SELECT count(*) FROM pragma_table_info('record') WHERE name = 'run'")
-           != 0;
-}
-
 std::string querySql(const Database &database, const RecordFilter &filter)
 {
     std::string sql = "SELECT seq, state, time, uid, resource, category, name, session, text, ";
-    sql += hasRuns(database) ? "run" : "'' AS run";
+    sql += database.hasColumn("record", "run") ? "run" : "'' AS run";
     sql += " FROM record WHERE seq > ?1";
     sql += filter.category ? " AND category = ?2" : "";
     sql += filter.name ? " AND name = ?3" : "";

@@ -26,7 +26,7 @@ struct RecordFilter
 struct Record
 {
     std::int64_t seq = 0;
-    std::string state; // "pending" or "delivered"
+    std::string state; // "pending", "delivered", or "exported": handed over in a file
     std::int64_t time = 0;
     std::string uid;
     std::int64_t resource = 0;

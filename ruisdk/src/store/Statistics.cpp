@@ -21,11 +21,12 @@ std::vector<Statistics::EventCount> readEvents(const Database &database)
     std::vector<Statistics::EventCount> events;
     Statement query =
         database.prepare("SELECT category, name, count(*) FILTER (WHERE state = 'pending'),"
-                         " count(*) FILTER (WHERE state = 'delivered') FROM record"
+                         " count(*) FILTER (WHERE state = 'delivered'),"
+                         " count(*) FILTER (WHERE state = 'exported') FROM record"
                          " GROUP BY category, name ORDER BY category, name");
     while (query.step()) {
         events.push_back({std::string(query.text(0)), std::string(query.text(1)), query.integer(2),
-                          query.integer(3)});
+                          query.integer(3), query.integer(4)});
     }
     return events;
 }
@@ -37,6 +38,9 @@ Statistics readStatistics(const Database &database)
     Statistics statistics;
     statistics.pending = database.integer("SELECT count(*) FROM record WHERE state = 'pending'");
     statistics.delivered = database.integer("SELECT delivered FROM state");
+    statistics.exported = database.hasColumn("state", "exported")
+                              ? database.integer("SELECT exported FROM state")
+                              : 0;
     statistics.losses = readLosses(database);
     for (const Statistics::LossCount &loss : statistics.losses) {
         statistics.lost += loss.count;

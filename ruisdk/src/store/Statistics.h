@@ -19,6 +19,7 @@ struct Statistics
         std::string name;
         std::int64_t pending = 0;
         std::int64_t delivered = 0;
+        std::int64_t exported = 0;
     };
     struct LossCount
     {
@@ -29,6 +30,7 @@ struct Statistics
     std::int64_t pending = 0;
     // Since the beginning; only the last of them are still stored.
     std::int64_t delivered = 0;
+    std::int64_t exported = 0; // handed over in a file; since the beginning, likewise
     std::int64_t lost = 0;
     std::vector<LossCount> losses;  // by reason
     std::vector<EventCount> events; // of what is stored, by category and name
