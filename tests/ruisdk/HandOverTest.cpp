@@ -2,17 +2,20 @@
 // SPDX-License-Identifier: MIT
 //
 // rui-events export: what waits, in a file instead of a request.
+#include "delivery/HandOver.h"
+
 #include "Child.h"
+#include "core/Failure.h"
 #include "ReceivedRecords.h"
 #include "Session.h"
 #include "store/FileLock.h"
-#include "store/StorePaths.h"
+#include "store/StoreOpening.h"
 #include "StoredRecords.h"
 #include "TemporaryDirectory.h"
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <functional>
 #include <sstream>
 
 namespace {
@@ -208,6 +211,51 @@ TEST_F(HandOver, OfAWithdrawnDirectoryIsRefused)
     EXPECT_EQ(filesBeside(), 0U);
     EXPECT_EQ(query(m_path, "SELECT state, name FROM record"),
               (std::vector<Row>{{"pending", "OptOut"}}));
+}
+
+// What the clock is asked for stands between two batches.
+class WithdrawingClock : public rui::Clock
+{
+public:
+    explicit WithdrawingClock(std::function<void()> withdraw)
+        : m_withdraw(std::move(withdraw))
+    {}
+
+    std::int64_t now() const override
+    {
+        ++m_calls;
+        if (m_calls == 2) {
+            m_withdraw();
+        }
+        return rui::systemClock().now();
+    }
+
+private:
+    const std::function<void()> m_withdraw;
+    mutable int m_calls = 0;
+};
+
+TEST_F(HandOver, DuringWhichConsentIsWithdrawnLeavesNoFile)
+{
+    for (const bool isGivenAnew : {false, true}) {
+        track(150);
+        const WithdrawingClock clock([&] {
+            optOut();
+            if (isGivenAnew) {
+                track(1, "new");
+            }
+        });
+        const rui::StorePaths paths(m_path);
+        rui::Database database =
+            openStore(paths, {}, std::make_shared<rui::BusyLimit>(std::chrono::seconds(5)));
+        try {
+            handOver(database, paths, m_file, clock, {}, {});
+            ADD_FAILURE() << "was handed over";
+        } catch (const rui::Failure &failure) {
+            EXPECT_EQ(failure.result(), RUI_OPTED_OUT);
+        }
+        EXPECT_EQ(filesBeside(), 0U);
+    }
 }
 
 TEST_F(HandOver, AfterANewConsentBeginsWithTheWithdrawalOfTheEarlierOne)
