@@ -41,7 +41,9 @@ double deliver(const std::string &directory, const TestServer &server)
     const StorePaths paths(directory);
     Database database = openStore(paths, {}, std::make_shared<BusyLimit>(std::chrono::seconds(5)));
     CurlTransport transport(parseServerAddress(server.url()), {});
-    Sender sender(database, paths.senderLock(), transport, systemClock(), {}, {}, randomJitter);
+    SenderMemory memory;
+    Sender sender(database, paths.senderLock(), transport, systemClock(), {}, {}, randomJitter,
+                  memory);
     while (sender.stepNow().kind == Step::Kind::Progress) {
     }
     return seconds(start);

@@ -27,7 +27,7 @@ void sendAll(const Options &options, Sender &sender, std::ostream &out)
         if (step.kind == Step::Kind::OtherSends) {
             failWith(options, sender, "another process is sending, try again later");
         }
-        if (step.kind == Step::Kind::Failed) {
+        if (step.kind == Step::Kind::Failed || step.kind == Step::Kind::NoLock) {
             failWith(options, sender, step.reason);
         }
         sent += step.records;
@@ -48,7 +48,9 @@ void sendNow(const Options &options, std::ostream &out)
     Database database =
         openStore(paths, opening, std::make_shared<BusyLimit>(limits.callBusyLimit));
     CurlTransport transport(parseServerAddress(options.server), {});
-    Sender sender(database, paths.senderLock(), transport, systemClock(), limits, {}, randomJitter);
+    SenderMemory memory;
+    Sender sender(database, paths.senderLock(), transport, systemClock(), limits, {}, randomJitter,
+                  memory);
     sendAll(options, sender, out);
 }
 

@@ -46,7 +46,7 @@ Sender &DeliveryFixture::sender()
             openStore(paths, {}, std::make_shared<BusyLimit>(std::chrono::seconds(5))));
         m_transport.emplace(parseServerAddress(m_server.url()), m_deliveryLimits);
         m_sender.emplace(*m_database, paths.senderLock(), *m_transport, m_clock, m_limits,
-                         m_deliveryLimits, [] { return 0.5; });
+                         m_deliveryLimits, m_jitter, m_memory);
     }
     return *m_sender;
 }

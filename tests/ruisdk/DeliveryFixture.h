@@ -20,7 +20,7 @@ namespace rui::test {
 constexpr std::int64_t startTime = 1795199937000000000;
 
 // A directory with a session, a scripted server and a sender whose clock stands still and whose
-// jitter is always one half.
+// jitter is always one half, unless a test sets another one.
 class DeliveryFixture : public testing::Test
 {
 protected:
@@ -46,10 +46,12 @@ protected:
     SetClock m_clock;
     Limits m_limits;
     DeliveryLimits m_deliveryLimits;
+    Jitter m_jitter = [] { return 0.5; };
     TestServer m_server;
     std::optional<Store> m_store;
     std::optional<Database> m_database;
     std::optional<CurlTransport> m_transport;
+    SenderMemory m_memory;
     std::optional<Sender> m_sender;
 };
 

@@ -71,24 +71,31 @@ TEST_F(LossRecord, IsRepeatedUnchangedUntilItArrives)
 TEST_F(LossRecord, ThatIsRefusedIsCountedAgainAndToldWithTheNextEvent)
 {
     loseTwo();
-    m_server.add({400, {}, {}, Manner::Reply});
-    EXPECT_EQ(deliver().kind, Step::Kind::Idle);
-    EXPECT_EQ(counters(), (Rows{{"maxEvents", "2", "0"}, {"rejected", "1", "0"}}));
+    for (const int status : {400, 200, 400, 400, 400}) {
+        m_server.add({status, {}, {}, Manner::Reply});
+    }
+    EXPECT_EQ(deliver().kind, Step::Kind::Failed);
     track("4");
+    m_clock.time += 3600 * nanosecondsPerSecond;
+    EXPECT_EQ(deliver().kind, Step::Kind::Idle);
+    EXPECT_EQ(counters(), (Rows{{"maxEvents", "2", "0"}}));
+    track("5");
     deliver();
-    EXPECT_EQ(sentTexts()[1], (std::vector<std::string>{
-                                  "4", R"({"EventCategory":"ruiSDK","EventName":"EventsLost",)"
-                                       R"("maxEvents":2,"rejected":1})"}));
+    EXPECT_EQ(sentTexts().back(),
+              (std::vector<std::string>{
+                  "5", R"({"EventCategory":"ruiSDK","EventName":"EventsLost","maxEvents":2})"}));
 }
 
-TEST_F(LossRecord, ServerThatRefusesEverythingIsAskedOnceForEachBatch)
+TEST_F(LossRecord, ServerThatRefusesEverythingIsNotToldOfEachRefusal)
 {
     loseTwo();
-    for (int i = 0; i < 3; ++i) {
-        m_server.add({400, {}, {}, Manner::Reply});
+    m_server.setRule([](const Request &) { return Answer{400, {}, {}, Manner::Reply}; });
+    for (int hour = 0; hour < 10; ++hour) {
+        EXPECT_EQ(deliver().kind, Step::Kind::Failed);
+        m_clock.time += 3600 * nanosecondsPerSecond;
     }
-    EXPECT_EQ(deliver().kind, Step::Kind::Idle);
-    EXPECT_EQ(m_server.requests().size(), 1U);
+    EXPECT_EQ(counters(), (Rows{{"maxEvents", "0", "2"}}));
+    EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM notice"), "1");
 }
 
 TEST_F(LossRecord, IsNeverPushedOut)

@@ -150,58 +150,6 @@ INSTANTIATE_TEST_SUITE_P(
         Temporary{"RetryAfterThatIsRubbish", {503, "Retry-After: soon\r\n", {}, Manner::Reply}}),
     [](const auto &row) { return std::string(row.param.rule); });
 
-class RefusedForGood : public Sending, public testing::WithParamInterface<int>
-{};
-
-TEST_P(RefusedForGood, DropsAndCountsAndDoesNotTryAgain)
-{
-    track("1");
-    track("2");
-    m_server.add({GetParam(), {}, {}, Manner::Reply});
-    EXPECT_EQ(deliver().kind, Step::Kind::Idle);
-    EXPECT_EQ(m_server.requests().size(), 1U);
-    EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM record"), "0");
-    EXPECT_EQ(losses(), (Rows{{"rejected", "2"}}));
-}
-
-INSTANTIATE_TEST_SUITE_P(Statuses, RefusedForGood,
-                         testing::Values(400, 401, 403, 404, 405, 415, 422, 499, 500, 501, 505));
-
-struct After
-{
-    const char *rule;
-    const char *header;
-    double seconds;
-};
-
-class RetryAfter : public Sending, public testing::WithParamInterface<After>
-{};
-
-TEST_P(RetryAfter, IsKeptToExactly)
-{
-    track("kept");
-    for (const int status : {429, 503}) {
-        m_server.add(
-            {status, std::string("Retry-After: ") + GetParam().header + "\r\n", {}, Manner::Reply});
-        EXPECT_EQ(deliver().kind, Step::Kind::Failed);
-        EXPECT_EQ(secondsUntilNextTry(), GetParam().seconds);
-        m_clock.time = startTime;
-        change(m_path, "UPDATE state SET not_before = 0, failures = 0");
-    }
-    EXPECT_EQ(pendingTexts(), Texts{"kept"});
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Forms, RetryAfter,
-    testing::Values(After{"Seconds", "120", 120}, After{"ZeroSecondsIsTheOrdinaryWait", "0", 0.5},
-                    After{"Date", "Fri, 20 Nov 2026 18:40:57 GMT", 120},
-                    After{"DateThatHasPassedIsTheOrdinaryWait", "Fri, 20 Nov 2026 18:00:00 GMT",
-                          0.5},
-                    After{"MoreSecondsThanADay", "90000", 86400},
-                    After{"DateAfterADay", "Mon, 23 Nov 2026 18:40:57 GMT", 86400},
-                    After{"MoreSecondsThanANumberHolds", "99999999999999999999999", 86400}),
-    [](const auto &row) { return std::string(row.param.rule); });
-
 TEST_F(Sending, ScheduleIsKeptAcrossARestart)
 {
     track("kept");
@@ -222,30 +170,6 @@ TEST_F(Sending, ScheduleOfAClockThatWasSetBackIsForgotten)
     m_clock.time = startTime - 365 * 86400 * nanosecondsPerSecond;
     EXPECT_EQ(deliver().kind, Step::Kind::Idle);
     EXPECT_EQ(deliveredTexts(), Texts{"kept"});
-}
-
-TEST_F(Sending, TooLargeRequestIsHalvedUntilItPasses)
-{
-    for (const char *text : {"1", "2", "3", "4", "5"}) {
-        track(text);
-    }
-    m_server.add({413, {}, {}, Manner::Reply});
-    m_server.add({413, {}, {}, Manner::Reply});
-    EXPECT_EQ(deliver().kind, Step::Kind::Idle);
-    EXPECT_EQ(sentTexts(),
-              (Requests{{"1", "2", "3", "4", "5"}, {"1", "2"}, {"1"}, {"2", "3"}, {"4", "5"}}));
-    EXPECT_EQ(losses(), Rows{});
-}
-
-TEST_F(Sending, SingleEventThatIsTooLargeIsDroppedAndCounted)
-{
-    track("1");
-    track("2");
-    m_server.add({413, {}, {}, Manner::Reply});
-    m_server.add({413, {}, {}, Manner::Reply});
-    deliver();
-    EXPECT_EQ(deliveredTexts().front(), "2");
-    EXPECT_EQ(losses(), (Rows{{"requestSize", "1"}}));
 }
 
 struct PartialAnswer

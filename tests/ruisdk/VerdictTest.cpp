@@ -32,7 +32,7 @@ struct Rule
 class VerdictOfStatus : public testing::TestWithParam<Rule>
 {};
 
-TEST_P(VerdictOfStatus, FollowsTheStandard)
+TEST_P(VerdictOfStatus, IsWhatItSaysOfTheRecords)
 {
     for (int status = GetParam().first; status <= GetParam().last; ++status) {
         if (GetParam().except.count(status) == 0) {
@@ -48,13 +48,13 @@ INSTANTIATE_TEST_SUITE_P(
         Rule{"InformationIsTriedAgain", 100, 199, {}, Kind::Retry},
         Rule{"SuccessIsADelivery", 200, 299, {}, Kind::Delivered},
         Rule{"RedirectIsTriedAgain", 300, 399, {}, Kind::Retry},
-        Rule{"RequestThatTookTooLongIsRefused", 408, 408, {}, Kind::Refused},
-        Rule{"TooLargeIsSplit", 413, 413, {}, Kind::Split},
+        Rule{"BadRequestSpeaksOfARecord", 400, 400, {}, Kind::Malformed},
+        Rule{"TooLargeSpeaksOfTheRecords", 413, 413, {}, Kind::TooLarge},
         Rule{"TooManyRequestsIsTriedAgain", 429, 429, {}, Kind::Retry},
-        Rule{"OtherMistakesOfTheClientAreRefused", 400, 499, {413, 429}, Kind::Refused},
-        Rule{"InternalErrorIsRefused", 500, 500, {}, Kind::Refused},
+        Rule{"OtherMistakesOfTheClientSpeakOfThePlace", 401, 499, {413, 429}, Kind::WrongPlace},
+        Rule{"InternalErrorSpeaksOfThePlace", 500, 500, {}, Kind::WrongPlace},
         Rule{"BadGatewayUnavailableAndTimeoutAreTriedAgain", 502, 504, {}, Kind::Retry},
-        Rule{"OtherErrorsOfTheServerAreRefused", 500, 599, {502, 503, 504}, Kind::Refused}),
+        Rule{"OtherErrorsOfTheServerSpeakOfThePlace", 500, 599, {502, 503, 504}, Kind::WrongPlace}),
     [](const auto &row) { return std::string(row.param.words); });
 
 } // namespace

@@ -13,8 +13,15 @@ using Jitter = std::function<double()>;
 double randomJitter();
 
 // How long to wait after so many failures in a row (1 is the first): a random time between nothing
-// and firstBackoff * 2^(failures - 1), which grows up to maxBackoff.
-std::chrono::nanoseconds backoffAfter(std::int64_t failures, const DeliveryLimits &limits,
-                                      const Jitter &jitter);
+// and the first limit * 2^(failures - 1), which grows up to the last limit.
+std::chrono::nanoseconds waitAfterFailures(std::int64_t failures, const Backoff &backoff,
+                                           const Jitter &jitter);
+
+// How long to wait when the server has asked for a pause: never less, and a random share more.
+std::chrono::nanoseconds waitWhenAsked(std::chrono::nanoseconds pause, const DeliveryLimits &limits,
+                                       const Jitter &jitter);
+
+// No wait is longer.
+std::chrono::nanoseconds longestWait(const DeliveryLimits &limits);
 
 } // namespace rui

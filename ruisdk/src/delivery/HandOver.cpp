@@ -54,14 +54,14 @@ std::vector<Batch> writeAll(std::optional<NewFile> &out, const std::string &file
     std::int64_t last = 0;
     while (true) {
         Batch batch = outbox.next(limits.batchRecords, limits.batchBytes, clock.now(), last);
-        if (batch.seqs.empty()) {
+        if (batch.keys.empty()) {
             return batches;
         }
         if (!out) {
             out.emplace(file);
         }
         out->write(batch.payload + "\n");
-        last = batch.seqs.back();
+        last = batch.keys.back().seq;
         batch.payload = {};
         batches.push_back(std::move(batch));
     }
@@ -99,7 +99,7 @@ HandedOver handOver(Database &database, const StorePaths &paths, const std::stri
     }
     result.requests = batches.size();
     for (const Batch &batch : batches) {
-        result.records += batch.seqs.size();
+        result.records += batch.keys.size();
     }
     return result;
 }

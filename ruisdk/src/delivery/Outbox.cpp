@@ -5,6 +5,7 @@
 #include "core/Failure.h"
 #include "store/Consent.h"
 #include "store/LossRecord.h"
+#include "store/Notices.h"
 #include "store/StorePaths.h"
 
 #include <algorithm>
@@ -119,9 +120,9 @@ Batch Outbox::read(const std::string &sql, std::size_t maxRecords, std::size_t m
         if (!payload.add(record, resource(record.resource), maxBytes)) {
             break;
         }
-        batch.seqs.push_back(record.seq);
+        batch.keys.push_back({record.seq, record.uid});
     }
-    if (!batch.seqs.empty()) {
+    if (!batch.keys.empty()) {
         batch.payload = payload.finish();
     }
     return batch;
@@ -134,7 +135,7 @@ Batch Outbox::next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t no
                            + " FROM notice WHERE kind = 'optOut' AND seq > ?2"
                              " ORDER BY seq LIMIT ?1",
                        maxRecords, maxBytes, after);
-    batch.isOptOut = !batch.seqs.empty();
+    batch.isOptOut = !batch.keys.empty();
     if (!batch.isOptOut) {
         noteLosses(now);
         batch = read(std::string(columns)
@@ -176,11 +177,13 @@ void Outbox::keepDelivered(const Batch &batch, std::int64_t now, bool exported)
         "INSERT INTO delivered(seq, delivered, size, time, uid, resource, category, name,"
         " session, text, run, exported) SELECT seq, ?2, coalesce(length(CAST(text AS BLOB)), 0),"
         " time, uid, resource, category, name, session, text, run, ?4 FROM ";
-    Statement event = m_database.prepare(copy + "event WHERE seq = ?1");
-    Statement notice = m_database.prepare(copy + "notice WHERE seq = ?1");
-    for (const std::int64_t seq : batch.seqs) {
-        event.bind(1, seq).bind(2, now).bind(4, exported ? 1 : 0).run();
-        notice.bind(1, seq).bind(2, now).bind(4, exported ? 1 : 0).run();
+    Statement event = m_database.prepare(copy + "event WHERE seq = ?1 AND uid = ?3");
+    Statement notice = m_database.prepare(copy + "notice WHERE seq = ?1 AND uid = ?3");
+    event.bind(4, exported ? 1 : 0);
+    notice.bind(4, exported ? 1 : 0);
+    for (const Batch::Key &key : batch.keys) {
+        event.bind(1, key.seq).bind(2, now).bind(3, key.uid).run();
+        notice.bind(1, key.seq).bind(2, now).bind(3, key.uid).run();
     }
 }
 
@@ -205,14 +208,14 @@ void Outbox::clearSchedule()
 std::int64_t Outbox::remove(const Batch &batch)
 {
     std::int64_t events = 0;
-    Statement event = m_database.prepare("DELETE FROM event WHERE seq = ?1");
-    Statement notice = m_database.prepare("DELETE FROM notice WHERE seq = ?1");
-    for (const std::int64_t seq : batch.seqs) {
-        event.bind(1, seq).run();
+    keepNumbers(m_database);
+    Statement event = m_database.prepare("DELETE FROM event WHERE seq = ?1 AND uid = ?2");
+    Statement notice = m_database.prepare("DELETE FROM notice WHERE seq = ?1 AND uid = ?2");
+    for (const Batch::Key &key : batch.keys) {
+        event.bind(1, key.seq).bind(2, key.uid).run();
         events += sqlite3_changes(m_database.handle());
-        notice.bind(1, seq).run();
+        notice.bind(1, key.seq).bind(2, key.uid).run();
     }
-    run(m_database, "UPDATE state SET floor = max(floor, ?1)", batch.seqs.back());
     return events;
 }
 
@@ -250,8 +253,8 @@ void Outbox::settleExported(const Batch &batch, std::int64_t now)
 void Outbox::drop(const Batch &batch, LossReason reason)
 {
     Transaction transaction(m_database);
-    for (const std::int64_t seq : batch.seqs) {
-        restoreLosses(m_database, seq);
+    for (const Batch::Key &key : batch.keys) {
+        restoreLosses(m_database, key.seq);
     }
     const std::int64_t events = remove(batch);
     if (events > 0) {

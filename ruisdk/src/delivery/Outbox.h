@@ -14,9 +14,16 @@ namespace rui {
 // The records of one request.
 struct Batch
 {
+    // Numbers are given anew in a database that replaces a damaged one; identifiers are not.
+    struct Key
+    {
+        std::int64_t seq = 0;
+        std::string uid;
+    };
+
     // Opt-outs travel alone, before anything else.
     bool isOptOut = false;
-    std::vector<std::int64_t> seqs;
+    std::vector<Key> keys;
     std::string payload;
 };
 
@@ -33,7 +40,7 @@ class Outbox
 public:
     Outbox(Database &database, Limits limits);
 
-    // The oldest records above `after`. Fewer seqs than asked for when the payload would become too
+    // The oldest records above `after`. Fewer than asked for when the payload would become too
     // long, at least one when anything waits. Losses that were not told yet join a batch of events.
     // Throws as requireConsent() does.
     Batch next(std::size_t maxRecords, std::size_t maxBytes, std::int64_t now,

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "delivery/Sender.h"
 
+#include "core/Failure.h"
 #include "delivery/Gzip.h"
 #include "delivery/RetryAfter.h"
 #include "delivery/Verdict.h"
@@ -45,28 +46,29 @@ std::string describeRejected(std::int64_t count)
 
 } // namespace
 
-Sender::Sender(Database &database, const std::string &lockPath, Transport &transport,
-               const Clock &clock, Limits limits, DeliveryLimits deliveryLimits, Jitter jitter)
-    : m_lock(lockPath)
+Sender::Sender(Database &database, std::string lockPath, Transport &transport, const Clock &clock,
+               Limits limits, DeliveryLimits deliveryLimits, Jitter jitter, SenderMemory &memory)
+    : m_lockPath(std::move(lockPath))
     , m_transport(transport)
     , m_clock(clock)
     , m_limits(deliveryLimits)
     , m_jitter(std::move(jitter))
+    , m_memory(memory)
     , m_outbox(database, limits)
     , m_batchRecords(deliveryLimits.batchRecords)
 {}
 
 std::int64_t Sender::dueTime() const
 {
-    const std::int64_t due = m_outbox.schedule().notBefore;
+    const std::int64_t due = std::max(m_outbox.schedule().notBefore, m_memory.schedule.notBefore);
     // Further away than anything schedules: the clock was set back meanwhile.
-    return due > m_clock.now() + m_limits.maxRetryAfter.count() ? 0 : due;
+    return due > m_clock.now() + longestWait(m_limits).count() ? 0 : due;
 }
 
 Step Sender::step()
 {
     const std::int64_t due = dueTime();
-    if (due > m_clock.now() && m_outbox.hasRecords()) {
+    if (due > m_clock.now() && (m_memory.unsettled || m_outbox.hasRecords())) {
         return {Step::Kind::NotDue, due, {}, 0};
     }
     return tryNow(Refused::Dropped);
@@ -79,83 +81,161 @@ Step Sender::stepNow()
 
 Step Sender::tryNow(Refused refused)
 {
-    if (!m_outbox.hasRecords()) {
+    if (!m_memory.unsettled && !m_outbox.hasRecords()) {
         return {};
     }
-    if (!m_lock.tryLock()) {
+    try {
+        if (!m_lock) {
+            m_lock.emplace(m_lockPath);
+        }
+    } catch (const Failure &failure) {
+        postpone();
+        return {Step::Kind::NoLock, m_memory.schedule.notBefore, failure.what(), 0};
+    }
+    if (!m_lock->tryLock()) {
         return {Step::Kind::OtherSends, m_clock.now() + otherSenderWait, {}, 0};
     }
-    const Unlock unlock(m_lock);
-    return send(refused);
+    const Unlock unlock(*m_lock);
+    return work(refused);
+}
+
+Step Sender::work(Refused refused)
+{
+    try {
+        return m_memory.unsettled ? settle(refused, {}) : send(refused);
+    } catch (...) {
+        postpone();
+        throw;
+    }
 }
 
 // Everything is read anew for each try: an opt-out may have come in between.
 Step Sender::send(Refused refused)
 {
-    const Batch batch = m_outbox.next(m_batchRecords, m_limits.batchBytes, m_clock.now());
-    if (batch.seqs.empty()) {
-        return {};
+    Batch batch = m_outbox.next(m_batchRecords, m_limits.batchBytes, m_clock.now(), lastSuspect());
+    if (batch.keys.empty()) {
+        return m_suspects.empty() ? Step{} : holdBack(m_suspects.back().reason, refused);
     }
     const Response response = m_transport.post(gzip(batch.payload));
     if (response.cancelled) {
         return {Step::Kind::Failed, m_clock.now(), "cancelled", 0};
     }
-    return apply(batch, response, refused);
+    return apply(std::move(batch), response, refused);
 }
 
-Step Sender::apply(const Batch &batch, const Response &response, Refused refused)
+Step Sender::apply(Batch batch, const Response &response, Refused refused)
 {
     const Verdict verdict = verdictOf(response);
     switch (verdict.kind) {
     case Verdict::Kind::Delivered:
-        m_outbox.settle(batch, verdict.rejected, m_clock.now());
-        m_batchRecords = std::min(m_limits.batchRecords, m_batchRecords * 2);
-        return {Step::Kind::Progress, 0, describeRejected(verdict.rejected), batch.seqs.size()};
-    case Verdict::Kind::Split:
-        if (batch.seqs.size() > 1) {
-            return split(batch);
-        }
-        break;
-    case Verdict::Kind::Refused:
-        break;
+        m_memory.unsettled = {std::move(batch), verdict.rejected};
+        return settle(refused, describeRejected(verdict.rejected));
     case Verdict::Kind::Retry:
         return retry(response);
+    case Verdict::Kind::WrongPlace:
+        return holdBack(describe(response), refused);
+    case Verdict::Kind::Malformed:
+    case Verdict::Kind::TooLarge:
+        break;
     }
-    if (refused == Refused::Kept) {
-        return {Step::Kind::Failed, m_clock.now(), describe(response), 0};
+    if (batch.keys.size() > 1) {
+        return split(batch, response);
     }
-    const bool isTooLarge = verdict.kind == Verdict::Kind::Split;
-    return refuse(batch, response, isTooLarge ? LossReason::RequestSize : LossReason::Rejected);
+    const bool isTooLarge = verdict.kind == Verdict::Kind::TooLarge;
+    return suspect(std::move(batch), response,
+                   isTooLarge ? LossReason::RequestSize : LossReason::Rejected, refused);
+}
+
+Step Sender::settle(Refused refused, const std::string &reason)
+{
+    const std::size_t records = m_memory.unsettled->batch.keys.size();
+    m_outbox.settle(m_memory.unsettled->batch, m_memory.unsettled->rejected, m_clock.now());
+    m_memory = {};
+    m_refusalsInARow = 0;
+    m_batchRecords = std::min(m_limits.batchRecords, m_batchRecords * 2);
+    if (refused == Refused::Dropped) {
+        dropSuspects();
+    }
+    return {Step::Kind::Progress, 0, reason, records};
 }
 
 Step Sender::retry(const Response &response)
 {
-    Schedule schedule = m_outbox.schedule();
-    ++schedule.failures;
     const auto asked = parseRetryAfter(response.retryAfter, m_clock.now(), m_limits.maxRetryAfter);
     // A time that has passed, be it for a clock that is ahead of the server's, is no leave to ask
     // without a pause.
     const bool isAsked = asked && asked->count() > 0;
-    const auto wait = isAsked ? *asked : backoffAfter(schedule.failures, m_limits, m_jitter);
-    schedule.notBefore = m_clock.now() + wait.count();
-    m_outbox.setSchedule(schedule);
-    return {Step::Kind::Failed, schedule.notBefore, describe(response), 0};
+    return waitFor(isAsked ? waitWhenAsked(*asked, m_limits, m_jitter)
+                           : waitAfterFailures(failuresSoFar() + 1, m_limits.backoff, m_jitter),
+                   describe(response));
 }
 
-Step Sender::split(const Batch &batch)
+// What was refused alone may be taken once the server is mended: it is tried again as well.
+Step Sender::holdBack(std::string reason, Refused refused)
 {
-    m_batchRecords = batch.seqs.size() / 2;
-    return {Step::Kind::Progress, 0, "the server answered 413", 0};
-}
-
-Step Sender::refuse(const Batch &batch, const Response &response, LossReason reason)
-{
-    // The user's withdrawal is never given up.
-    if (batch.isOptOut) {
-        return retry(response);
+    m_suspects.clear();
+    m_refusalsInARow = 0;
+    if (refused == Refused::Kept) {
+        return {Step::Kind::Failed, m_clock.now(), reason, 0};
     }
-    m_outbox.drop(batch, reason);
-    return {Step::Kind::Progress, 0, describe(response), batch.seqs.size()};
+    return waitFor(waitAfterFailures(failuresSoFar() + 1, m_limits.slowBackoff, m_jitter), reason);
+}
+
+Step Sender::waitFor(std::chrono::nanoseconds time, const std::string &reason)
+{
+    const Schedule schedule{m_clock.now() + time.count(), failuresSoFar() + 1};
+    m_outbox.setSchedule(schedule);
+    m_memory.schedule = {};
+    return {Step::Kind::Failed, schedule.notBefore, reason, 0};
+}
+
+Step Sender::split(const Batch &batch, const Response &response)
+{
+    m_batchRecords = batch.keys.size() / 2;
+    return {Step::Kind::Progress, 0, describe(response), 0};
+}
+
+Step Sender::suspect(Batch batch, const Response &response, LossReason loss, Refused refused)
+{
+    batch.payload.clear();
+    m_suspects.push_back({std::move(batch), loss, describe(response)});
+    const std::int64_t doublings = std::clamp<std::int64_t>(failuresSoFar(), 0, 16);
+    const std::size_t allowed =
+        std::min(m_limits.batchRecords, m_limits.refusalsInARow << doublings);
+    if (++m_refusalsInARow >= allowed) {
+        return holdBack(describe(response), refused);
+    }
+    return {Step::Kind::Progress, 0, describe(response), 0};
+}
+
+// The user's withdrawal is never given up; it stays behind what the server takes.
+void Sender::dropSuspects()
+{
+    const auto firstDropped =
+        std::stable_partition(m_suspects.begin(), m_suspects.end(),
+                              [](const Suspect &suspect) { return suspect.batch.isOptOut; });
+    for (auto dropped = firstDropped; dropped != m_suspects.end(); ++dropped) {
+        m_outbox.drop(dropped->batch, dropped->loss);
+    }
+    m_suspects.erase(firstDropped, m_suspects.end());
+}
+
+void Sender::postpone() noexcept
+{
+    Schedule &schedule = m_memory.schedule;
+    ++schedule.failures;
+    const auto wait = waitAfterFailures(schedule.failures, m_limits.backoff, m_jitter);
+    schedule.notBefore = m_clock.now() + wait.count();
+}
+
+std::int64_t Sender::lastSuspect() const
+{
+    return m_suspects.empty() ? 0 : m_suspects.back().batch.keys.back().seq;
+}
+
+std::int64_t Sender::failuresSoFar() const
+{
+    return std::max(m_outbox.schedule().failures, m_memory.schedule.failures);
 }
 
 } // namespace rui

@@ -12,13 +12,16 @@ Verdict verdictOf(const Response &response)
     if (status >= 200 && status < 300) {
         return {Verdict::Kind::Delivered, rejectedRecords(response.body)};
     }
+    if (status == 400) {
+        return {Verdict::Kind::Malformed};
+    }
     if (status == 413) {
-        return {Verdict::Kind::Split};
+        return {Verdict::Kind::TooLarge};
     }
     if (status < 400 || status == 429 || status == 502 || status == 503 || status == 504) {
         return {Verdict::Kind::Retry};
     }
-    return {Verdict::Kind::Refused};
+    return {Verdict::Kind::WrongPlace};
 }
 
 } // namespace rui

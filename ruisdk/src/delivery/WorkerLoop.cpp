@@ -33,12 +33,13 @@ void checkpoint(Database &database)
 // What exists while the database is open.
 struct WorkerLoop::Work
 {
-    Work(const WorkerOptions &options, const std::shared_ptr<BusyLimit> &busyLimit)
+    Work(const WorkerOptions &options, const std::shared_ptr<BusyLimit> &busyLimit,
+         SenderMemory &memory)
         : database(openStore(options.paths, options.opening, busyLimit))
     {
         if (options.transport) {
             sender.emplace(database, options.paths.senderLock(), *options.transport, *options.clock,
-                           options.limits, options.delivery, randomJitter);
+                           options.limits, options.delivery, randomJitter, memory);
         }
     }
 
@@ -71,7 +72,7 @@ void WorkerLoop::run() noexcept
 
 void WorkerLoop::runRounds()
 {
-    Work work(m_options, m_busyLimit);
+    Work work(m_options, m_busyLimit, m_senderMemory);
     do {
         m_sleepTime = m_options.lookEvery;
         if (work.database.hasMoved()) {

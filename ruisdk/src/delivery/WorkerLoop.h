@@ -46,6 +46,7 @@ private:
 
     const WorkerOptions m_options;
     std::shared_ptr<BusyLimit> m_busyLimit;
+    SenderMemory m_senderMemory;
     std::mutex m_mutex;
     std::condition_variable m_wake;
     std::condition_variable m_done;

@@ -12,6 +12,12 @@ std::int64_t nextSequence(const Database &database)
         "SELECT max(floor, coalesce((SELECT max(seq) FROM event), 0)) + 1 FROM state");
 }
 
+void keepNumbers(Database &database)
+{
+    database.execute(
+        "UPDATE state SET floor = max(floor, coalesce((SELECT max(seq) FROM event), 0))");
+}
+
 void addNotice(Database &database, const Notice &notice)
 {
     const bool optOut = notice.kind == NoticeKind::OptOut;

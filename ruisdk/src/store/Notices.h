@@ -25,6 +25,10 @@ struct Notice
 // The number of the next record. Part of the caller's transaction. Throws SqliteError.
 std::int64_t nextSequence(const Database &database);
 
+// Sees to it that the numbers of events that are to be deleted are not given again, even when none
+// is left. Part of the caller's transaction. Throws SqliteError.
+void keepNumbers(Database &database);
+
 // Stores a notice. Part of the caller's transaction. Throws SqliteError.
 void addNotice(Database &database, const Notice &notice);
 

@@ -3,6 +3,7 @@
 #include "store/Quota.h"
 
 #include "store/Losses.h"
+#include "store/Notices.h"
 
 #include <string>
 
@@ -45,10 +46,6 @@ std::int64_t countOlder(const Database &database, std::int64_t time)
     return query.integer(0);
 }
 
-// The numbers of deleted events are not given again, even when none is left.
-constexpr const char *keepFloor =
-    "UPDATE state SET floor = max(floor, coalesce((SELECT max(seq) FROM event), 0))";
-
 } // namespace
 
 Occupancy occupancyOf(const Database &database)
@@ -72,7 +69,7 @@ void enforceQuota(Database &database, const Limits &limits)
     const Occupancy occupancy = occupancyOf(database);
     if (exceeds(occupancy, limits)) {
         const Eviction eviction = planEviction(database, occupancy, limits);
-        database.execute(keepFloor);
+        keepNumbers(database);
         database.prepare("DELETE FROM event WHERE seq <= ?1").bind(1, eviction.last).run();
         count(database, LossReason::MaxEvents, eviction.forNumber);
         count(database, LossReason::MaxBytes, eviction.forSize);
@@ -88,7 +85,7 @@ void dropExpired(Database &database, const Limits &limits, std::int64_t now)
     }
     Transaction transaction(database);
     count(database, LossReason::MaxAge, countOlder(database, oldest));
-    database.execute(keepFloor);
+    keepNumbers(database);
     database.prepare("DELETE FROM event WHERE time < ?1").bind(1, oldest).run();
     transaction.commit();
 }

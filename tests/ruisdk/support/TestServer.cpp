@@ -154,6 +154,12 @@ void TestServer::add(const Answer &answer)
     m_script.push_back(answer);
 }
 
+void TestServer::setRule(Rule rule)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_rule = std::move(rule);
+}
+
 void TestServer::setDown(bool down)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -200,7 +206,7 @@ Answer TestServer::nextAnswer(const Request &request)
     m_requests.push_back(request);
     m_changed.notify_all();
     if (m_script.empty()) {
-        return {};
+        return m_rule ? m_rule(request) : Answer{};
     }
     const Answer answer = m_script.front();
     m_script.pop_front();

@@ -4,6 +4,7 @@
 
 #include <condition_variable>
 #include <deque>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <string>
@@ -35,8 +36,8 @@ struct Request
     std::string body;                           // unpacked
 };
 
-// An HTTP server on the loopback that follows a script, a request an answer, and answers 200 when
-// the script is over. Every connection carries one request.
+// An HTTP server on the loopback that follows a script, a request an answer. When the script is
+// over it answers as the rule says, 200 when there is none. Every connection carries one request.
 class TestServer
 {
 public:
@@ -49,6 +50,8 @@ public:
     std::string url() const;
 
     void add(const Answer &answer);
+    using Rule = std::function<Answer(const Request &)>;
+    void setRule(Rule rule);
     // While it is down, every connection is reset.
     void setDown(bool down);
 
@@ -70,6 +73,7 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     std::deque<Answer> m_script;
+    Rule m_rule;
     std::vector<Request> m_requests;
     std::vector<int> m_hanging;
     bool m_down = false;
