@@ -64,7 +64,7 @@ export async function loadFile(engine, path) {
     if (known > 0) {
         return null;
     }
-    const [[load]] = await engine.rows("SELECT max(load) + 1 FROM loads");
+    const [[load]] = await engine.rows("SELECT toUInt64(toUnixTimestamp64Micro(now64(6)))");
     const enter = (state) => engine.run("INSERT INTO loads (load, file, content, state)"
         + " VALUES ({load:UInt64}, {file:String}, {content:String}, {state:String})",
         { load, file: path, content, state });

@@ -9,6 +9,8 @@ import { UserError } from "./user-error.js";
 const commands = {
     load: () => import("./commands/load.js"),
     ask: () => import("./commands/ask.js"),
+    check: () => import("./commands/check.js"),
+    erase: () => import("./commands/erase.js"),
     list: () => import("./commands/list.js"),
     simulate: () => import("./commands/simulate.js"),
 };

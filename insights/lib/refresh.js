@@ -1,12 +1,18 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
+import { setTimeout } from "node:timers/promises";
+
 import { statementsOf } from "./statements.js";
+import { UserError } from "./user-error.js";
 
 const rollups = ["activity", "runs", "cameras", "features", "values", "streams", "grabs", "failures",
     "losses"];
 
 // So many weeks are rolled up at once, which bounds the memory that it takes.
 const weeksAtOnce = 8;
+
+// What was replaced is removed when it has come to so many parts of tables.
+const partsToSweep = 300;
 
 const millisecondsOfWeek = 7 * 24 * 3600 * 1000;
 
@@ -60,6 +66,7 @@ async function column(engine, sql) {
  * interrupted, and nothing if there is nothing.
  */
 export async function refresh(engine, progress = () => {}) {
+    await endInterrupted(engine);
     await erase(engine);
     for (const weeks of neighbours(await column(engine, "SELECT week FROM weeks_to_roll_up ORDER BY week"))) {
         progress(weeks);
@@ -71,12 +78,46 @@ export async function refresh(engine, progress = () => {}) {
         }
     }
     await dropOld(engine);
+    if ((await replacedParts(engine)) > partsToSweep) {
+        await engine.sweep();
+    }
+}
+
+async function replacedParts(engine) {
+    const [[parts]] = await engine.rows("SELECT count() FROM system.parts"
+        + " WHERE database = currentDatabase() AND NOT active");
+    return parts;
+}
+
+async function endInterrupted(engine) {
+    const [[finished, begun]] = await engine.rows(
+        "SELECT uniqExactIf(load, state != 'begun'), uniqExact(load) FROM loads");
+    if (finished < begun) {
+        await runAll(engine, "steps/interrupted.sql");
+    }
 }
 
 async function erase(engine) {
     const [[count]] = await engine.rows("SELECT count() FROM erasing");
     if (count > 0) {
         await runAll(engine, "steps/erase.sql");
+        await mutationsDone(engine);
+        await engine.run("TRUNCATE TABLE erasing");
+        await engine.sweep();
+    }
+}
+
+async function mutationsDone(engine) {
+    for (;;) {
+        const [[left, reason]] = await engine.rows("SELECT count(), any(latest_fail_reason)"
+            + " FROM system.mutations WHERE database = currentDatabase() AND NOT is_done");
+        if (left === 0) {
+            return;
+        }
+        if (reason !== "") {
+            throw new UserError(`erasing does not go on: ${reason}; mend that and run the command again`);
+        }
+        await setTimeout(20);
     }
 }
 

@@ -17,6 +17,11 @@ CREATE OR REPLACE FUNCTION oldest_week AS () -> toMonday(toDate(now('UTC')) - IN
 -- One way, and of a random number: nobody finds the client from it.
 CREATE OR REPLACE FUNCTION client_hash AS (client) -> SHA256(toString(client));
 
+-- 26 characters of Crockford's base 32 are 130 bits, the first two of them 0: with six more characters
+-- they are 20 whole bytes, of which the last 16 are the number.
+CREATE OR REPLACE FUNCTION ulid_bytes AS (text) -> toFixedString(substring(base32Decode(concat('AAAAAA',
+    translate(text, '0123456789ABCDEFGHJKMNPQRSTVWXYZ', 'ABCDEFGHIJKLMNOPQRSTUVWXYZ234567'))), 5, 16), 16);
+
 CREATE OR REPLACE FUNCTION or_unknown AS (text) -> if(text = '', 'unknown', text);
 
 -- Whether a group goes into "others": `before` are the different clients of all smaller groups,

@@ -3,32 +3,26 @@
 --
 -- What is kept whole, and the books about it. One partition a week (UTC, by its Monday).
 
--- Events that count, whole. Rows of one event are equal, lie in one partition, and become one when
--- parts are merged; until then FINAL makes one of them.
+-- Events that count, whole: what every record has in columns of its own, the rest in the two maps.
+-- Rows of one event are equal, lie in one partition, and become one when parts are merged; until then
+-- FINAL makes one of them. `uid` is the ULID as its 16 bytes, which sort by time.
 CREATE TABLE IF NOT EXISTS usage_logs
 (
+    client UUID CODEC(ZSTD(1)),
+    uid FixedString(16) CODEC(ZSTD(1)),
     Timestamp DateTime64(9, 'UTC') CODEC(Delta, ZSTD(1)),
-    TimestampTime DateTime('UTC') CODEC(Delta, ZSTD(1)),
-    TraceId String CODEC(ZSTD(1)),
-    SpanId String CODEC(ZSTD(1)),
-    TraceFlags UInt8,
-    SeverityText LowCardinality(String),
+    run LowCardinality(String) CODEC(ZSTD(1)),
+    category LowCardinality(String) CODEC(ZSTD(1)),
+    name LowCardinality(String) CODEC(ZSTD(1)),
     SeverityNumber UInt8,
-    ServiceName LowCardinality(String),
-    Body String CODEC(ZSTD(1)),
-    ResourceSchemaUrl LowCardinality(String),
-    ResourceAttributes Map(LowCardinality(String), String) CODEC(ZSTD(1)),
-    ScopeSchemaUrl LowCardinality(String),
-    ScopeName String CODEC(ZSTD(1)),
     ScopeVersion LowCardinality(String),
-    ScopeAttributes Map(LowCardinality(String), String) CODEC(ZSTD(1)),
-    LogAttributes Map(LowCardinality(String), String) CODEC(ZSTD(1)),
-    EventName String CODEC(ZSTD(1))
+    Body String CODEC(ZSTD(3)),
+    ResourceAttributes Map(LowCardinality(String), LowCardinality(String)) CODEC(ZSTD(1)),
+    LogAttributes Map(LowCardinality(String), String) CODEC(ZSTD(1))
 )
 ENGINE = ReplacingMergeTree
 PARTITION BY toMonday(Timestamp)
-ORDER BY (toUUIDOrZero(ResourceAttributes['rui.client.id']), LogAttributes['log.record.uid'])
-SETTINGS index_granularity = 8192, old_parts_lifetime = 1;
+ORDER BY (client, uid);
 
 -- When the first event of a week came, when the last one did, and when its roll-ups were made.
 CREATE TABLE IF NOT EXISTS weeks
@@ -75,8 +69,7 @@ CREATE TABLE IF NOT EXISTS erased (client_hash FixedString(32), day Date)
 ENGINE = MergeTree ORDER BY client_hash;
 
 -- Who is to be erased; empty as soon as that is done.
-CREATE TABLE IF NOT EXISTS erasing (client UUID) ENGINE = MergeTree ORDER BY client
-SETTINGS old_parts_lifetime = 1;
+CREATE TABLE IF NOT EXISTS erasing (client UUID) ENGINE = MergeTree ORDER BY client;
 
 CREATE VIEW IF NOT EXISTS weeks_to_drop AS
 SELECT DISTINCT toDate(partition) AS week FROM system.parts

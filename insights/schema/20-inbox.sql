@@ -74,39 +74,63 @@ FROM
 );
 
 -- Each record with the first reason for which it is kept out, empty for an event that counts.
-CREATE TABLE IF NOT EXISTS judged AS otel_logs ENGINE = Null;
-ALTER TABLE judged ADD COLUMN IF NOT EXISTS reason LowCardinality(String);
+CREATE TABLE IF NOT EXISTS judged
+(
+    load UInt64,
+    reason LowCardinality(String),
+    week Date,
+    client UUID,
+    uid String,
+    Timestamp DateTime64(9, 'UTC'),
+    run String,
+    category LowCardinality(String),
+    name LowCardinality(String),
+    SeverityNumber UInt8,
+    ScopeVersion LowCardinality(String),
+    Body String,
+    ResourceAttributes Map(LowCardinality(String), String),
+    LogAttributes Map(LowCardinality(String), String)
+)
+ENGINE = Null;
 
 CREATE MATERIALIZED VIEW IF NOT EXISTS judge TO judged AS
-WITH
-    ResourceAttributes['rui.client.id'] AS client_text,
-    toUUIDOrZero(client_text) AS client
-SELECT otel_logs.*,
+WITH ResourceAttributes['rui.client.id'] AS client_text
+SELECT Load AS load,
     multiIf(
         ServiceName != 'nerixViewer' OR ScopeName != 'ruiSDK', 'foreign',
         NOT match(client_text, '^[0-9a-fA-F]{8}(-[0-9a-fA-F]{4}){3}-[0-9a-fA-F]{12}$')
-            OR NOT match(LogAttributes['log.record.uid'], '^[0-7][0-9A-HJKMNP-TV-Z]{25}$')
-            OR LogAttributes['rui.event.category'] = '', 'no_identity',
-        LogAttributes['rui.event.category'] = 'ruiSDK'
-            AND LogAttributes['rui.event.name'] = 'OptOut', 'opt_out',
+            OR NOT match(uid, '^[0-7][0-9A-HJKMNP-TV-Z]{25}$') OR category = '', 'no_identity',
+        category = 'ruiSDK' AND name = 'OptOut', 'opt_out',
         length(Body) > longest_text(), 'too_large',
         Timestamp < oldest_time() OR Timestamp > latest_time(), 'absurd_time',
         client_hash(client) IN (SELECT client_hash FROM erased), 'erased',
-        toMonday(Timestamp) < oldest_week()
-            OR toMonday(Timestamp) IN (SELECT week FROM closed_weeks), 'too_late',
-        '') AS reason
+        week < oldest_week() OR week IN (SELECT week FROM closed_weeks), 'too_late',
+        '') AS reason,
+    toMonday(Timestamp) AS week,
+    toUUIDOrZero(client_text) AS client,
+    LogAttributes['log.record.uid'] AS uid,
+    Timestamp,
+    LogAttributes['rui.run.id'] AS run,
+    LogAttributes['rui.event.category'] AS category,
+    LogAttributes['rui.event.name'] AS name,
+    SeverityNumber, ScopeVersion, Body, ResourceAttributes, LogAttributes
 FROM otel_logs;
 
 CREATE MATERIALIZED VIEW IF NOT EXISTS keep_events TO usage_logs AS
-SELECT * EXCEPT (Load, reason) FROM judged WHERE reason = '';
+SELECT client, ulid_bytes(uid) AS uid, Timestamp, run, category, name, SeverityNumber, ScopeVersion,
+    Body, mapFilter((key, value) -> key != 'rui.client.id', ResourceAttributes) AS ResourceAttributes,
+    mapFilter((key, value) -> key NOT IN ('log.record.uid', 'rui.event.category', 'rui.event.name',
+        'rui.run.id', 'rui.session.id') OR (key = 'rui.session.id' AND value != ''),
+        LogAttributes) AS LogAttributes
+FROM judged WHERE reason = '';
 
 CREATE MATERIALIZED VIEW IF NOT EXISTS touch_weeks TO weeks AS
-SELECT toMonday(Timestamp) AS week, toDate(now('UTC')) AS opened, now64(3, 'UTC') AS touched
+SELECT week, toDate(now('UTC')) AS opened, now64(3, 'UTC') AS touched
 FROM judged WHERE reason = ''
 GROUP BY week;
 
 CREATE MATERIALIZED VIEW IF NOT EXISTS count_arrivals TO arrivals AS
-SELECT Load AS load, if(reason = '', 'kept', reason) AS what, count() AS records
+SELECT load, if(reason = '', 'kept', reason) AS what, count() AS records
 FROM judged
 GROUP BY load, what;
 
@@ -118,10 +142,9 @@ GROUP BY load, what;
 
 -- A withdrawal without a believable time is no part of the statistics, but erases.
 CREATE MATERIALIZED VIEW IF NOT EXISTS remember_withdrawals TO erased AS
-SELECT client_hash(toUUIDOrZero(ResourceAttributes['rui.client.id'])) AS client_hash,
+SELECT client_hash(client) AS client_hash,
     if(Timestamp >= oldest_time() AND Timestamp <= latest_time(), toDate(Timestamp), toDate(0)) AS day
 FROM judged WHERE reason = 'opt_out';
 
 CREATE MATERIALIZED VIEW IF NOT EXISTS ask_for_erasure TO erasing AS
-SELECT DISTINCT toUUIDOrZero(ResourceAttributes['rui.client.id']) AS client
-FROM judged WHERE reason = 'opt_out';
+SELECT DISTINCT client FROM judged WHERE reason = 'opt_out';

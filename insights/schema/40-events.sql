@@ -16,20 +16,12 @@ CREATE OR REPLACE FUNCTION stream_features AS (stream) -> arraySort(arrayDistinc
         arraySlice(splitByChar('\n', stream), 2, if(endsWith(stream, '[...cut]'), -1, NULL))))));
 
 CREATE VIEW IF NOT EXISTS events AS
-SELECT
-    toUUIDOrZero(ResourceAttributes['rui.client.id']) AS client,
-    LogAttributes['log.record.uid'] AS uid,
-    Timestamp AS time,
-    toUnixTimestamp64Milli(Timestamp) AS milliseconds,
-    toDate(Timestamp) AS day,
-    toMonday(Timestamp) AS week,
-    LogAttributes['rui.run.id'] AS run,
+SELECT client, uid, Timestamp AS time, toUnixTimestamp64Milli(Timestamp) AS milliseconds,
+    toDate(Timestamp) AS day, toMonday(Timestamp) AS week, run,
     or_unknown(ResourceAttributes['service.version']) AS version,
     ResourceAttributes['rui.product.edition'] AS edition,
     ResourceAttributes['rui.product.language'] AS language,
-    LogAttributes['rui.event.category'] AS category,
-    LogAttributes['rui.event.name'] AS name,
-    Body AS text
+    category, name, Body AS text
 FROM usage_logs FINAL;
 
 -- The text of a grab's end is no JSON: the two inner objects stand at its end, and what is in front

@@ -5,6 +5,9 @@ import { resolve } from "node:path";
 import { UserError } from "../user-error.js";
 import { settings } from "./settings.js";
 
+// A file that is mapped counts as memory of this process, all of it.
+const onlyHere = { storage_file_read_method: "pread" };
+
 async function connect(folder) {
     let chdb;
     try {
@@ -15,7 +18,7 @@ async function connect(folder) {
     try {
         mkdirSync(folder, { recursive: true });
         return new chdb.Session(folder, {
-            connectionArgs: Object.entries(settings).map(([name, value]) => `--${name}=${value}`),
+            connectionArgs: Object.entries({ ...settings, ...onlyHere }).map(([name, value]) => `--${name}=${value}`),
         });
     } catch (error) {
         throw new UserError(`${folder} cannot be used: another nerix-insights works in it`
@@ -59,6 +62,22 @@ export class EmbeddedEngine {
     /** Runs an INSERT that reads lineSource; `path` must have no character with a meaning in globs. */
     async runOnFile(sql, path, parameters) {
         await this.run(sql, { ...parameters, file: path });
+    }
+
+    /**
+     * Removes from the disk what was replaced, merged or erased: this engine leaves its files for ever,
+     * where a server removes them after minutes.
+     */
+    async sweep() {
+        await this.run("DROP TABLE IF EXISTS swept SYNC");
+        const tables = await this.rows("SELECT DISTINCT table FROM system.parts"
+            + " WHERE database = currentDatabase() AND NOT active");
+        for (const [table] of tables) {
+            await this.run(`CREATE TABLE swept AS ${table}`);
+            await this.run(`ALTER TABLE swept ATTACH PARTITION ALL FROM ${table}`);
+            await this.run(`EXCHANGE TABLES swept AND ${table}`);
+            await this.run("DROP TABLE swept SYNC");
+        }
     }
 
     async close() {

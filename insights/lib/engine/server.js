@@ -69,5 +69,8 @@ export class ServerEngine {
         await this.request(`${sql} FORMAT LineAsString`, parameters, createReadStream(path));
     }
 
+    /** The server removes files that are no longer needed by itself (old_parts_lifetime). */
+    async sweep() {}
+
     async close() {}
 }

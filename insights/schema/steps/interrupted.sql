@@ -1,0 +1,8 @@
+-- SPDX-FileCopyrightText: 2026 Ostrand
+-- SPDX-License-Identifier: MIT
+--
+-- A load was interrupted: nobody knows which weeks it has touched.
+INSERT INTO weeks (week, touched) SELECT DISTINCT toMonday(Timestamp), now64(3) FROM usage_logs;
+INSERT INTO loads (load, file, content, state)
+SELECT load, file, content, 'interrupted' FROM loads
+WHERE load NOT IN (SELECT load FROM loads WHERE state != 'begun');
