@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <filesystem>
 
 namespace {
 
@@ -79,6 +80,25 @@ TEST_F(Follow, GoesOnWithADatabaseThatReplacesTheOldOne)
     next.open(m_path);
     next.track("new", "N", "C");
     EXPECT_EQ(nextLine(tool), "C\tN\tnew");
+}
+
+// As with "rui-events DIRECTORY | less": nobody reads on.
+TEST_F(Follow, ThatNobodyReadsDoesNotLetTheJournalGrow)
+{
+    const std::string text(500000, 'x');
+    Session session;
+    session.open(m_path);
+    for (int i = 0; i < 4; ++i) {
+        session.track(text, "N", "C");
+    }
+    Child tool(command());
+    nextLine(tool);
+    for (int i = 0; i < 200; ++i) {
+        session.track(text, "N", "C");
+    }
+    // 100 MB were written; a caller moves the journal from 64 MB on.
+    const auto journal = std::filesystem::file_size(databasePath(m_path) + "-wal");
+    EXPECT_LT(journal, 80U * 1000 * 1000);
 }
 
 TEST_F(Follow, EndsWellWhenItIsInterrupted)

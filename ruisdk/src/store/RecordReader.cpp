@@ -20,6 +20,11 @@ namespace {
 // Reading never waits for a writer; only opening does, for a moment.
 constexpr std::chrono::milliseconds openingLimit{2000};
 
+// What is read at a time. While it is read, writers cannot begin their journal anew: whoever takes
+// the records may take as long as he likes, and must not do so in between.
+constexpr std::size_t pageRecords = 100;
+constexpr std::size_t pageBytes = std::size_t{1024} * 1024;
+
 // Throws what a person can do about the error, if anything is known.
 void explain(const SqliteError &error, const StorePaths &paths)
 {
@@ -85,7 +90,7 @@ std::string querySql(const Database &database, const RecordFilter &filter)
     sql += filter.name ? " AND name = ?3" : "";
     sql += filter.since ? " AND time >= ?4" : "";
     sql += filter.until ? " AND time < ?5" : "";
-    return sql + " ORDER BY seq";
+    return sql + " AND seq <= ?6 ORDER BY seq LIMIT " + std::to_string(pageRecords);
 }
 
 void bindFilter(Statement &query, const RecordFilter &filter)
@@ -135,19 +140,35 @@ std::optional<RecordReader> RecordReader::tryOpen(const StorePaths &paths)
                     : std::nullopt;
 }
 
+std::vector<Record> RecordReader::readPage(const RecordFilter &filter, std::int64_t after,
+                                           std::int64_t last) const
+{
+    std::vector<Record> page;
+    std::size_t bytes = 0;
+    Statement query = m_database.prepare(querySql(m_database, filter));
+    query.bind(1, after).bind(6, last);
+    bindFilter(query, filter);
+    while (bytes < pageBytes && query.step()) {
+        page.push_back(recordOf(query));
+        bytes += page.back().text.value_or("").size();
+    }
+    return page;
+}
+
 std::int64_t RecordReader::read(const RecordFilter &filter, std::int64_t after,
                                 const std::function<void(const Record &)> &take) const
 {
-    std::int64_t last = after;
-    Statement query = m_database.prepare(querySql(m_database, filter));
-    query.bind(1, after);
-    bindFilter(query, filter);
-    while (query.step()) {
-        const Record record = recordOf(query);
-        last = std::max(last, record.seq);
-        take(record);
+    // What is added meanwhile is for the next time: this one has an end.
+    const std::int64_t last = m_database.integer(
+        "SELECT max(floor, coalesce((SELECT max(seq) FROM event), 0)) FROM state");
+    while (true) {
+        const std::vector<Record> page = readPage(filter, after, last);
+        if (page.empty()) {
+            return std::max(after, last);
+        }
+        std::for_each(page.begin(), page.end(), take);
+        after = page.back().seq;
     }
-    return last;
 }
 
 std::int64_t RecordReader::version() const

@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace rui {
 
@@ -47,8 +48,9 @@ public:
     // Nothing when nothing is stored, not even an empty database that is complete.
     static std::optional<RecordReader> tryOpen(const StorePaths &paths);
 
-    // Gives the records whose number is greater than `after`, oldest first; returns the number of
-    // the last one, or `after` when there is none.
+    // Gives the records that are there now and whose number is greater than `after`, oldest first;
+    // returns the highest number that was looked at. `take` may take its time: the database is not
+    // held meanwhile. What is deleted before its turn is left out.
     std::int64_t read(const RecordFilter &filter, std::int64_t after,
                       const std::function<void(const Record &)> &take) const;
 
@@ -64,6 +66,9 @@ public:
     }
 
 private:
+    std::vector<Record> readPage(const RecordFilter &filter, std::int64_t after,
+                                 std::int64_t last) const;
+
     explicit RecordReader(Database database)
         : m_database(std::move(database))
     {}
