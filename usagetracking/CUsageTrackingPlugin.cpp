@@ -8,8 +8,7 @@
 
 #include <Core/Plugin/ServiceLookup.h>
 
-namespace Plugin {
-namespace UsageTracking {
+namespace Plugin::UsageTracking {
 
 using Core::Plugin::IPluginInitializer;
 using Internal::CUsageTrackingProvider;
@@ -63,6 +62,7 @@ void CUsageTrackingPlugin::startTrackingThread()
     connect(&m_trackingThread, &QThread::finished, m_provider,
             &CUsageTrackingProvider::stopTracking);
     connect(&m_trackingThread, &QThread::finished, m_provider, &QObject::deleteLater);
+    m_trackingThread.setObjectName(QStringLiteral("UsageTracking")); // debuggers show it
     m_trackingThread.start(QThread::InheritPriority);
 }
 
@@ -74,5 +74,4 @@ void CUsageTrackingPlugin::addWelcomeTab()
     }
 }
 
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking

@@ -11,13 +11,13 @@
 
 class QAction;
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 class CDataPrivacyTab;
 class CDataPrivacyTabController;
 class CUsageTrackingProvider;
-} // namespace Internal
+} // namespace Plugin::UsageTracking::Internal
+
+namespace Plugin::UsageTracking {
 
 /// The plug-in as the viewer sees it: it keeps the user's answer, offers the "Data Privacy" page
 /// and its entry in the Help menu, and tells the tracking provider when to start and when to stop.
@@ -48,9 +48,6 @@ private Q_SLOTS:
     void onShowDataPrivacyTriggered();
 
 private:
-    /// Lets a test read what the plug-in does not tell anyone.
-    friend struct UsageTrackingPluginProbe;
-
     void startTrackingThread();
     void addWelcomeTab();
     void addHelpMenuEntry();
@@ -61,6 +58,7 @@ private:
     void saveConsent() const;
     void requestTracking(bool active);
 
+protected:
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
     QPointer<Internal::CDataPrivacyTab> m_dataPrivacyTab;
     QSharedPointer<NerixWelcome::INerixWelcomeService> m_welcomeService;
@@ -72,5 +70,4 @@ private:
     bool m_trackingActive = false;
 };
 
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking

@@ -12,8 +12,7 @@
 #include <QSettings>
 #include <QTimer>
 
-namespace Plugin {
-namespace UsageTracking {
+namespace Plugin::UsageTracking {
 
 using Internal::CDataPrivacyTabController;
 using Internal::CUsageTrackingProvider;
@@ -94,5 +93,4 @@ void CUsageTrackingPlugin::requestTracking(bool active)
     m_trackingActive = active;
 }
 
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking

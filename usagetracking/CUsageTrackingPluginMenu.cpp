@@ -16,8 +16,7 @@
 #include <QAction>
 #include <QIcon>
 
-namespace Plugin {
-namespace UsageTracking {
+namespace Plugin::UsageTracking {
 
 void CUsageTrackingPlugin::addHelpMenuEntry()
 {
@@ -48,5 +47,4 @@ void CUsageTrackingPlugin::onShowDataPrivacyTriggered()
     }
 }
 
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking

@@ -3,13 +3,9 @@
 
 #include "AnalyticsConfiguration.h"
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 const char *productId = NERIX_ANALYTICS_PRODUCT_ID;
 const char *serverHost = NERIX_ANALYTICS_SERVER_HOST;
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 /// The ten decimal digits under which the analytics service knows this product, UTF-8. Set when the
 /// plug-in is built (CMake: NERIX_ANALYTICS_PRODUCT_ID); may be pointed at another text that lives
@@ -15,6 +13,4 @@ extern const char *productId;
 /// plug-in is built (CMake: NERIX_ANALYTICS_SERVER_HOST), otherwise as `productId`.
 extern const char *serverHost;
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

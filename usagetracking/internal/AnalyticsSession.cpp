@@ -10,9 +10,7 @@
 #include <QMessageLogger>
 #include <QStandardPaths>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 namespace {
 
@@ -84,6 +82,4 @@ void CUsageTrackingProvider::logWarning(const QString &text) const
     QMessageLogger().warning().noquote() << text;
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

@@ -8,9 +8,7 @@
 
 #include <QQmlContext>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 CDataPrivacyTab::CDataPrivacyTab(QObject *parent)
     : INerixWelcomeTab(parent)
@@ -54,6 +52,4 @@ void CDataPrivacyTab::retranslate()
     }
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

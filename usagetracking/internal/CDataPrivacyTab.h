@@ -4,9 +4,7 @@
 
 #include <Plugin/NerixWelcome/INerixWelcomeTab.h>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 class CDataPrivacyTabController;
 
@@ -35,6 +33,4 @@ private:
     CDataPrivacyTabController *controller = nullptr;
 };
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

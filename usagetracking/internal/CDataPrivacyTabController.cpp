@@ -6,9 +6,7 @@
 #include <CHelpHelper.h>
 #include <DocumentationHelper.h>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 CDataPrivacyTabController::CDataPrivacyTabController(QObject *parent)
     : QObject(parent)
@@ -81,6 +79,4 @@ void CDataPrivacyTabController::onDataPrivacyLinkClicked(QString url)
     }
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

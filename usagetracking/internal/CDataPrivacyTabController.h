@@ -5,9 +5,7 @@
 #include <QObject>
 #include <QString>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 /// The consent as the page shows it and as it is applied. The page binds to the properties by name;
 /// what the user picks there changes nothing for tracking until Apply is pressed. GUI thread; a
@@ -66,6 +64,4 @@ private:
     bool applyEnabled = false;
 };
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

@@ -8,9 +8,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 CLanguageListener::CLanguageListener(std::function<void()> onLanguageChanged, QObject *parent)
     : QObject(parent)
@@ -31,6 +29,4 @@ bool CLanguageListener::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

@@ -6,9 +6,7 @@
 
 #include <QObject>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 /// Calls a function each time the application's catalogues change, so that a text can be set anew
 /// in the language that is in use from then on. GUI thread; ends with its parent.
@@ -24,6 +22,4 @@ private:
     std::function<void()> m_onLanguageChanged;
 };
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

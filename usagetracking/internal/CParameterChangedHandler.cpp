@@ -28,14 +28,13 @@ CParameterChangedHandler::~CParameterChangedHandler() = default;
 
 void CParameterChangedHandler::onParameterValueAboutToBeSet(const QString &newValue)
 {
-    const QJsonObject record{
-        {QStringLiteral("EventCategory"), QStringLiteral("ParameterValueChanged")},
-        {QStringLiteral("EventName"), m_name},
+    const QJsonObject values{
         {QStringLiteral("CameraNr"), m_cameraNumber},
         {QStringLiteral("ParameterName"), m_name},
         {QStringLiteral("InitialValue"), m_lastValue.left(longestValue)},
         {QStringLiteral("ParameterValue"), newValue.left(longestValue)},
     };
     m_lastValue = newValue;
-    Plugin::UsageTracking::Internal::trackRecord(m_sdkInstance, record);
+    Plugin::UsageTracking::Internal::trackEvent(
+        m_sdkInstance, QStringLiteral("ParameterValueChanged"), m_name, values);
 }

@@ -5,9 +5,7 @@
 
 #include <Core/Plugin/ServiceLookup.h>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 using Core::Plugin::findService;
 using Core::Plugin::findServices;
@@ -35,6 +33,4 @@ CUsageTrackingProvider::parametersOf(const DeviceBaseInfoPtr &device) const
                               : ParameterCollectionPtr();
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

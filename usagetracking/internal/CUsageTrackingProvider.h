@@ -18,7 +18,6 @@
 #include <cstdint>
 #include <list>
 
-#include <QHash>
 #include <QJsonObject>
 #include <QMap>
 #include <QObject>
@@ -27,9 +26,7 @@
 #include <QStringList>
 #include <QVector>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 using Core::CameraPoolComponents::CameraInfoPtr;
 using Core::CameraPoolComponents::DeviceBaseInfoPtr;
@@ -94,6 +91,10 @@ private:
     // Subscriptions
     void subscribe();
     void unsubscribe();
+    /// Calls \a visit with sender, signal, slot and connection type of each subscription, in the
+    /// order in which they are made. A service that is missing is left out.
+    template <class Visit>
+    void forEachSubscription(Visit visit);
 
     /// Null if the device has no parameters.
     ParameterCollectionPtr parametersOf(const DeviceBaseInfoPtr &device) const;
@@ -111,8 +112,7 @@ private:
                                 const ICameraInfo &camera);
 
     // Grabs
-    QJsonObject grabRecord(const QString &name, const QString &grabType,
-                           const CameraInfoPtr &camera) const;
+    QJsonObject grabValues(const QString &grabType, const CameraInfoPtr &camera) const;
     QString statusBarStatistics(const ICameraInfo &camera) const;
     QString streamStatistics(const CameraInfoPtr &camera) const;
     /// The value of an integer parameter of \a camera, or -1.
@@ -135,10 +135,6 @@ private:
     QSharedPointer<CameraPool::ICameraStatusService> m_cameraStatusService;
     QSharedPointer<CameraPool::ICameraEnumerationService> m_enumerationService;
     QSharedPointer<ParameterCollectionPool::IParameterService> m_parameterService;
-    /// The position of each of `m_cameraIdentities`: an opening asks for it once a parameter.
-    QHash<QString, int> m_cameraNumbers;
 };
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

@@ -7,25 +7,16 @@
 #include "EventRecord.h"
 #include "ModelLabel.h"
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
-
-namespace {
-
-constexpr int unknownCamera = -1;
-
-} // namespace
+namespace Plugin::UsageTracking::Internal {
 
 int CUsageTrackingProvider::cameraNumber(const ICameraInfo &camera) const
 {
-    return m_cameraNumbers.value(camera.identity(), unknownCamera);
+    return m_cameraIdentities.indexOf(camera.identity());
 }
 
 void CUsageTrackingProvider::rememberIdentity(const QString &identity)
 {
-    if (!m_cameraNumbers.contains(identity)) {
-        m_cameraNumbers.insert(identity, m_cameraIdentities.size());
+    if (!m_cameraIdentities.contains(identity)) {
         m_cameraIdentities.append(identity);
     }
 }
@@ -33,12 +24,9 @@ void CUsageTrackingProvider::rememberIdentity(const QString &identity)
 void CUsageTrackingProvider::sendCameraRecord(const QString &name, const CameraInfoPtr &camera,
                                               const QString &model)
 {
-    trackRecord(m_sdkInstance, {
-                                   {QStringLiteral("EventCategory"), QStringLiteral("Camera")},
-                                   {QStringLiteral("EventName"), name},
-                                   {QStringLiteral("CameraNr"), cameraNumber(*camera)},
-                                   {QStringLiteral("Model"), model},
-                               });
+    trackEvent(
+        m_sdkInstance, QStringLiteral("Camera"), name,
+        {{QStringLiteral("CameraNr"), cameraNumber(*camera)}, {QStringLiteral("Model"), model}});
 }
 
 void CUsageTrackingProvider::onCameraConnected(DeviceBaseInfoPtr ptrDeviceInfo)
@@ -70,24 +58,18 @@ void CUsageTrackingProvider::onDeviceSelectionChanged(
     if (!camera) {
         return;
     }
+    const QString model = modelLabel(camera);
     // Observed and formatted, but on purpose not sent: no such event leaves the plug-in.
-    toRecordText({
-        {QStringLiteral("EventCategory"), QStringLiteral("DeviceChosen")},
-        {QStringLiteral("EventName"), modelLabel(camera)},
-        {QStringLiteral("CameraNr"), cameraNumber(*camera)},
-    });
+    toRecordText(eventRecord(QStringLiteral("DeviceChosen"), model,
+                             {{QStringLiteral("CameraNr"), cameraNumber(*camera)}}));
 }
 
 void CUsageTrackingProvider::onParameterSelectionChanged(
     QSharedPointer<ParameterCollection::IParameter> ptrParameter)
 {
-    trackRecord(m_sdkInstance,
-                {
-                    {QStringLiteral("EventCategory"), QStringLiteral("FeatureChosen")},
-                    {QStringLiteral("EventName"), ptrParameter->name()},
-                });
+    if (ptrParameter) {
+        trackEvent(m_sdkInstance, QStringLiteral("FeatureChosen"), ptrParameter->name());
+    }
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

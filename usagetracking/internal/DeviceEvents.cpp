@@ -7,9 +7,7 @@
 #include "EventRecord.h"
 #include "ModelLabel.h"
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 using ParameterCollection::IParameterCollection;
 
@@ -56,13 +54,10 @@ void CUsageTrackingProvider::sendConfigurationRecord(const QString &name, int nu
                                                      const QString &model,
                                                      const QString &featureStream)
 {
-    trackRecord(m_sdkInstance, {
-                                   {QStringLiteral("EventCategory"), QStringLiteral("Camera")},
-                                   {QStringLiteral("EventName"), name},
-                                   {QStringLiteral("CameraNr"), number},
-                                   {QStringLiteral("Model"), model},
-                                   {QStringLiteral("FeatureStreamStats"), cut(featureStream)},
-                               });
+    trackEvent(m_sdkInstance, QStringLiteral("Camera"), name,
+               {{QStringLiteral("CameraNr"), number},
+                {QStringLiteral("Model"), model},
+                {QStringLiteral("FeatureStreamStats"), cut(featureStream)}});
 }
 
 void CUsageTrackingProvider::onDeviceOpened(DeviceBaseInfoPtr ptrDeviceInfo)
@@ -102,6 +97,4 @@ void CUsageTrackingProvider::onDeviceClosing(DeviceBaseInfoPtr ptrDeviceInfo)
     sendConfigurationRecord(QStringLiteral("Closed"), cameraNumber(*camera), model, featureStream);
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

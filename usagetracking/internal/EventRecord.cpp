@@ -5,9 +5,7 @@
 
 #include <QJsonDocument>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 namespace {
 
@@ -25,6 +23,14 @@ void trackBytes(ruiInstance instance, const QString &category, const QString &na
 
 } // namespace
 
+QJsonObject eventRecord(const QString &category, const QString &name, const QJsonObject &values)
+{
+    QJsonObject record = values;
+    record.insert(QStringLiteral("EventCategory"), category);
+    record.insert(QStringLiteral("EventName"), name);
+    return record;
+}
+
 QString toRecordText(const QJsonObject &record)
 {
     return QString::fromUtf8(serialised(record));
@@ -36,13 +42,11 @@ void trackText(ruiInstance instance, const QString &category, const QString &nam
     trackBytes(instance, category, name, text.toUtf8());
 }
 
-void trackRecord(ruiInstance instance, const QJsonObject &record)
+void trackEvent(ruiInstance instance, const QString &category, const QString &name,
+                const QJsonObject &values)
 {
     // What is serialised is UTF-8 already, so a feature stream is not converted there and back.
-    trackBytes(instance, record.value(QLatin1String("EventCategory")).toString(),
-               record.value(QLatin1String("EventName")).toString(), serialised(record));
+    trackBytes(instance, category, name, serialised(eventRecord(category, name, values)));
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

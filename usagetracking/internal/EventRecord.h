@@ -7,11 +7,14 @@
 #include <QJsonObject>
 #include <QString>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
-/// The record as text: compact JSON, keys in ascending order.
+/// The record of an event: \a values, with \a category and \a name under "EventCategory" and
+/// "EventName".
+QJsonObject eventRecord(const QString &category, const QString &name,
+                        const QJsonObject &values = {});
+
+/// \a record as text: compact JSON, keys in ascending order.
 QString toRecordText(const QJsonObject &record);
 
 /// Hands \a text to the analytics library under \a category and \a name. \a instance may be null:
@@ -19,9 +22,8 @@ QString toRecordText(const QJsonObject &record);
 void trackText(ruiInstance instance, const QString &category, const QString &name,
                const QString &text);
 
-/// Serialises \a record and hands it over under its own "EventCategory" and "EventName".
-void trackRecord(ruiInstance instance, const QJsonObject &record);
+/// Hands the record of \a category, \a name and \a values over under that category and name.
+void trackEvent(ruiInstance instance, const QString &category, const QString &name,
+                const QJsonObject &values = {});
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

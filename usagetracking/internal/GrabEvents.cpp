@@ -9,12 +9,11 @@
 
 #include <ParameterCollection/IParameterCollection.h>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 namespace {
 
+const QString grab = QStringLiteral("Grab");
 const QString acquisitionMode = QStringLiteral("@CameraDevice/AcquisitionMode");
 
 /// \a value without its fraction. What no integer can hold counts as nothing.
@@ -39,13 +38,11 @@ QString modeOrUndefined(const ParameterCollection::IParameterCollection &paramet
 
 } // namespace
 
-QJsonObject CUsageTrackingProvider::grabRecord(const QString &name, const QString &grabType,
+QJsonObject CUsageTrackingProvider::grabValues(const QString &grabType,
                                                const CameraInfoPtr &camera) const
 {
     const QString model = modelLabel(camera);
     return {
-        {QStringLiteral("EventCategory"), QStringLiteral("Grab")},
-        {QStringLiteral("EventName"), name},
         {QStringLiteral("GrabType"), grabType},
         {QStringLiteral("CameraNr"), cameraNumber(*camera)},
         {QStringLiteral("Model"), model},
@@ -63,7 +60,7 @@ void CUsageTrackingProvider::onCameraGrabStarted(
         if (const ParameterCollectionPtr parameters = parametersOf(camera)) {
             // A missing mode throws here and so drops the event.
             const QString mode = parameters->parameter(acquisitionMode)->valueText();
-            trackRecord(m_sdkInstance, grabRecord(QStringLiteral("Started"), mode, camera));
+            trackEvent(m_sdkInstance, grab, QStringLiteral("Started"), grabValues(mode, camera));
         }
     } catch (...) {
         // The event is dropped.
@@ -74,8 +71,10 @@ void CUsageTrackingProvider::onCameraStatisticUpdated(CameraInfoPtr cameraInfo,
                                                       int imagesGrabbedCount, int imagesFailedCount,
                                                       double fps, uint64_t bps)
 {
-    m_grabStatistics.insert(cameraInfo->identity(),
-                            {imagesGrabbedCount, imagesFailedCount, fps, bps});
+    if (cameraInfo) {
+        m_grabStatistics.insert(cameraInfo->identity(),
+                                {imagesGrabbedCount, imagesFailedCount, fps, bps});
+    }
 }
 
 QString CUsageTrackingProvider::statusBarStatistics(const ICameraInfo &camera) const
@@ -105,18 +104,17 @@ void CUsageTrackingProvider::onCameraGrabStopped(DeviceBaseInfoPtr ptrDeviceInfo
     const QString streamStats = streamStatistics(camera);
     const QString statusBarStats = statusBarStatistics(*camera);
 
-    QJsonObject record = grabRecord(QStringLiteral("Stopped"), mode, camera);
-    record.insert(QStringLiteral("StatusBarStats"), statusBarStats);
-    record.insert(QStringLiteral("StreamStats"), streamStats);
+    const QString stopped = QStringLiteral("Stopped");
+    QJsonObject values = grabValues(mode, camera);
+    values.insert(QStringLiteral("StatusBarStats"), statusBarStats);
+    values.insert(QStringLiteral("StreamStats"), streamStats);
     // The two inner records lose the backslashes that escape their quotes, on purpose: the
     // analytics side reads them as bare objects inside quotes.
-    QString text = toRecordText(record);
+    QString text = toRecordText(eventRecord(grab, stopped, values));
     text.remove(QLatin1Char('\\'));
-    trackText(m_sdkInstance, QStringLiteral("Grab"), QStringLiteral("Stopped"), text);
+    trackText(m_sdkInstance, grab, stopped, text);
 
     reportFailures(*camera, camera->identity());
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

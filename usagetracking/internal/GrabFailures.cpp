@@ -9,9 +9,7 @@
 
 #include <ParameterCollection/IParameterCollection.h>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 namespace {
 
@@ -67,7 +65,7 @@ void CUsageTrackingProvider::onCameraImageGrabFailed(
     Core::CameraPoolComponents::CameraInfoPtr ptrCameraInfo,
     const Nerix::CGrabResultPtr &grabResult)
 {
-    if (grabResult->GrabSucceeded()) {
+    if (!ptrCameraInfo || !grabResult || grabResult->GrabSucceeded()) {
         return;
     }
     GrabFailures &failures = m_grabFailures[ptrCameraInfo->identity()];
@@ -82,23 +80,15 @@ void CUsageTrackingProvider::onCameraImageGrabFailed(
 
 void CUsageTrackingProvider::reportFailures(const ICameraInfo &camera, const QString &identity)
 {
-    const auto failures = m_grabFailures.constFind(identity);
-    if (failures == m_grabFailures.constEnd()) {
-        return;
+    const GrabFailures failures = m_grabFailures.value(identity);
+    for (const auto &[code, failure] : failures) {
+        trackEvent(m_sdkInstance, QStringLiteral("Grab"), QStringLiteral("Failed"),
+                   {{QStringLiteral("CameraNr"), cameraNumber(camera)},
+                    {QStringLiteral("ExceptionCode"), hexadecimal(code)},
+                    {QStringLiteral("ExceptionCount"), failure.count},
+                    {QStringLiteral("ExceptionText"), failure.text}});
     }
-    for (const auto &[code, failure] : *failures) {
-        trackRecord(m_sdkInstance, {
-                                       {QStringLiteral("EventCategory"), QStringLiteral("Grab")},
-                                       {QStringLiteral("EventName"), QStringLiteral("Failed")},
-                                       {QStringLiteral("CameraNr"), cameraNumber(camera)},
-                                       {QStringLiteral("ExceptionCode"), hexadecimal(code)},
-                                       {QStringLiteral("ExceptionCount"), failure.count},
-                                       {QStringLiteral("ExceptionText"), failure.text},
-                                   });
-    }
-    m_grabFailures.remove(identity);
+    m_grabFailures.remove(identity); // kept for a later stop if the report breaks off
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

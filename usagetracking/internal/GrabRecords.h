@@ -8,9 +8,7 @@
 #include <QString>
 #include <QtGlobal>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 /// The figures that the viewer last showed in its status bar for a camera. All zero before the
 /// first.
@@ -33,6 +31,4 @@ struct GrabFailure
 /// The failures of one camera by error code.
 using GrabFailures = std::unordered_map<std::uint32_t, GrabFailure>;
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

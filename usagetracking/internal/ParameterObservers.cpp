@@ -10,9 +10,7 @@
 #include <QDebug>
 #include <QMetaMethod>
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 using ParameterCollection::IParameter;
 
@@ -72,6 +70,4 @@ void CUsageTrackingProvider::attachParameterHandler(const QSharedPointer<IParame
     }
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

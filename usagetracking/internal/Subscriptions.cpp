@@ -5,9 +5,7 @@
 
 #include "CUsageTrackingProvider.h"
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 using CameraPool::ICameraEnumerationService;
 using CameraPool::ICameraStatusService;
@@ -16,62 +14,49 @@ using CameraSelector::IDeviceSelectorService;
 using FeatureTree::IFeatureTreeStatusService;
 using Provider = CUsageTrackingProvider;
 
+template <class Visit>
+void CUsageTrackingProvider::forEachSubscription(Visit visit)
+{
+    const auto listen = [&](const auto &service, auto signal, auto slot,
+                            Qt::ConnectionType type = Qt::AutoConnection) {
+        if (service) {
+            visit(service.data(), signal, slot, type);
+        }
+    };
+    for (const auto &featureTree : qAsConst(m_featureTreeServices)) {
+        listen(featureTree, &IFeatureTreeStatusService::currentChanged,
+               &Provider::onParameterSelectionChanged);
+    }
+    listen(m_deviceSelectorService, &IDeviceSelectorService::selectionChanged,
+           &Provider::onDeviceSelectionChanged);
+    const auto &cameras = m_cameraStatusService;
+    listen(cameras, &ICameraStatusService::deviceConnected, &Provider::onCameraConnected);
+    listen(cameras, &ICameraStatusService::deviceDisconnected, &Provider::onCameraDisconnected);
+    listen(m_enumerationService, &ICameraEnumerationService::enumerationChanged,
+           &Provider::onEnumerationChanged);
+    listen(cameras, &IDeviceStatusService::deviceOpened, &Provider::onDeviceOpened);
+    // The device is closed when this slot has returned, so that it can still be read.
+    listen(cameras, &IDeviceStatusService::deviceClosing, &Provider::onDeviceClosing,
+           Qt::BlockingQueuedConnection);
+    listen(cameras, &ICameraStatusService::cameraGrabStarted, &Provider::onCameraGrabStarted);
+    listen(cameras, &ICameraStatusService::cameraGrabStopped, &Provider::onCameraGrabStopped);
+    listen(cameras, &ICameraStatusService::cameraImageGrabbed, &Provider::onCameraImageGrabFailed);
+    listen(cameras, &ICameraStatusService::cameraStatisticUpdated,
+           &Provider::onCameraStatisticUpdated);
+}
+
 void CUsageTrackingProvider::subscribe()
 {
-    for (const auto &featureTree : qAsConst(m_featureTreeServices)) {
-        connect(featureTree.data(), &IFeatureTreeStatusService::currentChanged, this,
-                &Provider::onParameterSelectionChanged);
-    }
-    connect(m_deviceSelectorService.data(), &IDeviceSelectorService::selectionChanged, this,
-            &Provider::onDeviceSelectionChanged);
-
-    const ICameraStatusService *cameras = m_cameraStatusService.data();
-    connect(cameras, &ICameraStatusService::deviceConnected, this, &Provider::onCameraConnected);
-    connect(cameras, &ICameraStatusService::deviceDisconnected, this,
-            &Provider::onCameraDisconnected);
-    connect(m_enumerationService.data(), &ICameraEnumerationService::enumerationChanged, this,
-            &Provider::onEnumerationChanged);
-    connect(cameras, &IDeviceStatusService::deviceOpened, this, &Provider::onDeviceOpened);
-    // The device is closed when this slot has returned, so that it can still be read.
-    connect(cameras, &IDeviceStatusService::deviceClosing, this, &Provider::onDeviceClosing,
-            Qt::BlockingQueuedConnection);
-    connect(cameras, &ICameraStatusService::cameraGrabStarted, this,
-            &Provider::onCameraGrabStarted);
-    connect(cameras, &ICameraStatusService::cameraGrabStopped, this,
-            &Provider::onCameraGrabStopped);
-    connect(cameras, &ICameraStatusService::cameraImageGrabbed, this,
-            &Provider::onCameraImageGrabFailed);
-    connect(cameras, &ICameraStatusService::cameraStatisticUpdated, this,
-            &Provider::onCameraStatisticUpdated);
+    forEachSubscription([this](auto *sender, auto signal, auto slot, Qt::ConnectionType type) {
+        connect(sender, signal, this, slot, type);
+    });
 }
 
 void CUsageTrackingProvider::unsubscribe()
 {
-    for (const auto &featureTree : qAsConst(m_featureTreeServices)) {
-        disconnect(featureTree.data(), &IFeatureTreeStatusService::currentChanged, this,
-                   &Provider::onParameterSelectionChanged);
-    }
-    disconnect(m_deviceSelectorService.data(), &IDeviceSelectorService::selectionChanged, this,
-               &Provider::onDeviceSelectionChanged);
-
-    const ICameraStatusService *cameras = m_cameraStatusService.data();
-    disconnect(cameras, &ICameraStatusService::deviceConnected, this, &Provider::onCameraConnected);
-    disconnect(cameras, &ICameraStatusService::deviceDisconnected, this,
-               &Provider::onCameraDisconnected);
-    disconnect(m_enumerationService.data(), &ICameraEnumerationService::enumerationChanged, this,
-               &Provider::onEnumerationChanged);
-    disconnect(cameras, &IDeviceStatusService::deviceOpened, this, &Provider::onDeviceOpened);
-    disconnect(cameras, &IDeviceStatusService::deviceClosing, this, &Provider::onDeviceClosing);
-    disconnect(cameras, &ICameraStatusService::cameraGrabStarted, this,
-               &Provider::onCameraGrabStarted);
-    disconnect(cameras, &ICameraStatusService::cameraGrabStopped, this,
-               &Provider::onCameraGrabStopped);
-    disconnect(cameras, &ICameraStatusService::cameraImageGrabbed, this,
-               &Provider::onCameraImageGrabFailed);
-    disconnect(cameras, &ICameraStatusService::cameraStatisticUpdated, this,
-               &Provider::onCameraStatisticUpdated);
+    forEachSubscription([this](auto *sender, auto signal, auto slot, Qt::ConnectionType) {
+        disconnect(sender, signal, this, slot);
+    });
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

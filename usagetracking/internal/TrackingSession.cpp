@@ -6,19 +6,11 @@
 #include "CUsageTrackingProvider.h"
 #include "EventRecord.h"
 
-namespace Plugin {
-namespace UsageTracking {
-namespace Internal {
+namespace Plugin::UsageTracking::Internal {
 
 namespace {
 
-QJsonObject sessionRecord(const QString &name)
-{
-    return {
-        {QStringLiteral("EventCategory"), QStringLiteral("GeneralEvent")},
-        {QStringLiteral("EventName"), name},
-    };
-}
+const QString generalEvent = QStringLiteral("GeneralEvent");
 
 } // namespace
 
@@ -33,7 +25,7 @@ void CUsageTrackingProvider::startTracking()
         subscribe();
     }
     // Sent without an instance too: the library answers that with a code.
-    trackRecord(m_sdkInstance, sessionRecord(QStringLiteral("SessionStarted")));
+    trackEvent(m_sdkInstance, generalEvent, QStringLiteral("SessionStarted"));
 }
 
 void CUsageTrackingProvider::stopTracking()
@@ -41,10 +33,9 @@ void CUsageTrackingProvider::stopTracking()
     if (!m_sdkInstance) {
         return;
     }
-    QJsonObject record = sessionRecord(QStringLiteral("SessionEnded"));
-    record.insert(QStringLiteral("FinalCameraCount"), m_cameraCount);
-    record.insert(QStringLiteral("TotalUsedCameraCount"), m_cameraIdentities.size());
-    trackRecord(m_sdkInstance, record);
+    trackEvent(m_sdkInstance, generalEvent, QStringLiteral("SessionEnded"),
+               {{QStringLiteral("FinalCameraCount"), m_cameraCount},
+                {QStringLiteral("TotalUsedCameraCount"), m_cameraIdentities.size()}});
     ruiStopSDK(m_sdkInstance, 0);
     discardInstance();
     unsubscribe();
@@ -54,19 +45,17 @@ void CUsageTrackingProvider::stopTracking()
 void CUsageTrackingProvider::onEnumerationChanged()
 {
     // Once a session; the next start subscribes again.
-    const bool first = disconnect(m_enumerationService.data(),
-                                  &CameraPool::ICameraEnumerationService::enumerationChanged, this,
-                                  &CUsageTrackingProvider::onEnumerationChanged);
+    const bool first = m_enumerationService
+                       && disconnect(m_enumerationService.data(),
+                                     &CameraPool::ICameraEnumerationService::enumerationChanged,
+                                     this, &CUsageTrackingProvider::onEnumerationChanged);
     // Changes that were queued before the signal was disconnected still come here.
     const bool alreadySent = m_sdkInstance && !first;
     if (alreadySent) {
         return;
     }
-    QJsonObject record = sessionRecord(QStringLiteral("InitialCameraCount"));
-    record.insert(QStringLiteral("InitialCameraCount"), m_cameraCount);
-    trackRecord(m_sdkInstance, record);
+    trackEvent(m_sdkInstance, generalEvent, QStringLiteral("InitialCameraCount"),
+               {{QStringLiteral("InitialCameraCount"), m_cameraCount}});
 }
 
-} // namespace Internal
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking::Internal

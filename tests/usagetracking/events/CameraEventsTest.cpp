@@ -146,6 +146,14 @@ private Q_SLOTS:
         QCOMPARE(cameraCount(f), QStringLiteral("2"));
     }
 
+    void selectionOfNoParameterIsDropped()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        QCOMPARE(f.callsFor([&] { Q_EMIT f.host.featureTree->currentChanged({}); }), QStringList());
+        QCOMPARE(CatchingApplication::takeCaught(), QStringList());
+    }
+
     void theCounterChangesBeforeAnythingElse()
     {
         TrackingFixture f;

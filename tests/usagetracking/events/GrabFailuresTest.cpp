@@ -334,6 +334,17 @@ private Q_SLOTS:
         QCOMPARE(reported(f, camera), QStringList());
     }
 
+    void nullCameraAndNullResultAreDropped()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        const auto camera = connectCamera(f);
+        QCOMPARE(grab(f, camera, {CGrabResultPtr()}), QStringList());
+        QCOMPARE(grab(f, CameraInfoPtr(), {failure(1, "."), success()}), QStringList());
+        QCOMPARE(reported(f, camera), QStringList());
+        QCOMPARE(CatchingApplication::takeCaught(), QStringList());
+    }
+
     void failuresAndUnreadableCountersAreNotLogged()
     {
         TrackingFixture f;

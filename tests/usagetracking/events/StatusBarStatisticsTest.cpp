@@ -213,6 +213,17 @@ private Q_SLOTS:
                          noCounters));
     }
 
+    void updateOfNoCameraIsDropped()
+    {
+        TrackingFixture f;
+        f.startQuietly();
+        QCOMPARE(f.callsFor([&] {
+            Q_EMIT f.host.cameraStatus->cameraStatisticUpdated({}, 1, 2, 3.0, 4, {});
+        }),
+                 QStringList());
+        QCOMPARE(CatchingApplication::takeCaught(), QStringList());
+    }
+
     void updateNumbersNoCamera()
     {
         TrackingFixture f;

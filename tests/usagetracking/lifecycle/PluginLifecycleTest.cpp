@@ -70,6 +70,7 @@ private Q_SLOTS:
         QThread &thread = Probe::trackingThread(*f.plugin);
         QVERIFY(thread.isRunning());
         QCOMPARE(thread.priority(), QThread::InheritPriority);
+        QCOMPARE(thread.objectName(), QStringLiteral("UsageTracking"));
         QCOMPARE(Probe::provider(*f.plugin)->thread(), &thread);
     }
 

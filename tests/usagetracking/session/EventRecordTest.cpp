@@ -57,11 +57,11 @@ private Q_SLOTS:
 
     void recordIsDispatchedUnderItsOwnCategoryAndNameWithAnEmptyFifthArgument()
     {
-        trackRecord(reinterpret_cast<ruiInstance>(5),
-                    {{"EventName", "Opened"}, {"EventCategory", "Camera"}});
-        QCOMPARE(RecordingAnalytics::instance().calls(),
-                 QStringList{"ruiTrackEventText(#5 | Camera | Opened | "
-                             R"({"EventCategory":"Camera","EventName":"Opened"} | ))"});
+        trackEvent(reinterpret_cast<ruiInstance>(5), "Camera", "Opened", {{"CameraNr", 3}});
+        QCOMPARE(
+            RecordingAnalytics::instance().calls(),
+            QStringList{"ruiTrackEventText(#5 | Camera | Opened | "
+                        R"({"CameraNr":3,"EventCategory":"Camera","EventName":"Opened"} | ))"});
     }
 
     void textIsPassedAsUtf8()

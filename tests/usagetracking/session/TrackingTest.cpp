@@ -3,6 +3,7 @@
 
 // What is heard while tracking, and the events of a session.
 
+#include "MessageLog.h"
 #include "TestMain.h"
 #include "TrackingFixture.h"
 
@@ -187,6 +188,7 @@ private Q_SLOTS:
         f.host.removeService(f.host.enumeration);
         f.host.removeService(f.host.parameterService);
         f.inTrackingThread([&] { QVERIFY(!f.provider->acquireServices(&f.host)); });
+        const MessageLog log;
         f.startQuietly();
         const auto camera = f.host.makeCamera("A");
         QCOMPARE(f.callsFor([&] { Q_EMIT f.host.cameraStatus->deviceConnected(camera); }).size(),
@@ -198,6 +200,8 @@ private Q_SLOTS:
             Q_EMIT f.host.cameraStatus->deviceClosing(camera);
         }),
                  QStringList());
+        f.stop();
+        QCOMPARE(log.texts(), QStringList());
     }
 
     void missingCameraStatusLeavesTheSessionAndTheOtherSubscriptions()

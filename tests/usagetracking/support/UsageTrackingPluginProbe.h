@@ -7,37 +7,36 @@
 #include "internal/CDataPrivacyTabController.h"
 #include "internal/CUsageTrackingProvider.h"
 
-namespace Plugin {
-namespace UsageTracking {
+namespace Plugin::UsageTracking {
 
-/// Reads what the plug-in tells nobody.
-struct UsageTrackingPluginProbe
+/// Reads of a plug-in what is there for its subclasses only.
+struct UsageTrackingPluginProbe : CUsageTrackingPlugin
 {
     static bool trackingActive(const CUsageTrackingPlugin &plugin)
     {
-        return plugin.m_trackingActive;
+        return plugin.*&UsageTrackingPluginProbe::m_trackingActive;
     }
 
     static QThread &trackingThread(CUsageTrackingPlugin &plugin)
     {
-        return plugin.m_trackingThread;
+        return plugin.*&UsageTrackingPluginProbe::m_trackingThread;
     }
 
     static QObject *provider(const CUsageTrackingPlugin &plugin)
     {
-        return plugin.m_provider;
+        return plugin.*&UsageTrackingPluginProbe::m_provider;
     }
 
     static Internal::CDataPrivacyTab *tab(const CUsageTrackingPlugin &plugin)
     {
-        return plugin.m_dataPrivacyTab;
+        return plugin.*&UsageTrackingPluginProbe::m_dataPrivacyTab;
     }
 
     static Internal::CDataPrivacyTabController *controller(const CUsageTrackingPlugin &plugin)
     {
-        return plugin.controller();
+        const Internal::CDataPrivacyTab *page = tab(plugin);
+        return page ? page->dataPrivacyController() : nullptr;
     }
 };
 
-} // namespace UsageTracking
-} // namespace Plugin
+} // namespace Plugin::UsageTracking
