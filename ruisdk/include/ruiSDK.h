@@ -163,3 +163,5 @@ RUI_API const char *ruiResultText(int32_t result);
 #ifdef __cplusplus
 }
 #endif
+
+#include "ruiSDKOptions.h" /* IWYU pragma: export */

@@ -10,10 +10,31 @@ namespace rui::tool {
 
 namespace {
 
+void writeOptional(JsonWriter &json, const char *key, const std::optional<std::string> &text)
+{
+    json.key(key);
+    if (text) {
+        json.string(*text);
+    } else {
+        json.null();
+    }
+}
+
+std::string shownServer(const Statistics &statistics)
+{
+    if (!statistics.server) {
+        return "not known yet";
+    }
+    return statistics.server->empty() ? "none: nothing is sent" : printable(*statistics.server);
+}
+
 std::string jsonOf(const Statistics &statistics)
 {
     JsonWriter json;
-    json.beginObject().key("pending").integer(statistics.pending);
+    json.beginObject();
+    writeOptional(json, "client", statistics.client);
+    writeOptional(json, "server", statistics.server);
+    json.key("pending").integer(statistics.pending);
     json.key("delivered").integer(statistics.delivered);
     json.key("exported").integer(statistics.exported).key("lost").beginObject();
     for (const Statistics::LossCount &loss : statistics.losses) {
@@ -32,6 +53,8 @@ std::string jsonOf(const Statistics &statistics)
 void printTables(const Statistics &statistics, std::ostream &out)
 {
     TextTable totals;
+    totals.add({"client", printable(statistics.client.value_or("none"))});
+    totals.add({"server", shownServer(statistics)});
     totals.add({"pending", std::to_string(statistics.pending)});
     totals.add({"delivered", std::to_string(statistics.delivered)});
     totals.add({"exported", std::to_string(statistics.exported)});

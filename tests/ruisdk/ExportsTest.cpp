@@ -19,10 +19,11 @@ TEST(Exports, AreTheFunctionsOfTheHeaderAndNothingElse)
     for (std::string line; lines >> line;) {
         names.insert(line);
     }
-    EXPECT_EQ(names, (std::set<std::string>{"ruiCreateConfig", "ruiCreateInstance",
-                                            "ruiDestroyInstance", "ruiOptOut", "ruiResultText",
-                                            "ruiSetProductData", "ruiStartSDK", "ruiStopSDK",
-                                            "ruiTrackEvent", "ruiTrackEventText"}));
+    EXPECT_EQ(names,
+              (std::set<std::string>{"ruiCreateConfig", "ruiCreateInstance", "ruiDestroyInstance",
+                                     "ruiGetClientId", "ruiOptOut", "ruiResultText",
+                                     "ruiSetProductData", "ruiStartSDK", "ruiStopSDK",
+                                     "ruiTrackEvent", "ruiTrackEventText", "ruiVersion"}));
 }
 
 } // namespace

@@ -48,7 +48,10 @@ TEST_F(ToolCommands, StatisticsCountByStateReasonAndEvent)
     Session session;
     session.open(m_path);
     session.track(std::string(2000000, 'x'));
-    EXPECT_EQ(run({"--stats"}).output, "pending      4\n"
+    change(m_path, "UPDATE state SET client = 'f81d4fae-7dec-41d0-a765-00a0c91e6bf6'");
+    EXPECT_EQ(run({"--stats"}).output, "client       f81d4fae-7dec-41d0-a765-00a0c91e6bf6\n"
+                                       "server       none: nothing is sent\n"
+                                       "pending      4\n"
                                        "delivered    2\n"
                                        "exported     0\n"
                                        "lost         1\n"
@@ -58,10 +61,33 @@ TEST_F(ToolCommands, StatisticsCountByStateReasonAndEvent)
                                        "Camera    Closed  1        2          0\n"
                                        "Camera    Opened  3        0          0\n");
     EXPECT_EQ(run({"--stats", "--json"}).output,
-              R"({"pending":4,"delivered":2,"exported":0,"lost":{"eventSize":1},"events":[)"
+              R"({"client":"f81d4fae-7dec-41d0-a765-00a0c91e6bf6","server":"",)"
+              R"("pending":4,"delivered":2,"exported":0,"lost":{"eventSize":1},"events":[)"
               R"({"category":"Camera","name":"Closed","pending":1,"delivered":2,"exported":0},)"
               R"({"category":"Camera","name":"Opened","pending":3,"delivered":0,"exported":0}]})"
               "\n");
+}
+
+TEST_F(ToolCommands, StatisticsNameTheServerOfTheLastSession)
+{
+    track(1);
+    Session session;
+    session.open(m_path, "collector.example.com:4318");
+    session.destroy();
+    const std::string server = "https://collector.example.com:4318/v1/logs";
+    EXPECT_NE(run({"--stats"}).output.find("server     " + server + "\n"), std::string::npos);
+    EXPECT_NE(run({"--stats", "--json"}).output.find("\"server\":\"" + server + "\""),
+              std::string::npos);
+}
+
+TEST_F(ToolCommands, StatisticsSayThatThereIsNoClientIdAfterAnOptOut)
+{
+    track(1);
+    Session session;
+    session.config(m_path);
+    session.optOut();
+    EXPECT_EQ(run({"--stats"}).output.rfind("client     none\n", 0), 0U);
+    EXPECT_EQ(run({"--stats", "--json"}).output.rfind(R"({"client":null,)", 0), 0U);
 }
 
 TEST_F(ToolCommands, SendDeliversEverythingWithProgress)

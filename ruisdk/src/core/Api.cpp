@@ -1,38 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
+#include "core/ApiCall.h"
 #include "core/Arguments.h"
-#include "core/Failure.h"
-#include "core/HandleTable.h"
-#include "core/Instance.h"
-#include "store/SystemError.h"
 
 #include <ruiSDK.h>
-
-#include <filesystem>
 
 namespace {
 
 using namespace rui;
-
-// Finds the instance and runs the call on it; nothing that is thrown gets past here.
-template <typename Call>
-int32_t withInstance(ruiInstance handle, Call call) noexcept
-{
-    try {
-        const std::shared_ptr<Instance> instance = HandleTable::process().find(handle);
-        if (!instance) {
-            return RUI_BAD_HANDLE;
-        }
-        call(*instance);
-        return RUI_OK;
-    } catch (const Failure &failure) {
-        return failure.result();
-    } catch (const std::filesystem::filesystem_error &error) {
-        return isFull(error.code().value()) ? RUI_FULL : RUI_STORAGE;
-    } catch (...) {
-        return RUI_INTERNAL;
-    }
-}
 
 std::string directoryArgument(const char *directory)
 {

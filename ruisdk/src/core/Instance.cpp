@@ -81,6 +81,7 @@ void Instance::start()
     require(m_state == State::Ready || m_state == State::Stopped);
     if (m_withdrawal == Withdrawal::None) {
         m_store->join(m_product);
+        m_store->noteServer(m_config.server ? m_config.server->url : std::string());
     } else {
         withdraw();
     }
@@ -170,6 +171,13 @@ void Instance::track(const Event &event)
     }
     m_store->add(event);
     m_worker->notify(m_store->hasLargeJournal());
+}
+
+std::string Instance::clientId()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    require(m_state != State::Created);
+    return m_store->clientId();
 }
 
 void Instance::shutDown() noexcept

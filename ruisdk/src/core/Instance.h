@@ -43,6 +43,9 @@ public:
     void optOut();
     void track(const Event &event);
 
+    // Empty when there is none.
+    std::string clientId();
+
     // Ends the session if one is open, without delivering anything, and the instance with it: every
     // later call is RUI_BAD_HANDLE.
     void shutDown() noexcept;

@@ -63,10 +63,13 @@ constexpr const char *keepTheHandOver =
     " SELECT seq, iif(exported, 'exported', 'delivered'), time, uid, resource, category, name,"
     " session, text, run FROM delivered;";
 
+// server: where the last session that was started delivers to; empty: nowhere; null: none was yet
+constexpr const char *keepTheServer = "ALTER TABLE state ADD COLUMN server TEXT;";
+
 // Each leads from one version to the next; the first one to version 2. What stands here has run
 // on users' machines: add to its end only.
 constexpr std::array migrations = {countWhatIsGone, keepTheRun, rememberWithdrawals,
-                                   keepTheHandOver};
+                                   keepTheHandOver, keepTheServer};
 
 constexpr std::int64_t firstVersion = 1;
 

@@ -31,11 +31,22 @@ std::vector<Statistics::EventCount> readEvents(const Database &database)
     return events;
 }
 
+std::optional<std::string> optionalText(const Database &database, const char *sql)
+{
+    Statement query = database.prepare(sql);
+    return query.step() && !query.isNull(0) ? std::optional<std::string>(query.text(0))
+                                            : std::nullopt;
+}
+
 } // namespace
 
 Statistics readStatistics(const Database &database)
 {
     Statistics statistics;
+    statistics.client = optionalText(database, "SELECT client FROM state");
+    if (database.hasColumn("state", "server")) {
+        statistics.server = optionalText(database, "SELECT server FROM state");
+    }
     statistics.pending = database.integer("SELECT count(*) FROM record WHERE state = 'pending'");
     statistics.delivered = database.integer("SELECT delivered FROM state");
     statistics.exported = database.hasColumn("state", "exported")

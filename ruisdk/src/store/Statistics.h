@@ -5,6 +5,7 @@
 #include "store/Database.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,10 @@ struct Statistics
         std::int64_t count = 0;
     };
 
+    // Nothing: before the first session, or after an opt-out.
+    std::optional<std::string> client;
+    // Where the last session delivers to; empty: nowhere. Nothing: not known yet.
+    std::optional<std::string> server;
     std::int64_t pending = 0;
     // Since the beginning; only the last of them are still stored.
     std::int64_t delivered = 0;

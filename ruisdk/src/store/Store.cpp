@@ -105,6 +105,28 @@ void Store::withdraw(const Product &product)
     });
 }
 
+void Store::noteServer(const std::string &url) noexcept
+{
+    try {
+        connection()
+            .database.prepare("UPDATE state SET server = ?1 WHERE server IS NOT ?1")
+            .bind(1, url)
+            .run();
+    } catch (const std::exception &) {
+        // A full disk, for example.
+    }
+}
+
+std::string Store::clientId()
+{
+    std::string id;
+    recovering([&](const Connection &current) {
+        Statement query = current.database.prepare("SELECT client FROM state");
+        id = query.step() ? query.text(0) : std::string_view();
+    });
+    return id;
+}
+
 bool Store::hasOptOut()
 {
     return connection().database.integer("SELECT EXISTS(SELECT 1 FROM notice"

@@ -36,6 +36,13 @@ public:
     // before it is carried out.
     void withdraw(const Product &product);
 
+    // Keeps where the session delivers to, for those who want to know; empty: nowhere. What fails
+    // is of no importance.
+    void noteServer(const std::string &url) noexcept;
+
+    // Empty when there is none.
+    std::string clientId();
+
     // An opt-out waits for delivery.
     bool hasOptOut();
 

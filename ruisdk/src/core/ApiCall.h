@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Ostrand
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/Failure.h"
+#include "core/HandleTable.h"
+#include "core/Instance.h"
+#include "store/SystemError.h"
+
+#include <filesystem>
+
+namespace rui {
+
+// The way of every call of the header: finds the instance and runs the call on it; nothing that is
+// thrown gets past here. Any thread.
+template <typename Call>
+int32_t withInstance(ruiInstance handle, Call call) noexcept
+{
+    try {
+        const std::shared_ptr<Instance> instance = HandleTable::process().find(handle);
+        if (!instance) {
+            return RUI_BAD_HANDLE;
+        }
+        call(*instance);
+        return RUI_OK;
+    } catch (const Failure &failure) {
+        return failure.result();
+    } catch (const std::filesystem::filesystem_error &error) {
+        return isFull(error.code().value()) ? RUI_FULL : RUI_STORAGE;
+    } catch (...) {
+        return RUI_INTERNAL;
+    }
+}
+
+} // namespace rui
