@@ -3,13 +3,18 @@
 #
 # One place for what every target of the project has in common.
 
+include(NerixPrecompiled)
+
 # Warnings, sanitizers and strictness for a target of ours.
 function(nerix_configure_target target)
     target_compile_options(${target} PRIVATE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+        -pthread -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
         $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
             -Wextra-semi -Wnull-dereference -Wsuggest-override>
         $<$<BOOL:${NERIX_WARNINGS_AS_ERRORS}>:-Werror>)
+    if(NERIX_DEBUG_INFO STREQUAL lines)
+        target_compile_options(${target} PRIVATE $<$<CONFIG:Debug>:-g1>)
+    endif()
     if(MOLD_PROGRAM)
         target_link_options(${target} PRIVATE -fuse-ld=mold)
     endif()
@@ -20,20 +25,33 @@ function(nerix_configure_target target)
     endif()
 endfunction()
 
-# The same for a target that uses Qt.
-function(nerix_configure_qt_base target)
-    nerix_configure_target(${target})
-    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+# What a target that uses Qt defines, and what a part of the product defines: texts are never
+# converted from or to bytes by accident. Tests may, since they are full of literals.
+function(nerix_define_qt_base target)
     target_compile_definitions(${target} PRIVATE
         QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050C00)
 endfunction()
 
-# The same for a part of the product: texts are never converted from or to bytes by accident. Tests
-# may, since they are full of literals.
-function(nerix_configure_qt_target target)
-    nerix_configure_qt_base(${target})
+function(nerix_define_qt_part target)
+    nerix_define_qt_base(${target})
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+endfunction()
+
+# nerix_configure_target() for a target that uses Qt.
+function(nerix_configure_qt_base target)
+    nerix_configure_target(${target})
+    nerix_define_qt_base(${target})
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    nerix_use_precompiled(${target} Tests)
+endfunction()
+
+# The same for a part of the product.
+function(nerix_configure_qt_target target)
+    nerix_configure_target(${target})
+    nerix_define_qt_part(${target})
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    nerix_use_precompiled(${target} Parts)
 endfunction()
 
 # nerix_lint_qml(OUT_VAR FILE...): checks QML files with qmllint while a target is built that depends
