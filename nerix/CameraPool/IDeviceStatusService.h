@@ -22,7 +22,8 @@ public:
     ~IDeviceStatusService() override;
 
 Q_SIGNALS:
-    /// The device is open and its parameters can be read.
+    /// The device is open and its parameters can be read. A receiver does not keep the pointer
+    /// longer than its own work on the news: a script that opened the device waits for that.
     void deviceOpened(QSharedPointer<Core::CameraPoolComponents::IDeviceBaseInfo> ptrDeviceInfo);
 
     /// The device is about to be closed and can still be read. A receiver that wants to read it

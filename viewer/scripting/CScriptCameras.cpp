@@ -87,11 +87,19 @@ QVariant CScriptCameras::open(const QJSValue &camera, int ms)
                 }
             });
     pool->open(found);
-    waitUntil([&] { return !failure.isEmpty() || isOpen(*pool, found); }, ms,
-              QStringLiteral("camera \"%1\" is not open").arg(found->identity()));
+    const bool isDone =
+        waitUntil([&] { return !failure.isEmpty() || isOpen(*pool, found); }, ms,
+                  QStringLiteral("camera \"%1\" is not open").arg(found->identity()));
     if (!failure.isEmpty()) {
         fail(failure);
         return {};
+    }
+    // Else what the script does next could be missed by a plug-in that watches an open camera.
+    if (isDone) {
+        waitUntil([&] { return pool->isOpeningHandled(found) || !isOpen(*pool, found); }, ms,
+                  QStringLiteral("camera \"%1\" is open, but a plug-in is not done with the news "
+                                 "of it")
+                      .arg(found->identity()));
     }
     return describeCamera(found, *pool);
 }

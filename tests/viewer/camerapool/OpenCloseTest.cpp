@@ -10,6 +10,7 @@
 
 #include <ParameterCollection/CParameterException.h>
 
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void connectedCameraIsReportedOnceAndBeforeTheEnumeration();
     void twoCamerasAreListedInTheOrderOfFirstSight();
     void openedCameraIsOpenAndCanBeRead();
+    void openingIsHandledWhenTheLastReceiverInAnyThreadHasReturned();
     void openingAnOpenCameraTellsNothing();
     void closingIsToldWhileTheCameraCanStillBeRead();
     void closedCameraRefusesToBeRead();
@@ -115,6 +117,36 @@ void OpenCloseTest::openedCameraIsOpenAndCanBeRead()
     QCOMPARE(rig.pool().control()->state(camera), ICameraControlService::Open);
     CDeviceAccess access(*rig.pool().devices()->device(camera));
     QVERIFY(arv_gc_get_node(access.genicam(), "Width"));
+}
+
+void OpenCloseTest::openingIsHandledWhenTheLastReceiverInAnyThreadHasReturned()
+{
+    QObject scope;
+    QVERIFY(startCamera(&scope, at("127.0.0.1", "A1")));
+    CPoolRig rig;
+    QVERIFY(rig.search());
+    const auto camera = rig.camera(QStringLiteral("A1"));
+    const auto &control = *rig.pool().control();
+
+    QThread otherThread;
+    QObject receiver;
+    receiver.moveToThread(&otherThread);
+    QSemaphore mayReturn;
+    bool wasHandledMeanwhile = true;
+    connect(rig.pool().status().get(), &CCameraStatus::deviceOpened, &receiver,
+            [&](const DeviceBaseInfoPtr &) {
+                mayReturn.acquire();
+                wasHandledMeanwhile = control.isOpeningHandled(camera);
+            });
+    QVERIFY(!control.isOpeningHandled(camera));
+    QVERIFY(rig.open(camera));
+    QVERIFY(!control.isOpeningHandled(camera)); // still to come for the other thread
+    otherThread.start();
+    mayReturn.release();
+    QTRY_VERIFY(control.isOpeningHandled(camera));
+    QVERIFY(!wasHandledMeanwhile);
+    otherThread.quit();
+    otherThread.wait();
 }
 
 void OpenCloseTest::openingAnOpenCameraTellsNothing()

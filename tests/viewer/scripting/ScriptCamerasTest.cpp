@@ -26,6 +26,8 @@ private Q_SLOTS:
     void testCameraIsMeantBy_data();
     void testCameraIsMeantBy();
     void testOpenAndClose();
+    void testOpenWaitsUntilEveryPluginHasHandledTheNews();
+    void testOpenNamesAPluginThatNeverHandlesTheNews();
     void testSelect();
     void testEventsAreTakenOnce();
     void testFailureSaysWhatToDo_data();
@@ -139,6 +141,33 @@ void ScriptCamerasTest::testOpenAndClose()
                         "print(cameras.list()[0].state);"),
              QString());
     QCOMPARE(m_run->printed(), texts({"open", "free"}));
+}
+
+void ScriptCamerasTest::testOpenWaitsUntilEveryPluginHasHandledTheNews()
+{
+    const auto camera = m_control->plugIn("A-1");
+    m_control->setOpeningsHandled(false);
+    bool isHandled = false;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, m_control.data(), [&] {
+        isHandled = m_control->state(camera) == CFakeCameraControl::Open;
+        m_control->setOpeningsHandled(isHandled);
+    });
+    timer.start(1);
+    QCOMPARE(m_run->run("print(cameras.open('A-1').state);"), QString());
+    QCOMPARE(m_run->printed(), texts({"open"}));
+    QVERIFY(isHandled);
+}
+
+void ScriptCamerasTest::testOpenNamesAPluginThatNeverHandlesTheNews()
+{
+    m_control->plugIn("A-1");
+    m_control->setOpeningsHandled(false);
+    QCOMPARE(m_run->run("try { cameras.open('A-1', 20); } catch (e) { print(e.message); }"),
+             QString());
+    QCOMPARE(m_run->printed(),
+             texts({"camera \"A-1\" is open, but a plug-in is not done with the news of it after "
+                    "20 ms (connected: A-1)"}));
 }
 
 void ScriptCamerasTest::testSelect()

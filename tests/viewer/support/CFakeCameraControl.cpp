@@ -52,6 +52,11 @@ void CFakeCameraControl::failToOpen(const char *message)
     m_openFailure = QString::fromUtf8(message);
 }
 
+void CFakeCameraControl::setOpeningsHandled(bool areHandled)
+{
+    m_areOpeningsHandled = areHandled;
+}
+
 void CFakeCameraControl::setClosesAll(bool closes)
 {
     m_closesAll = closes;
@@ -70,6 +75,11 @@ QList<CFakeCameraControl::CameraInfoPtr> CFakeCameraControl::cameras() const
 CFakeCameraControl::CameraState CFakeCameraControl::state(const CameraInfoPtr &camera) const
 {
     return m_states.value(camera->identity(), Gone);
+}
+
+bool CFakeCameraControl::isOpeningHandled(const CameraInfoPtr &camera) const
+{
+    return m_areOpeningsHandled && state(camera) >= Open;
 }
 
 void CFakeCameraControl::open(const CameraInfoPtr &camera)

@@ -33,6 +33,9 @@ public:
     // The next `open` fails with this.
     void failToOpen(const char *message);
 
+    // What `isOpeningHandled` says; true without it.
+    void setOpeningsHandled(bool areHandled);
+
     // Whether `closeAll` leads to `allClosed`.
     void setClosesAll(bool closes);
 
@@ -40,6 +43,7 @@ public:
 
     QList<CameraInfoPtr> cameras() const override;
     CameraState state(const CameraInfoPtr &camera) const override;
+    bool isOpeningHandled(const CameraInfoPtr &camera) const override;
     void open(const CameraInfoPtr &camera) override;
     void close(const CameraInfoPtr &camera) override;
     void closeAll() override;
@@ -56,6 +60,7 @@ private:
     QList<CameraInfoPtr> m_cameras;
     QMap<QString, CameraState> m_states;
     QString m_openFailure;
+    bool m_areOpeningsHandled = true;
     bool m_closesAll = true;
     int m_closeAllCount = 0;
 };

@@ -36,6 +36,21 @@ CCameraControl::CameraState CCameraControl::state(const CameraInfoPtr &camera) c
     return m_states.value(camera->identity(), Gone);
 }
 
+bool CCameraControl::isOpeningHandled(const CameraInfoPtr &camera) const
+{
+    const QMutexLocker lock(&m_mutex);
+    const HandledFlag isHandled = camera ? m_openings.value(camera->identity()) : nullptr;
+    return isHandled && *isHandled;
+}
+
+CameraInfoPtr CCameraControl::noteOpening(const CameraInfoPtr &camera)
+{
+    const auto isHandled = std::make_shared<std::atomic<bool>>(false);
+    const QMutexLocker lock(&m_mutex);
+    m_openings.insert(camera->identity(), isHandled);
+    return CameraInfoPtr(camera.data(), [camera, isHandled](auto *) { *isHandled = true; });
+}
+
 void CCameraControl::open(const CameraInfoPtr &camera)
 {
     post([camera](CPoolWorker *worker) { worker->open(camera); });

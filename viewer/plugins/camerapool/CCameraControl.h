@@ -30,6 +30,7 @@ public:
 
     QList<Core::CameraPoolComponents::CameraInfoPtr> cameras() const override;
     CameraState state(const Core::CameraPoolComponents::CameraInfoPtr &camera) const override;
+    bool isOpeningHandled(const Core::CameraPoolComponents::CameraInfoPtr &camera) const override;
     void open(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
     void close(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
     void grabSingle(const Core::CameraPoolComponents::CameraInfoPtr &camera) override;
@@ -41,6 +42,12 @@ public:
     void publish(const QList<Core::CameraPoolComponents::CameraInfoPtr> &cameras,
                  const QHash<QString, CameraState> &states);
 
+    /// Notes that \a camera is open, before that is told. @return what to tell it with: another
+    /// pointer to the same camera, and when the last copy of it is gone, in whatever thread, the
+    /// opening is handled. A queued signal holds a copy until its receiver has returned.
+    Core::CameraPoolComponents::CameraInfoPtr
+    noteOpening(const Core::CameraPoolComponents::CameraInfoPtr &camera);
+
     /// Notes that a camera does not grab any more, before that is told. Callable in any thread.
     void noteGrabEnd(const QString &identity);
 
@@ -49,6 +56,7 @@ public:
 
 private:
     using StopFlag = std::weak_ptr<std::atomic<bool>>;
+    using HandledFlag = std::shared_ptr<std::atomic<bool>>;
 
     template <class Request>
     void post(Request request);
@@ -61,8 +69,9 @@ private:
     mutable QMutex m_mutex;
     QList<Core::CameraPoolComponents::CameraInfoPtr> m_cameras; // guarded by m_mutex
     QHash<QString, CameraState> m_states;                       // guarded by m_mutex
-    QHash<QString, StopFlag> m_stopFlags; // of the latest grabs, by identity; guarded by m_mutex
-    QHash<QString, int> m_startCounts;    // that the worker has not done; guarded by m_mutex
+    QHash<QString, StopFlag> m_stopFlags;   // of the latest grabs, by identity; guarded by m_mutex
+    QHash<QString, HandledFlag> m_openings; // the latest ones, by identity; guarded by m_mutex
+    QHash<QString, int> m_startCounts;      // that the worker has not done; guarded by m_mutex
 };
 
 } // namespace CameraPool

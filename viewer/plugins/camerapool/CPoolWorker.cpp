@@ -191,9 +191,10 @@ void CPoolWorker::connectDevice(const CFoundCamera &found, const CameraInfoPtr &
         publish();
         return fail(camera, QString::fromUtf8(exception.what()));
     }
+    const CameraInfoPtr news = m_outlets.control->noteOpening(camera);
     publish();
     qCInfo(lcCameraPool, "%s is open", qUtf8Printable(identity));
-    Q_EMIT m_outlets.status->deviceOpened(camera);
+    Q_EMIT m_outlets.status->deviceOpened(news);
 }
 
 void CPoolWorker::fail(const CameraInfoPtr &camera, const QString &message)

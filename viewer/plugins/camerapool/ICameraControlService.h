@@ -38,6 +38,12 @@ public:
     /// camera that is open already stays so; nothing is emitted.
     virtual void open(const Core::CameraPoolComponents::CameraInfoPtr &camera) = 0;
 
+    /// True once every receiver of the latest `deviceOpened` of \a camera is done with it: none has
+    /// it still to come, is at work on it, or keeps the pointer that it was given. What is done to
+    /// the camera from then on is seen by all who watch it since it is open.
+    virtual bool
+    isOpeningHandled(const Core::CameraPoolComponents::CameraInfoPtr &camera) const = 0;
+
     /// Stops its grab and closes \a camera. Ends with `closed`. `closed` comes also when it was not
     /// open.
     virtual void close(const Core::CameraPoolComponents::CameraInfoPtr &camera) = 0;
