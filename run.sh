@@ -7,26 +7,13 @@
 # root or with sudo; run again, it is quick and needs no network.
 set -euo pipefail
 cd "$(dirname "$0")"
+source tools/steps.bash
 
-log=build/run.log
-mkdir -p build
-
-# Shows the whole log only when a step fails.
-step() {
-    local text=$1
-    shift
-    printf '%s\n' "$text" >&2
-    if ! "$@" >"$log" 2>&1; then
-        cat "$log" >&2
-        echo "run.sh: this failed: $*" >&2
-        exit 1
-    fi
-}
-
-tools/install-deps.sh
-step "Building (build/release) ..." bash -ec '
-    cmake --preset release
-    cmake --build --preset release --target nerix-viewer nerix-camera-simulator rui-events UsageTracking'
+require_build_folder
+tools/install-deps.sh run
+drop_unusable_compiler_cache
+step "Preparing build/release" build/configure.log cmake --preset release
+step "Building build/release" build/build.log cmake --build --preset release
 if [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
     exec viewer/demo/run-viewer.sh build/release build/viewer
 fi

@@ -11,9 +11,7 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 : "${NERIX_CTEST_OPTIONS:=}"
-
-# A compiler cache serves any folder that the project is checked out in.
-export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+source tools/steps.bash
 
 # Which tests are worth their time in a second build. The names of tests are those of their targets.
 asan_tests='^(UsageTracking(Session|Tracking|EventRecord|ConsentController|HelpMenu|Request|PluginLifecycle|PluginLibrary|PluginComponent|.*Events|Parameter.*|GrabFailures|StreamCounters)Test|test_ruisdk_(core|store|delivery|api|sessions|processes|tool)|PluginShutDownTest|(Vanishing|Lost)CameraTest|TwoCamerasTest|CameraPool(GvcpMessage|Busy)Test|StreamAttackTest)$'
@@ -25,7 +23,7 @@ tsan_blind='^(Simulator(Control|Features|Stream|Vanish)Test|FeatureFilesPluginTe
 
 configure() {
     echo "== $1: build"
-    cmake --preset "$1" >/dev/null
+    cmake --preset "$1" -DBUILD_TESTING=ON >/dev/null
 }
 
 run_all() {
@@ -46,7 +44,9 @@ run_some() {
     ctest --preset "$1" --parallel 2 -R "$2" $NERIX_CTEST_OPTIONS
 }
 
-tools/install-deps.sh
+require_build_folder
+tools/install-deps.sh test
+drop_unusable_compiler_cache
 if [[ $# -gt 0 ]]; then
     for preset in "$@"; do
         run_all "$preset"
