@@ -46,6 +46,8 @@ async function clearFresh(engine) {
 async function rollUp(engine, weeks) {
     await clearFresh(engine);
     const parameters = { first: weeks[0], last: weeks.at(-1) };
+    const seen = await engine.rows(statementsOf("steps/rolled_up.sql")[0],
+        { ...parameters, margin: engine.secondsUntilSeen });
     await runAll(engine, "steps/recent.sql", parameters);
     for (const name of rollups) {
         await runAll(engine, `steps/${name}.sql`, parameters);
@@ -54,6 +56,10 @@ async function rollUp(engine, weeks) {
             `REPLACE PARTITION ID '${week.replaceAll("-", "")}' FROM fresh_${name}`).join(", ")}`);
     }
     await clearFresh(engine);
+    for (const [week, upTo] of seen.filter(([week]) => weeks.includes(week))) {
+        await engine.run("INSERT INTO weeks (week, rolled_up)"
+            + " VALUES ({week:Date}, {upTo:DateTime64(3)})", { week, upTo });
+    }
 }
 
 async function column(engine, sql) {
@@ -70,12 +76,7 @@ export async function refresh(engine, progress = () => {}) {
     await erase(engine);
     for (const weeks of neighbours(await column(engine, "SELECT week FROM weeks_to_roll_up ORDER BY week"))) {
         progress(weeks);
-        const [[start]] = await engine.rows("SELECT now64(3)");
         await rollUp(engine, weeks);
-        for (const week of weeks) {
-            await engine.run("INSERT INTO weeks (week, rolled_up) VALUES ({week:Date}, {start:DateTime64(3)})",
-                { week, start });
-        }
     }
     await dropOld(engine);
     if ((await replacedParts(engine)) > partsToSweep) {

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
+import { createHash } from "node:crypto";
+
 import { UserError } from "./user-error.js";
 import { EmbeddedEngine } from "./engine/embedded.js";
 import { ServerEngine } from "./engine/server.js";
@@ -17,12 +19,22 @@ async function openEngine({ data, server }) {
     return data === undefined ? ServerEngine.open(server) : EmbeddedEngine.open(data);
 }
 
+const appliedTable = "CREATE TABLE IF NOT EXISTS applied_schema (schema String,"
+    + " at DateTime('UTC') DEFAULT now()) ENGINE = MergeTree ORDER BY at";
+
+// Every statement can be repeated, but there are many: they are left out if nothing has changed.
 async function applySchema(engine) {
-    for (const file of filesOf("./")) {
-        for (const statement of statementsOf(file)) {
-            await engine.run(statement);
-        }
+    const statements = filesOf("./").flatMap(statementsOf);
+    const schema = createHash("sha256").update(statements.join("")).digest("hex");
+    await engine.run(appliedTable);
+    const [[known]] = await engine.rows("SELECT argMax(schema, at) FROM applied_schema");
+    if (known === schema) {
+        return;
     }
+    for (const statement of statements) {
+        await engine.run(statement);
+    }
+    await engine.run("INSERT INTO applied_schema (schema) VALUES ({schema:String})", { schema });
 }
 
 /**

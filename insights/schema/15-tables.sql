@@ -24,7 +24,7 @@ ENGINE = ReplacingMergeTree
 PARTITION BY toMonday(Timestamp)
 ORDER BY (client, uid);
 
--- When the first event of a week came, when the last one did, and when its roll-ups were made.
+-- When the first event of a week came, when the last one did, and up to which arrival it is rolled up.
 CREATE TABLE IF NOT EXISTS weeks
 (
     week Date,
@@ -35,17 +35,17 @@ CREATE TABLE IF NOT EXISTS weeks
 ENGINE = AggregatingMergeTree ORDER BY week;
 
 -- The whole records of these weeks have been dropped, so their roll-ups are final.
-CREATE VIEW IF NOT EXISTS closed_weeks AS
+CREATE OR REPLACE VIEW closed_weeks AS
 SELECT week FROM weeks
-GROUP BY week HAVING min(opened) < toDate(now('UTC')) - raw_days() AND max(rolled_up) > max(touched);
+GROUP BY week HAVING min(opened) < toDate(now('UTC')) - raw_days() AND max(rolled_up) >= max(touched);
 
-CREATE VIEW IF NOT EXISTS open_weeks AS
-SELECT week, max(touched) >= max(rolled_up) AS is_stale FROM weeks
+CREATE OR REPLACE VIEW open_weeks AS
+SELECT week, max(touched) > max(rolled_up) AS is_stale FROM weeks
 WHERE week NOT IN (SELECT week FROM closed_weeks)
 GROUP BY week;
 
 -- Of a grab that began in one week and ended in the next, the next one tells.
-CREATE VIEW IF NOT EXISTS weeks_to_roll_up AS
+CREATE OR REPLACE VIEW weeks_to_roll_up AS
 SELECT week FROM open_weeks
 WHERE is_stale OR week - 7 IN (SELECT week FROM open_weeks WHERE is_stale);
 
@@ -71,12 +71,12 @@ ENGINE = MergeTree ORDER BY client_hash;
 -- Who is to be erased; empty as soon as that is done.
 CREATE TABLE IF NOT EXISTS erasing (client UUID) ENGINE = MergeTree ORDER BY client;
 
-CREATE VIEW IF NOT EXISTS weeks_to_drop AS
+CREATE OR REPLACE VIEW weeks_to_drop AS
 SELECT DISTINCT toDate(partition) AS week FROM system.parts
 WHERE database = currentDatabase() AND table = 'usage_logs' AND active
     AND week IN (SELECT week FROM closed_weeks);
 
-CREATE VIEW IF NOT EXISTS rollups_to_drop AS
+CREATE OR REPLACE VIEW rollups_to_drop AS
 SELECT DISTINCT table, toDate(partition) AS week FROM system.parts
 WHERE database = currentDatabase() AND startsWith(table, 'daily_') AND active
     AND week < oldest_week();

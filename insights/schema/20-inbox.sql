@@ -125,7 +125,9 @@ SELECT client, ulid_bytes(uid) AS uid, Timestamp, run, category, name, SeverityN
 FROM judged WHERE reason = '';
 
 CREATE MATERIALIZED VIEW IF NOT EXISTS touch_weeks TO weeks AS
-SELECT week, toDate(now('UTC')) AS opened, now64(3, 'UTC') AS touched
+SELECT week, toDate(now('UTC')) AS opened,
+    -- Also when the clock went back.
+    greatest(now64(3, 'UTC'), (SELECT max(rolled_up) FROM weeks) + INTERVAL 1 MILLISECOND) AS touched
 FROM judged WHERE reason = ''
 GROUP BY week;
 

@@ -15,7 +15,7 @@ CREATE OR REPLACE FUNCTION stream_features AS (stream) -> arraySort(arrayDistinc
     arrayMap(line -> if(position(line, '\t') > 0, substring(line, 1, position(line, '\t') - 1), ''),
         arraySlice(splitByChar('\n', stream), 2, if(endsWith(stream, '[...cut]'), -1, NULL))))));
 
-CREATE VIEW IF NOT EXISTS events AS
+CREATE OR REPLACE VIEW events AS
 SELECT client, uid, Timestamp AS time, toUnixTimestamp64Milli(Timestamp) AS milliseconds,
     toDate(Timestamp) AS day, toMonday(Timestamp) AS week, run,
     or_unknown(ResourceAttributes['service.version']) AS version,
@@ -26,7 +26,7 @@ FROM usage_logs FINAL;
 
 -- The text of a grab's end is no JSON: the two inner objects stand at its end, and what is in front
 -- of them is JSON once its last comma is replaced by a bracket.
-CREATE VIEW IF NOT EXISTS typed_events AS
+CREATE OR REPLACE VIEW typed_events AS
 WITH
     category = 'Grab' AND name = 'Stopped' AS is_end,
     extractGroups(if(is_end, text, ''),
@@ -72,48 +72,48 @@ SELECT
         AS losses
 FROM events;
 
-CREATE VIEW IF NOT EXISTS openings AS
+CREATE OR REPLACE VIEW openings AS
 SELECT client, run, time, day, version, camera, model, feature_stream
 FROM typed_events WHERE category = 'Camera' AND name = 'Opened';
 
-CREATE VIEW IF NOT EXISTS closings AS
+CREATE OR REPLACE VIEW closings AS
 SELECT client, run, time, day, version, camera, model, feature_stream
 FROM typed_events WHERE category = 'Camera' AND name = 'Closed';
 
-CREATE VIEW IF NOT EXISTS connections AS
+CREATE OR REPLACE VIEW connections AS
 SELECT client, run, time, day, version, camera, model
 FROM typed_events WHERE category = 'Camera' AND name = 'Connected';
 
-CREATE VIEW IF NOT EXISTS removals AS
+CREATE OR REPLACE VIEW removals AS
 SELECT client, run, time, day, version, camera, model
 FROM typed_events WHERE category = 'Camera' AND name = 'Removed';
 
-CREATE VIEW IF NOT EXISTS grabs AS
+CREATE OR REPLACE VIEW grabs AS
 SELECT client, run, time, day, version, camera, model, kind
 FROM typed_events WHERE category = 'Grab' AND name = 'Started';
 
-CREATE VIEW IF NOT EXISTS statistics AS
+CREATE OR REPLACE VIEW statistics AS
 SELECT client, run, time, day, version, camera, model, kind, bytes_per_second, images_per_second,
     images_shown, failed_images_shown, images, failed_images, missed_images, packets, lost_packets,
     resent_packets, resend_requests, resynchronizations
 FROM typed_events WHERE category = 'Grab' AND name = 'Stopped';
 
-CREATE VIEW IF NOT EXISTS failures AS
+CREATE OR REPLACE VIEW failures AS
 SELECT client, run, time, day, version, camera, code, failure_text AS text, failure_count AS images
 FROM typed_events WHERE category = 'Grab' AND name = 'Failed';
 
-CREATE VIEW IF NOT EXISTS feature_choices AS
+CREATE OR REPLACE VIEW feature_choices AS
 SELECT client, run, time, day, version, name AS feature
 FROM typed_events WHERE category = 'FeatureChosen';
 
-CREATE VIEW IF NOT EXISTS value_changes AS
+CREATE OR REPLACE VIEW value_changes AS
 SELECT client, run, time, day, version, camera, name AS feature, old_value, new_value
 FROM typed_events WHERE category = 'ParameterValueChanged';
 
-CREATE VIEW IF NOT EXISTS losses AS
+CREATE OR REPLACE VIEW losses AS
 SELECT client, time, day, version, loss.1 AS reason, loss.2 AS lost
 FROM typed_events ARRAY JOIN losses AS loss;
 
 -- Of an opt-out only its day is known: the client is erased.
-CREATE VIEW IF NOT EXISTS opt_outs AS
+CREATE OR REPLACE VIEW opt_outs AS
 SELECT min(erased.day) AS day FROM erased WHERE erased.day > toDate(0) GROUP BY client_hash;

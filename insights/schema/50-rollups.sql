@@ -84,7 +84,7 @@ CREATE TABLE IF NOT EXISTS recent
 ENGINE = MergeTree ORDER BY category;
 
 -- A session is a run that has begun. Its day is that of its beginning.
-CREATE VIEW IF NOT EXISTS sessions AS
+CREATE OR REPLACE VIEW sessions AS
 SELECT client, run, toDate(fromUnixTimestamp64Milli(first_start, 'UTC')) AS day, first_start AS started_at,
     first_version AS version, last_end AS ended_at, last_event AS last_at,
     did_connect AS connected, did_open AS opened, did_change AS changed, did_grab AS grabbed
@@ -100,7 +100,7 @@ FROM
 );
 
 -- The ends of grabs with their beginnings, while weeks are being rolled up.
-CREATE VIEW IF NOT EXISTS grab_ends AS
+CREATE OR REPLACE VIEW grab_ends AS
 SELECT * EXCEPT begun, begun AND camera >= 0 AND run != '' AS begun
 FROM
 (

@@ -39,6 +39,9 @@ export class EmbeddedEngine {
         return engine;
     }
 
+    /** How long after its time what others insert may be seen: there are no others here. */
+    secondsUntilSeen = 0;
+
     /** Where statements read the lines of a file from: a parameter `file` gives its path. */
     lineSource = "file({file:String}, 'LineAsString', 'line String')";
 

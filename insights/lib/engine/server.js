@@ -27,6 +27,8 @@ export class ServerEngine {
         return engine;
     }
 
+    secondsUntilSeen = 600;
+
     lineSource = "input('line String')";
 
     async request(sql, parameters, body, inDatabase = database) {
