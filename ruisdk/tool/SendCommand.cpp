@@ -4,6 +4,7 @@
 #include "core/Failure.h"
 #include "delivery/CurlTransport.h"
 #include "delivery/Sender.h"
+#include "store/Shrinking.h"
 #include "store/StoreOpening.h"
 
 namespace rui::tool {
@@ -52,6 +53,8 @@ void sendNow(const Options &options, std::ostream &out)
     Sender sender(database, paths.senderLock(), transport, systemClock(), limits, {}, randomJitter,
                   memory);
     sendAll(options, sender, out);
+    while (shrinkByOneStep(database, limits)) {
+    }
 }
 
 } // namespace rui::tool

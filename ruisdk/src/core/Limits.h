@@ -26,6 +26,14 @@ struct Limits
     // woken at a quarter of the first doubles the slowest calls of a burst (p99 56 us, then 110).
     int largeJournalPages = 4000;
     int maxJournalPages = 16000;
+    // Free pages that stay in the file for the next events: 1 MiB. More of them are given back, so
+    // many in one transaction, which then takes a few milliseconds.
+    std::int64_t freePagesKept = 256;
+    std::int64_t pagesOfAStep = 256;
+    // A database of an earlier version is rebuilt for that once no more pages are in use: 4 MiB.
+    std::int64_t quickRebuildPages = 1024;
+    // The journal of a session that is idle is cut off when it is larger.
+    std::uintmax_t idleJournalBytes = std::uintmax_t{4} * 1024 * 1024;
     // How long a call waits for another writer; a delivered batch takes some milliseconds.
     std::chrono::milliseconds callBusyLimit{5000};
     // How long the end of a session may take, without and with an opt-out that is to be sent.

@@ -5,6 +5,7 @@
 #include "core/Failure.h"
 #include "store/Erasure.h"
 #include "store/Quota.h"
+#include "store/Shrinking.h"
 
 #include <algorithm>
 
@@ -96,6 +97,20 @@ void WorkerLoop::round(Work &work)
     if (step.kind != Step::Kind::Idle) {
         m_sleepTime = std::min(m_sleepTime, untilDue(step.due));
     }
+    shrink(work.database);
+}
+
+void WorkerLoop::shrink(Database &database)
+{
+    bool again = true;
+    while (again && !m_cancelled) {
+        again = shrinkByOneStep(database, m_options.limits);
+        checkpoint(database);
+    }
+    // In a burst the journal would only have to grow again.
+    if (!m_notified) {
+        shrinkJournal(database, m_options.limits);
+    }
 }
 
 Step WorkerLoop::deliver(Work &work)
@@ -105,6 +120,10 @@ Step WorkerLoop::deliver(Work &work)
         step = work.sender->step();
         if (step.kind != Step::Kind::Progress) {
             break;
+        }
+        // A large backlog is written to the journal as a whole.
+        if (work.database.journalPages() >= m_options.limits.largeJournalPages) {
+            checkpoint(work.database);
         }
     }
     if (!finishErasure(work.database)) {
@@ -123,6 +142,7 @@ void WorkerLoop::finish(Work &work)
             break;
         }
     }
+    shrink(work.database);
 }
 
 std::chrono::milliseconds WorkerLoop::untilDue(std::int64_t due) const

@@ -38,6 +38,7 @@ private:
     void round(Work &work);
     Step deliver(Work &work);
     void finish(Work &work);
+    void shrink(Database &database);
     std::chrono::milliseconds untilDue(std::int64_t due) const;
     // False when the worker is to end.
     bool sleep();

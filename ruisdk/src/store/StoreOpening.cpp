@@ -12,6 +12,7 @@
 #include "store/Readability.h"
 #include "store/Schema.h"
 #include "store/SetAside.h"
+#include "store/Shrinking.h"
 #include "store/SqliteError.h"
 
 #include <filesystem>
@@ -53,6 +54,9 @@ Database openChecked(const StorePaths &paths, const OpeningOptions &options,
     Database database(paths.database(), Database::Access::ReadWrite, busyLimit);
     // Before the journal mode, which would be written to somebody else's database.
     const bool exists = hasSchema(database);
+    if (!exists) {
+        allowShrinking(database);
+    }
     configure(database, options);
     if (exists) {
         migrateSchema(database);
