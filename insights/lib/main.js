@@ -12,6 +12,7 @@ const commands = {
     check: () => import("./commands/check.js"),
     erase: () => import("./commands/erase.js"),
     list: () => import("./commands/list.js"),
+    report: () => import("./commands/report.js"),
     simulate: () => import("./commands/simulate.js"),
 };
 

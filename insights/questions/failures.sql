@@ -5,7 +5,7 @@
 -- sentence: How often do images fail, with which camera model and version?
 -- read: The share of failed images among all images that the stream counted. Grabs without these
 --   counters are not in it.
--- picture: bars x=model y=rate by=version
+-- picture: heat x=version y=model by=rate
 -- columns: model String, version String, clients UInt64, grabs UInt64, images UInt64, failed
 --   UInt64, rate Float64
 -- order: others last, rate falling, model, version

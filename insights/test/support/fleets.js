@@ -15,7 +15,7 @@ import { Truth } from "../../fleet/truth/truth.js";
 import { writeFleet } from "../../fleet/write.js";
 
 const day = 86400e6;
-const program = fileURLToPath(new URL("../../bin/nerix-insights", import.meta.url));
+export const program = fileURLToPath(new URL("../../bin/nerix-insights", import.meta.url));
 const askAll = fileURLToPath(new URL("ask-all.js", import.meta.url));
 
 export const today = Math.floor(Date.now() * 1000 / day) * day;
