@@ -8,6 +8,7 @@
 #include "store/Shrinking.h"
 
 #include <algorithm>
+#include <cstdio>
 
 namespace rui {
 
@@ -20,6 +21,16 @@ constexpr std::int64_t expiryEvery = 3600 * nanosecondsPerSecond;
 std::shared_ptr<BusyLimit> workerBusyLimit(const Limits &limits)
 {
     return std::make_shared<BusyLimit>(limits.callBusyLimit);
+}
+
+// Somebody has to mend it, and no call of the program fails because of it.
+void sayOnce(const std::string &reason)
+{
+    static std::once_flag once;
+    std::call_once(once, [&] {
+        std::fprintf(stderr, "ruiSDK: %s; nothing is delivered until this user may open it\n",
+                     reason.c_str());
+    });
 }
 
 void checkpoint(Database &database)
@@ -118,6 +129,9 @@ Step WorkerLoop::deliver(Work &work)
     Step step;
     while (work.sender && !m_deliveryEnded) {
         step = work.sender->step();
+        if (step.kind == Step::Kind::NoLock) {
+            sayOnce(step.reason);
+        }
         if (step.kind != Step::Kind::Progress) {
             break;
         }

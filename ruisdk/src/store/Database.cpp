@@ -15,29 +15,33 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The time that a waiter has slept before its n-th try; sleeps double up to 5 ms. SQLite's own
-// handler sleeps up to 100 ms, which a user of several writers would feel.
+// Sleeps double up to 5 ms. SQLite's own handler sleeps up to 100 ms, which a user of several
+// writers would feel.
 std::chrono::microseconds sleepBefore(int tries)
 {
     return tries < 7 ? 50us * (1 << tries) : std::chrono::microseconds(5ms);
 }
 
-int waitForLock(void *data, int tries)
+} // namespace
+
+// By the clock: on a busy machine a sleep takes longer than it was asked for.
+int Database::Patience::wait(void *self, int tries)
 {
-    const auto *busy = static_cast<const BusyLimit *>(data);
+    auto &patience = *static_cast<Patience *>(self);
+    const auto now = std::chrono::steady_clock::now();
+    if (tries == 0) {
+        patience.m_end = now + patience.m_limit->limit;
+    }
     const auto sleep = sleepBefore(tries);
-    // The first seven sleeps are 6 ms together; counting them as 5 ms each errs on the short side.
-    if (busy->giveUp || 5ms * tries >= busy->limit) {
+    if (patience.m_limit->giveUp || now + sleep >= patience.m_end) {
         return 0;
     }
     std::this_thread::sleep_for(sleep);
     return 1;
 }
 
-} // namespace
-
 Database::Database(const std::string &path, Access access, std::shared_ptr<BusyLimit> busyLimit)
-    : m_busyLimit(std::move(busyLimit))
+    : m_patience(std::make_unique<Patience>(std::move(busyLimit)))
     , m_path(path)
 {
     const int mode = access == Access::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
@@ -60,7 +64,7 @@ Database::Database(const std::string &path, Access access, std::shared_ptr<BusyL
 
 void Database::waitForLocks() const noexcept
 {
-    sqlite3_busy_handler(m_connection.get(), waitForLock, m_busyLimit.get());
+    sqlite3_busy_handler(m_connection.get(), &Patience::wait, m_patience.get());
 }
 
 void Database::execute(const std::string &sql)

@@ -83,8 +83,22 @@ private:
             sqlite3_close_v2(connection);
         }
     };
+    // What SQLite calls while a lock is held by another connection.
+    class Patience
+    {
+    public:
+        explicit Patience(std::shared_ptr<BusyLimit> limit)
+            : m_limit(std::move(limit))
+        {}
+        // 0 when the waiting is over.
+        static int wait(void *self, int tries);
+
+    private:
+        const std::shared_ptr<BusyLimit> m_limit;
+        std::chrono::steady_clock::time_point m_end;
+    };
     // Stand before the connection, which uses them until it is closed.
-    std::shared_ptr<BusyLimit> m_busyLimit;
+    std::unique_ptr<Patience> m_patience;
     std::unique_ptr<int> m_journalPages;
     std::string m_path;
     dev_t m_device = 0;

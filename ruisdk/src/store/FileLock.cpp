@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/FileLock.h"
 
+#include "store/PrivateFiles.h"
 #include "store/SystemError.h"
 
 #include <fcntl.h>
@@ -20,6 +21,7 @@ FileLock::FileLock(const std::string &path)
     if (m_descriptor < 0) {
         throw SystemError(path, errno);
     }
+    giveToOwnerOfDirectory(m_descriptor, path);
 }
 
 FileLock::~FileLock()

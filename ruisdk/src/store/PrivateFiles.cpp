@@ -56,11 +56,25 @@ void makePrivateFile(const std::string &path)
     // file drops every POSIX lock that this process holds on it, SQLite's included.
     const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (descriptor >= 0) {
+        giveToOwnerOfDirectory(descriptor, path);
         close(descriptor);
     } else if (errno != EEXIST) {
         throw SystemError(path, errno);
     } else if (isOursAndOpen(path)) {
         chmod(path.c_str(), 0600);
+    }
+}
+
+void giveToOwnerOfDirectory(int descriptor, const std::string &path) noexcept
+{
+    const std::size_t slash = path.rfind('/');
+    const std::string directory = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+    struct stat owner = {};
+    struct stat file = {};
+    if (geteuid() == 0 && stat(directory.c_str(), &owner) == 0 && fstat(descriptor, &file) == 0
+        && file.st_uid == 0 && owner.st_uid != 0) {
+        // What fails is said by whoever needs the file.
+        [[maybe_unused]] const int ignored = fchown(descriptor, owner.st_uid, owner.st_gid);
     }
 }
 

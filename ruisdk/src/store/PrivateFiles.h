@@ -15,6 +15,11 @@ void makePrivateDirectory(const std::string &path);
 // opened. SQLite gives its side files the same mode. Throws Failure with RUI_STORAGE.
 void makePrivateFile(const std::string &path);
 
+// Gives a file that root has opened to the owner of the directory that it stands in, whom it would
+// lock out otherwise; does nothing for anybody else. Throws nothing: where that is not allowed, it
+// is said by whoever cannot open the file.
+void giveToOwnerOfDirectory(int descriptor, const std::string &path) noexcept;
+
 // A symbolic link in the place of one of the directory's files would let us write to a file of
 // somebody else. Throws Failure with RUI_STORAGE.
 void requirePlainFiles(const StorePaths &paths);

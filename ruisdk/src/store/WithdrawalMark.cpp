@@ -3,6 +3,7 @@
 #include "store/WithdrawalMark.h"
 
 #include "core/Random.h"
+#include "store/PrivateFiles.h"
 #include "store/SystemError.h"
 
 #include <fcntl.h>
@@ -153,6 +154,7 @@ std::string WithdrawalMark::create()
         if (m_descriptor < 0) {
             throw SystemError(m_path, errno);
         }
+        giveToOwnerOfDirectory(m_descriptor, m_path);
     }
     if (ftruncate(m_descriptor, 0) != 0) {
         throw SystemError(m_path, errno);
