@@ -2,8 +2,9 @@
 # SPDX-FileCopyrightText: 2026 Ostrand
 # SPDX-License-Identifier: MIT
 #
-# test.sh: builds and passes the tests: all of them as developers build (dev), and once more with
-# the sanitizers those that have threads, parse, or lose a camera.
+# test.sh: builds and passes the tests: those of the receiving side (insights/), all others as
+# developers build (dev), and once more with the sanitizers those that have threads, parse, or lose
+# a camera.
 # test.sh PRESET...: all tests of these presets (dev, release, asan, tsan); of tsan without the few
 # that it cannot follow.
 # NERIX_CTEST_OPTIONS: further options of ctest, for example "--repeat until-pass:2".
@@ -52,6 +53,8 @@ if [[ $# -gt 0 ]]; then
         run_all "$preset"
     done
 else
+    echo "== insights: tests"
+    insights/test.sh
     run_all dev
     run_some asan "$asan_tests"
     run_some tsan "$tsan_tests"

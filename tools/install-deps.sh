@@ -46,6 +46,9 @@ test=(
     appstream desktop-file-utils
 )
 
+# the receiving side; a Node.js of another source serves as well
+command -v node >/dev/null && command -v npm >/dev/null || test+=(nodejs npm)
+
 wanted=()
 for group in "${@:-test}"; do
     case $group in

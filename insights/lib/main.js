@@ -13,6 +13,7 @@ const commands = {
     erase: () => import("./commands/erase.js"),
     list: () => import("./commands/list.js"),
     report: () => import("./commands/report.js"),
+    schema: () => import("./commands/schema.js"),
     simulate: () => import("./commands/simulate.js"),
 };
 

@@ -19,6 +19,11 @@ async function openEngine({ data, server }) {
     return data === undefined ? ServerEngine.open(server) : EmbeddedEngine.open(data);
 }
 
+// The database over all shards has only what is asked; each shard keeps itself in order.
+function isOverAllShards({ server }) {
+    return server !== undefined && process.env.NERIX_INSIGHTS_DATABASE === "nerix_insights_all";
+}
+
 const appliedTable = "CREATE TABLE IF NOT EXISTS applied_schema (schema String,"
     + " at DateTime('UTC') DEFAULT now()) ENGINE = MergeTree ORDER BY at";
 
@@ -44,8 +49,10 @@ async function applySchema(engine) {
 export async function openStore(options) {
     const engine = await openEngine(options);
     try {
-        await applySchema(engine);
-        await refresh(engine);
+        if (!isOverAllShards(options)) {
+            await applySchema(engine);
+            await refresh(engine);
+        }
     } catch (error) {
         await engine.close();
         throw error;

@@ -4,26 +4,27 @@ import { createReadStream } from "node:fs";
 import { UserError } from "../user-error.js";
 import { settings } from "./settings.js";
 
-const database = "nerix_insights";
-
-function environment(name) {
-    return process.env[`NERIX_INSIGHTS_${name}`] ?? "";
+function environment(name, otherwise) {
+    return process.env[`NERIX_INSIGHTS_${name}`] || otherwise;
 }
 
 function checkedUrl(text) {
-    const url = URL.canParse?.(text) ?? true ? new URL(text) : null;
-    if (!url || !["http:", "https:"].includes(url.protocol)) {
+    if (!/^https?:\/\/[^\s]+$/.test(text)) {
         throw new UserError(`--server ${text}: give an address such as https://clickhouse.example.com:8443`);
     }
-    return url;
+    return new URL(text);
 }
 
-/** A ClickHouse server, through its HTTP interface; the same operations as EmbeddedEngine. */
+/**
+ * A ClickHouse server, through its HTTP interface; the same operations as EmbeddedEngine. User and
+ * password come from NERIX_INSIGHTS_USER and NERIX_INSIGHTS_PASSWORD, and another database than
+ * nerix_insights from NERIX_INSIGHTS_DATABASE.
+ */
 export class ServerEngine {
     static async open(address) {
         const engine = new ServerEngine();
         engine.url = checkedUrl(address);
-        await engine.request(`CREATE DATABASE IF NOT EXISTS ${database}`, {}, undefined, "default");
+        await engine.request("CREATE DATABASE IF NOT EXISTS nerix_insights", {}, undefined, "default");
         return engine;
     }
 
@@ -31,7 +32,7 @@ export class ServerEngine {
 
     lineSource = "input('line String')";
 
-    async request(sql, parameters, body, inDatabase = database) {
+    async request(sql, parameters, body, inDatabase = environment("DATABASE", "nerix_insights")) {
         const url = new URL(this.url);
         for (const [name, value] of Object.entries({ database: inDatabase, ...settings })) {
             url.searchParams.set(name, value);
@@ -45,10 +46,10 @@ export class ServerEngine {
         let response;
         try {
             response = await fetch(url, { method: "POST", body: body ?? sql, duplex: "half", headers: {
-                "X-ClickHouse-User": environment("USER") || "default",
-                "X-ClickHouse-Key": environment("PASSWORD") } });
+                "X-ClickHouse-User": environment("USER", "default"),
+                "X-ClickHouse-Key": environment("PASSWORD", "") } });
         } catch (error) {
-            throw new UserError(`${this.url.host} cannot be reached (${error.cause?.code ?? error.message});`
+            throw new UserError(`${this.url.host} cannot be reached (${error.cause?.code ?? error.cause?.message ?? error.message});`
                 + " look at --server and at the network");
         }
         const text = await response.text();

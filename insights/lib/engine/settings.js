@@ -19,6 +19,8 @@ export const settings = {
     do_not_merge_across_partitions_select_final: 1,
     // A week that has lost its last event has none in its roll-up either.
     allow_replace_partition_from_empty_source: 1,
+    // On a cluster, tables over all shards are asked for lists that come from all shards too.
+    distributed_product_mode: "global",
     // Deleting is done when the command has ended.
     mutations_sync: 2,
     output_format_json_quote_64bit_integers: 0,
