@@ -49,7 +49,8 @@ enum ruiResult {
     RUI_OPTED_OUT = 7,    /* consent was withdrawn since this session began; nothing is stored */
     RUI_TOO_LARGE = 8,    /* the event is larger than 1 MiB */
     RUI_BUSY = 9,         /* another process kept the database locked; the call may be repeated */
-    RUI_INTERNAL = 10     /* out of memory, or a defect of the library */
+    RUI_INTERNAL = 10,    /* out of memory, or a defect of the library */
+    RUI_FORBIDDEN = 12    /* the machine's administrator or DO_NOT_TRACK forbids it */
 };
 
 /* OTLP over HTTP, the one protocol that ruiCreateConfig accepts. */
@@ -107,6 +108,11 @@ RUI_API int32_t ruiSetProductData(ruiInstance instance, const char *edition, con
 /*
  * Begins the session. From here on events are accepted, and a thread of the library delivers
  * them. A first session, and the first one after an opt-out, gets a new random client id.
+ *
+ * RUI_FORBIDDEN: the environment has DO_NOT_TRACK, or the machine's administrator has forbidden to
+ *     store events: then nothing is stored or sent, and by the administrator's word what waits is
+ *     deleted. ruiGetPolicy tells which it is. Delivery alone that is forbidden is no error: events
+ *     stay on this machine.
  *
  * On an instance that has opted out it only delivers the opt-out: track calls are RUI_OPTED_OUT.
  */

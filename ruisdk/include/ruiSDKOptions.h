@@ -29,6 +29,25 @@ enum { RUI_CLIENT_ID_SIZE = 37 };
  */
 RUI_API int32_t ruiGetClientId(ruiInstance instance, char *buffer, int32_t size);
 
+/* What ruiGetPolicy tells; their sum. */
+enum ruiPolicy {
+    RUI_POLICY_NO_STORING = 1,   /* ruiStartSDK is RUI_FORBIDDEN */
+    RUI_POLICY_NO_DELIVERY = 2,  /* nothing leaves this machine */
+    RUI_POLICY_DO_NOT_TRACK = 4, /* because of the environment, for this process alone */
+    RUI_POLICY_UNREADABLE = 8    /* because the file is there and makes no sense */
+};
+
+/*
+ * Tells what is forbidden, for a program that would not ask its user for a consent that cannot
+ * count: DO_NOT_TRACK in the environment (any value but an empty one, 0 and false), and the file
+ * of the machine's administrator, /etc/ruisdk/policy.json; docs/analytics.md describes it. With
+ * neither RUI_POLICY_DO_NOT_TRACK nor RUI_POLICY_UNREADABLE it is the administrator's word.
+ *
+ * productId: as for ruiCreateConfig.
+ * policy: set to the sum; 0: nothing is forbidden. Null is RUI_BAD_ARGUMENT.
+ */
+RUI_API int32_t ruiGetPolicy(const char *productId, int32_t *policy);
+
 #ifdef __cplusplus
 }
 #endif

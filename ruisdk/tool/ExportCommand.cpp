@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Commands.h"
 #include "delivery/HandOver.h"
+#include "store/Policy.h"
 #include "store/StoreOpening.h"
 
 namespace rui::tool {
@@ -14,6 +15,7 @@ void handOverTo(const Options &options, std::ostream &out)
     opening.create = false;
     Database database =
         openStore(paths, opening, std::make_shared<BusyLimit>(limits.callBusyLimit));
+    requireDelivery(database);
     const HandedOver done = handOver(database, paths, options.output, systemClock(), limits, {});
     if (done.records == 0) {
         out << "nothing waits; no file was written\n";

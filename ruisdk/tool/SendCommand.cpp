@@ -4,6 +4,7 @@
 #include "core/Failure.h"
 #include "delivery/CurlTransport.h"
 #include "delivery/Sender.h"
+#include "store/Policy.h"
 #include "store/Shrinking.h"
 #include "store/StoreOpening.h"
 
@@ -48,6 +49,7 @@ void sendNow(const Options &options, std::ostream &out)
     opening.create = false;
     Database database =
         openStore(paths, opening, std::make_shared<BusyLimit>(limits.callBusyLimit));
+    requireDelivery(database);
     CurlTransport transport(parseServerAddress(options.server), {});
     SenderMemory memory;
     Sender sender(database, paths.senderLock(), transport, systemClock(), limits, {}, randomJitter,

@@ -21,7 +21,7 @@ TEST(Exports, AreTheFunctionsOfTheHeaderAndNothingElse)
     }
     EXPECT_EQ(names,
               (std::set<std::string>{"ruiCreateConfig", "ruiCreateInstance", "ruiDestroyInstance",
-                                     "ruiGetClientId", "ruiOptOut", "ruiResultText",
+                                     "ruiGetClientId", "ruiGetPolicy", "ruiOptOut", "ruiResultText",
                                      "ruiSetProductData", "ruiStartSDK", "ruiStopSDK",
                                      "ruiTrackEvent", "ruiTrackEventText", "ruiVersion"}));
 }

@@ -11,17 +11,13 @@
 
 namespace rui {
 
-// The way of every call of the header: finds the instance and runs the call on it; nothing that is
-// thrown gets past here. Any thread.
+// The way of every call of the header: nothing that is thrown gets past here. withInstance finds
+// the instance, and runs the call on it. Any thread.
 template <typename Call>
-int32_t withInstance(ruiInstance handle, Call call) noexcept
+int32_t resultOf(Call call) noexcept
 {
     try {
-        const std::shared_ptr<Instance> instance = HandleTable::process().find(handle);
-        if (!instance) {
-            return RUI_BAD_HANDLE;
-        }
-        call(*instance);
+        call();
         return RUI_OK;
     } catch (const Failure &failure) {
         return failure.result();
@@ -30,6 +26,18 @@ int32_t withInstance(ruiInstance handle, Call call) noexcept
     } catch (...) {
         return RUI_INTERNAL;
     }
+}
+
+template <typename Call>
+int32_t withInstance(ruiInstance handle, Call call) noexcept
+{
+    return resultOf([&] {
+        const std::shared_ptr<Instance> instance = HandleTable::process().find(handle);
+        if (!instance) {
+            throw Failure(RUI_BAD_HANDLE, "the instance is null, destroyed or not an instance");
+        }
+        call(*instance);
+    });
 }
 
 } // namespace rui

@@ -5,6 +5,7 @@
 #include "core/ExitHandler.h"
 #include "core/Failure.h"
 #include "delivery/CurlTransport.h"
+#include "store/Policy.h"
 
 namespace rui {
 
@@ -79,14 +80,28 @@ void Instance::start()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     require(m_state == State::Ready || m_state == State::Stopped);
+    if (m_withdrawal != Withdrawal::None) {
+        withdraw();
+    }
+    requirePermission();
     if (m_withdrawal == Withdrawal::None) {
         m_store->join(m_product);
         m_store->noteServer(m_config.server ? m_config.server->url : std::string());
-    } else {
-        withdraw();
     }
     startWorker();
     m_state = State::Running;
+}
+
+void Instance::requirePermission()
+{
+    const Policy policy = readPolicy(m_config.productId);
+    if (!policy.forbidsStoring) {
+        return;
+    }
+    if (policy.isProhibitedByAdministrator()) {
+        m_store->forget();
+    }
+    throw Failure(RUI_FORBIDDEN, policy.problem ? *policy.problem : "recording is forbidden");
 }
 
 void Instance::startWorker()

@@ -58,6 +58,7 @@ private:
 
     void require(bool allowed) const;
     void withdraw();
+    void requirePermission();
     void startWorker();
     std::unique_ptr<Worker> endSession(State next);
     std::chrono::milliseconds stopLimit() noexcept;

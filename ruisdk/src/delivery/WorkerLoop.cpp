@@ -4,6 +4,7 @@
 
 #include "core/Failure.h"
 #include "store/Erasure.h"
+#include "store/Policy.h"
 #include "store/Quota.h"
 #include "store/Shrinking.h"
 
@@ -127,7 +128,7 @@ void WorkerLoop::shrink(Database &database)
 Step WorkerLoop::deliver(Work &work)
 {
     Step step;
-    while (work.sender && !m_deliveryEnded) {
+    while (work.sender && !m_deliveryEnded && !isDeliveryForbidden(work.database)) {
         step = work.sender->step();
         if (step.kind == Step::Kind::NoLock) {
             sayOnce(step.reason);

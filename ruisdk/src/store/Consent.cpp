@@ -69,6 +69,21 @@ void setWithdrawn(const Database &database, const std::string &token)
     database.prepare("UPDATE state SET withdrawn = ?1").bind(1, token).run();
 }
 
+// Part of the caller's transaction, as all that follows.
+void deleteRecords(Database &database)
+{
+    deleteAllEvents(database);
+    database.execute("DELETE FROM loss; DELETE FROM notice WHERE kind = 'loss'");
+}
+
+void retireClient(Database &database)
+{
+    database.execute("DELETE FROM resource WHERE id NOT IN (SELECT resource FROM notice);"
+                     "UPDATE state SET epoch = epoch + 1, client = NULL,"
+                     " not_before = 0, failures = 0");
+    requestErasure(database);
+}
+
 // Deletes what the client has stored, and leaves the record of the opt-out.
 void endClient(Database &database, const std::string &client, const Product *product,
                std::int64_t now)
@@ -76,15 +91,11 @@ void endClient(Database &database, const std::string &client, const Product *pro
     const std::int64_t seq = nextSequence(database);
     const std::int64_t resource = product != nullptr ? resourceId(database, client, *product)
                                                      : newestResource(database, client);
-    deleteAllEvents(database);
-    database.execute("DELETE FROM loss; DELETE FROM notice WHERE kind = 'loss'");
+    deleteRecords(database);
     if (resource != 0) {
         addNotice(database, {seq, NoticeKind::OptOut, now, resource, ""});
     }
-    database.execute("DELETE FROM resource WHERE id NOT IN (SELECT resource FROM notice);"
-                     "UPDATE state SET epoch = epoch + 1, client = NULL,"
-                     " not_before = 0, failures = 0");
-    requestErasure(database);
+    retireClient(database);
 }
 
 // Part of the caller's transaction.
@@ -146,6 +157,20 @@ void withdrawConsent(Database &database, WithdrawalMark &mark, const Product *pr
     carryOut(database, token, product, now);
     transaction.commit();
     mark.noteDone(token);
+}
+
+void endConsent(Database &database)
+{
+    Transaction transaction(database);
+    const bool isEmpty =
+        database.integer("SELECT client IS NULL AND NOT EXISTS(SELECT 1 FROM event)"
+                         " AND NOT EXISTS(SELECT 1 FROM delivered) FROM state")
+        != 0;
+    if (!isEmpty) {
+        deleteRecords(database);
+        retireClient(database);
+        transaction.commit();
+    }
 }
 
 void forgetRetiredClients(Database &database)

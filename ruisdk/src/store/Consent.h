@@ -43,6 +43,11 @@ Membership joinConsent(Database &database, WithdrawalMark &mark, const Product &
 void withdrawConsent(Database &database, WithdrawalMark &mark, const Product *product,
                      std::int64_t now);
 
+// Ends the consent without a record of it; one that waits for delivery stays. What is deleted is
+// still to be erased. Does nothing when there is nothing to delete. One transaction. Throws
+// SqliteError.
+void endConsent(Database &database);
+
 // Deletes the client ids that nothing waits for any more; they are still to be erased. Part of the
 // caller's transaction. Throws SqliteError.
 void forgetRetiredClients(Database &database);

@@ -117,6 +117,14 @@ void Store::noteServer(const std::string &url) noexcept
     }
 }
 
+void Store::forget()
+{
+    recovering([](Connection &current) {
+        endConsent(current.database);
+        tryErasure(current.database);
+    });
+}
+
 std::string Store::clientId()
 {
     std::string id;

@@ -43,6 +43,11 @@ public:
     // Empty when there is none.
     std::string clientId();
 
+    // Deletes what was recorded and retires the client id, as a withdrawal does, but leaves no
+    // record of it: the machine's administrator has forbidden to store. Open sessions are
+    // RUI_OPTED_OUT from here on.
+    void forget();
+
     // An opt-out waits for delivery.
     bool hasOptOut();
 
