@@ -29,7 +29,7 @@ string(JOIN ", " CPACK_DEBIAN_UNSPECIFIED_PACKAGE_DEPENDS
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2
     qml-module-qtquick-templates2 qml-module-qtgraphicaleffects libqt5svg5
     qt5-image-formats-plugins)
-set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_RECOMMENDS "fonts-noto-cjk, qttranslations5-l10n")
+set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_RECOMMENDS "fonts-dejavu-core | fonts-freefont-ttf, fonts-noto-cjk, qttranslations5-l10n")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME nerix-viewer-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)

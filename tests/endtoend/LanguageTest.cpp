@@ -15,6 +15,8 @@ private Q_SLOTS:
     void testChoiceTakesEffectAtOnceInTheViewerAndInThePlugin();
     void testChoiceIsRemembered();
     void testLanguageOfTheSystemIsTheDefault();
+    void testLanguageWithoutAFontIsNamedInTheLog_data();
+    void testLanguageWithoutAFontIsNamedInTheLog();
 };
 
 namespace {
@@ -97,6 +99,40 @@ void LanguageTest::testLanguageOfTheSystemIsTheDefault()
     viewer.setEnvironment("LC_ALL", "ja_JP.UTF-8");
     QCOMPARE(viewer.run(printTexts + "texts();"), 0);
     QCOMPARE(viewer.printed(), japanese());
+}
+
+void LanguageTest::testLanguageWithoutAFontIsNamedInTheLog_data()
+{
+    QTest::addColumn<QString>("fontFolder");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("warnings");
+    QTest::newRow("Japanese, all fonts of the machine") << "/usr/share/fonts"
+                                                        << "ja_JP" << 0;
+    for (const char *language : {"ja_JP", "ko_KR", "zh_CN"}) {
+        QTest::addRow("%s, Latin letters alone", language)
+            << "/usr/share/fonts/truetype/dejavu" << language << 1;
+    }
+    QTest::newRow("English, Latin letters alone") << "/usr/share/fonts/truetype/dejavu"
+                                                  << "en_US" << 0;
+}
+
+void LanguageTest::testLanguageWithoutAFontIsNamedInTheLog()
+{
+    QFETCH(QString, fontFolder);
+    QFETCH(QString, language);
+    CViewerProcess viewer;
+    QFile fonts(viewer.path("fonts.conf"));
+    QVERIFY(fonts.open(QIODevice::WriteOnly));
+    fonts.write("<fontconfig><dir>" + fontFolder.toUtf8() + "</dir><cachedir>"
+                + viewer.path("cache").toUtf8() + "</cachedir></fontconfig>");
+    fonts.close();
+    viewer.setEnvironment("FONTCONFIG_FILE", fonts.fileName());
+    viewer.setEnvironment("QT_QPA_PLATFORM", "offscreen");
+    viewer.setEnvironment("LC_ALL", language + ".UTF-8");
+    QCOMPARE(viewer.run("print(language.get());"), 0);
+    const QStringList told =
+        viewer.logged().filter("no font has the letters of the language \"" + language + "\"");
+    QTEST(int(told.size()), "warnings");
 }
 
 QTEST_GUILESS_MAIN(LanguageTest)

@@ -31,7 +31,10 @@ public:
     /// The caption, translated.
     const QString &tabTitle() const;
 
-    /// The page to load.
+    /// The page to load, an `Item`. The window begins with the page's `implicitWidth` and
+    /// `implicitHeight` and scrolls it when there is less room; where there is more, the page is
+    /// made larger. For a page without an implicit size its `width` and `height` count, and 640 x
+    /// 400 for one that has neither.
     const QUrl &tabQmlSource() const;
 
     /// True while the user must not leave the welcome screen, because the tab holds a question that

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void testPageIsLoadedOnceAndOnlyWhenItIsSeen();
     void testTabThatIsGoneTakesItsPageAlong();
     void testPageHasTheSizeOfTheWindow();
+    void testPageBeginsWithASize_data();
+    void testPageBeginsWithASize();
     void testWindowIsNotLargerThanTheScreen();
     void testWindowStandsOverItsParent_data();
     void testWindowStandsOverItsParent();
@@ -172,6 +174,33 @@ void WelcomeWindowTest::testPageHasTheSizeOfTheWindow()
     // It scrolls rather than losing a part.
     m_screen->window->resize(around + QSize(300, 200));
     QCOMPARE(QSizeF(item->width(), item->height()), QSizeF(400, 300));
+}
+
+void WelcomeWindowTest::testPageBeginsWithASize_data()
+{
+    QTest::addColumn<QString>("properties");
+    QTest::addColumn<QSize>("size");
+
+    QTest::newRow("the implicit one")
+        << "implicitWidth: 500; implicitHeight: 350" << QSize(500, 350);
+    QTest::newRow("the implicit one before the other")
+        << "implicitWidth: 500; implicitHeight: 350; width: 80; height: 90" << QSize(500, 350);
+    QTest::newRow("its own without an implicit one")
+        << "width: 450; height: 320" << QSize(450, 320);
+    QTest::newRow("a usual one without any") << "" << QSize(640, 400);
+    QTest::newRow("a usual height for a page that only has a width")
+        << "implicitWidth: 500" << QSize(500, 400);
+}
+
+void WelcomeWindowTest::testPageBeginsWithASize()
+{
+    QFETCH(QString, properties);
+    CPageTab tab("import QtQuick 2.12\nItem { " + properties + " }");
+    m_screen->controller.addTab(&tab);
+    m_screen->makeWindow();
+    m_screen->controller.show();
+    const auto *item = m_screen->page()->quickWindow()->contentItem()->childItems().at(0);
+    QTEST(QSizeF(item->width(), item->height()).toSize(), "size");
 }
 
 // The screen of this test has 800 x 800 pixels.

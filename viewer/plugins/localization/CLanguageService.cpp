@@ -3,6 +3,8 @@
 
 #include "plugins/localization/CLanguageService.h"
 
+#include "plugins/localization/MissingFonts.h"
+
 #include <utility>
 
 #include <QLocale>
@@ -73,6 +75,7 @@ void CLanguageService::apply()
 {
     warnOfUnknownChoice();
     const QString current = language();
+    warnOfMissingFonts(current);
     m_qtTexts.setLanguage(current);
     m_switchPlugins(current);
     Q_EMIT languageChanged(current);

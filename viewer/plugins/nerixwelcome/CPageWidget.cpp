@@ -12,13 +12,32 @@
 namespace Plugin {
 namespace NerixWelcome {
 
+namespace {
+
+// Of a page that tells no size: enough for some lines of text.
+constexpr QSizeF defaultSize(640, 400);
+
+qreal firstOf(qreal implicitLength, qreal length, qreal otherwise)
+{
+    return implicitLength > 0 ? implicitLength : length > 0 ? length : otherwise;
+}
+
+QSize smallestSize(const QQuickItem &page)
+{
+    return QSizeF(firstOf(page.implicitWidth(), page.width(), defaultSize.width()),
+                  firstOf(page.implicitHeight(), page.height(), defaultSize.height()))
+        .toSize();
+}
+
+} // namespace
+
 CPageWidget::CPageWidget(QQmlEngine &engine, QQuickItem &page, QWidget *parent)
     : QQuickWidget(&engine, parent)
     , m_page(&page)
 {
     installPageAccessibility();
     setFocusPolicy(Qt::StrongFocus);
-    setMinimumSize(QSizeF(page.implicitWidth(), page.implicitHeight()).toSize());
+    setMinimumSize(smallestSize(page));
     page.setParentItem(quickWindow()->contentItem());
     connect(quickWindow(), &QQuickWindow::activeFocusItemChanged, this, &CPageWidget::followFocus);
 }
