@@ -39,7 +39,7 @@ while [[ $# -gt 0 ]]; do
     --only) commands=("$2") ;;
     --preset) presets+=("$2") ;;
     --base) base=$(realpath "$2") ;;
-    --ccache) mkdir -p "$2" && cache=$(realpath "$2") ;;
+    --ccache) mkdir -p "$2" && chmod 1777 "$2" && cache=$(realpath "$2") ;;
     --logs) mkdir -p "$2" && logs=$(realpath "$2") ;;
     esac
     shift 2

@@ -19,22 +19,23 @@ class DocumentsTest : public QObject
 private Q_SLOTS:
     void initTestCase();
 
-    void testCommand_data();
-    void testCommand();
+    void testCommands_data();
+    void testCommands();
     void testScript_data();
     void testScript();
     void testEveryFunctionOfAScriptIsDescribed();
     void testPluginExampleIsQuotedAsItIs();
+    void testLinksLeadToFiles_data();
+    void testLinksLeadToFiles();
 
 private:
-    QProcessEnvironment environmentFor(const QString &folder) const;
-
     QTemporaryDir m_folder;
 };
 
 namespace {
 
-const QStringList documents = {"README.md", "docs/scripting.md", "docs/plugins.md"};
+const QStringList documents = {"README.md", "docs/scripting.md", "docs/plugins.md",
+                               "docs/events.md"};
 
 // Set, so that what is installed runs from another place than what was built.
 bool install(const QString &prefix)
@@ -47,6 +48,42 @@ bool install(const QString &prefix)
         return false;
     }
     return true;
+}
+
+// What somebody has who has just logged in to a Debian without a desktop.
+QProcessEnvironment bareEnvironment(const QString &home)
+{
+    QProcessEnvironment environment;
+    environment.insert("HOME", home);
+    environment.insert("PATH", "/usr/local/bin:/usr/bin:/bin");
+    for (const char *name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS"}) {
+        if (qEnvironmentVariableIsSet(name)) {
+            environment.insert(name, qEnvironmentVariable(name));
+        }
+    }
+    return environment;
+}
+
+// What each of the commands writes.
+QStringList outputsInABareShell(const QList<ConsoleExample> &examples, const QString &folder)
+{
+    const QString mark = "==== end of a command ====\n";
+    QString script;
+    for (const ConsoleExample &example : examples) {
+        script += example.command + "\nprintf '" + mark.chopped(1) + "\\n'\n";
+    }
+    QProcess shell;
+    shell.setProcessEnvironment(bareEnvironment(folder + "/home"));
+    shell.setWorkingDirectory(folder);
+    shell.setProcessChannelMode(QProcess::MergedChannels);
+    shell.start("bash", {"-c", script});
+    shell.closeWriteChannel();
+    if (!shell.waitForFinished(240000)) {
+        return {};
+    }
+    QStringList outputs = QString::fromUtf8(shell.readAll()).split(mark);
+    outputs.removeLast();
+    return outputs;
 }
 
 // Every function of the viewer that a script can call, as "cameras.list" or "print".
@@ -76,64 +113,44 @@ QStringList functionsOfAScript()
 
 } // namespace
 
+// Each document has a home folder of its own, in which the viewer is installed as the README says,
+// and is read in the folder of the source.
 void DocumentsTest::initTestCase()
 {
-    QVERIFY(install(m_folder.filePath("prefix")));
     for (const QString &document : documents) {
         const QString folder = m_folder.filePath(QFileInfo(document).baseName());
         QVERIFY(QDir().mkpath(folder + "/home"));
         QVERIFY(QFile::link(NERIX_SOURCE_DIR "/tools", folder + "/tools"));
+        QVERIFY(QFile::link(m_folder.filePath("nerix"), folder + "/home/nerix"));
     }
+    QVERIFY(install(m_folder.filePath("nerix")));
 }
 
-QProcessEnvironment DocumentsTest::environmentFor(const QString &folder) const
+void DocumentsTest::testCommands_data()
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    const QString prefix = m_folder.filePath("prefix");
-    environment.insert("PATH", prefix + "/bin:" + environment.value("PATH"));
-    environment.insert("PREFIX", prefix);
-    environment.insert("EXAMPLES", NERIX_SOURCE_DIR "/docs/examples");
-    environment.insert("HOME", folder + "/home");
-    environment.insert("XDG_RUNTIME_DIR", folder + "/home");
-    for (const char *name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
-        environment.remove(name);
-    }
-    return environment;
-}
-
-void DocumentsTest::testCommand_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("output");
+    QTest::addColumn<QString>("document");
     for (const QString &document : documents) {
-        const auto examples = consoleExamples(readDocument(document));
-        QVERIFY(!examples.isEmpty());
-        for (const ConsoleExample &example : examples) {
-            const QString firstLine = example.command.section('\n', 0, 0);
-            QTest::newRow(qPrintable(document + ": " + firstLine))
-                << m_folder.filePath(QFileInfo(document).baseName()) << example.command
-                << example.output;
-        }
+        QTest::newRow(qPrintable(document)) << document;
     }
 }
 
-void DocumentsTest::testCommand()
+// One after the other, in a shell that knows nothing but what the document has told it.
+void DocumentsTest::testCommands()
 {
-    QFETCH(QString, folder);
-    QFETCH(QString, command);
-    if (qgetenv("NERIX_NETWORK") == "loopback" && command.contains("in-network-namespace")) {
+    QFETCH(QString, document);
+    const auto examples = consoleExamples(readDocument(document));
+    QVERIFY(!examples.isEmpty());
+    if (qgetenv("NERIX_NETWORK") == "loopback") {
         QSKIP("a network of its own is not granted");
     }
-    QFile::setPermissions(folder + "/home", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QProcess shell;
-    shell.setProcessEnvironment(environmentFor(folder));
-    shell.setWorkingDirectory(folder);
-    shell.setProcessChannelMode(QProcess::MergedChannels);
-    shell.start("bash", {"-c", command});
-    shell.closeWriteChannel();
-    QVERIFY(shell.waitForFinished(120000));
-    QTEST(QString::fromUtf8(shell.readAll()), "output");
+    const QStringList outputs =
+        outputsInABareShell(examples, m_folder.filePath(QFileInfo(document).baseName()));
+    QCOMPARE(outputs.size(), examples.size());
+    for (int index = 0; index < examples.size(); ++index) {
+        const ConsoleExample &example = examples.at(index);
+        QVERIFY2(outputs.at(index) == example.output,
+                 qPrintable("$ " + example.command + '\n' + outputs.at(index)));
+    }
 }
 
 void DocumentsTest::testScript_data()
@@ -180,6 +197,32 @@ void DocumentsTest::testPluginExampleIsQuotedAsItIs()
     QCOMPARE(blocks.size(), 3);
     for (const QString &block : blocks) {
         QVERIFY2(example.contains(block), qPrintable(block));
+    }
+}
+
+void DocumentsTest::testLinksLeadToFiles_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("in the repository, the README") << NERIX_SOURCE_DIR;
+    QTest::newRow("in the repository") << NERIX_SOURCE_DIR "/docs";
+    QTest::newRow("installed") << m_folder.filePath("nerix/share/doc/nerix-viewer");
+}
+
+void DocumentsTest::testLinksLeadToFiles()
+{
+    QFETCH(QString, folder);
+    const QRegularExpression link("\\]\\(([^)#:]+)(#[^)]*)?\\)");
+    const QFileInfoList files = QDir(folder).entryInfoList({"*.md"});
+    QVERIFY(!files.isEmpty());
+    for (const QFileInfo &document : files) {
+        QFile file(document.filePath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        auto links = link.globalMatch(QString::fromUtf8(file.readAll()));
+        while (links.hasNext()) {
+            const QString target = links.next().captured(1);
+            QVERIFY2(QFileInfo::exists(folder + '/' + target),
+                     qPrintable(document.fileName() + ": " + target));
+        }
     }
 }
 

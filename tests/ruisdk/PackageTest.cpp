@@ -34,4 +34,23 @@ TEST(Package, IsFoundAndUsedByAnOutsideProject)
     EXPECT_EQ(listed.output, "Outside\tRan\ttext\n") << listed.errors;
 }
 
+// What stands after the licence and the comment.
+std::string withoutHead(const std::string &file, const std::string &firstWord)
+{
+    const std::string text = readFile(file);
+    return text.substr(text.find(firstWord));
+}
+
+TEST(Package, DocumentShowsThatProject)
+{
+    const std::string document = readFile(RUI_DOCUMENT);
+    const std::string project = RUI_OUTSIDE_PROJECT;
+    EXPECT_NE(document.find("```c\n" + withoutHead(project + "/main.c", "#include") + "```\n"),
+              std::string::npos);
+    EXPECT_NE(document.find("```cmake\n"
+                            + withoutHead(project + "/CMakeLists.txt", "cmake_minimum_required")
+                            + "```\n"),
+              std::string::npos);
+}
+
 } // namespace

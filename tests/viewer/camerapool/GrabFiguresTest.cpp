@@ -3,6 +3,8 @@
 #include "plugins/camerapool/CGrabFigures.h"
 #include "plugins/camerapool/GrabErrors.h"
 
+#include <QFile>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 
@@ -23,6 +25,7 @@ private Q_SLOTS:
     void everyBufferStatusHasItsErrorCodeAndText_data();
     void everyBufferStatusHasItsErrorCodeAndText();
     void errorCodesAreDifferent();
+    void pageOfTheEventsNamesEveryErrorAndNoOther();
 };
 
 namespace {
@@ -127,6 +130,31 @@ void GrabFiguresTest::errorCodesAreDifferent()
     QCOMPARE(codes.size(), 10);
     QCOMPARE(noImageError().code, 0x0A000009u);
     QCOMPARE(QByteArray(noImageError().text), QByteArray("No image arrived in time."));
+}
+
+void GrabFiguresTest::pageOfTheEventsNamesEveryErrorAndNoOther()
+{
+    QStringList rows;
+    const auto addRow = [&rows](const CGrabError &error) {
+        rows += QStringLiteral("| `0x%1` | %2 |")
+                    .arg(error.code, 8, 16, QLatin1Char('0'))
+                    .arg(QString::fromUtf8(error.text));
+    };
+    for (int status = ARV_BUFFER_STATUS_UNKNOWN; status <= ARV_BUFFER_STATUS_ABORTED; ++status) {
+        if (status != ARV_BUFFER_STATUS_SUCCESS) {
+            addRow(grabError(ArvBufferStatus(status)));
+        }
+    }
+    addRow(noImageError());
+    rows.sort();
+
+    QFile page(NERIX_SOURCE_DIR "/docs/events.md");
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    QStringList described = QString::fromUtf8(page.readAll())
+                                .split('\n')
+                                .filter(QRegularExpression("^\\| `0x[0-9a-f]{8}` \\|"));
+    described.sort();
+    QCOMPARE(described, rows);
 }
 
 QTEST_GUILESS_MAIN(GrabFiguresTest)
