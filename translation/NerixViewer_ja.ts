@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>Application::EndQuestion</name>
+    <message>
+        <source>The viewer itself</source>
+        <translation>ビューアー自体</translation>
+    </message>
+    <message>
+        <source>Closing the cameras</source>
+        <translation>カメラを閉じる処理</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot;</source>
+        <translation>プラグイン「%1」</translation>
+    </message>
+    <message>
+        <source>The viewer is being closed, but this does not come to an end: %1. You can wait for it, or end the viewer without it.</source>
+        <translation>ビューアーを終了していますが、次のものが終わりません: %1。このまま待つか、待たずにビューアーを終了することができます。</translation>
+    </message>
+    <message>
+        <source>Everything else is saved.</source>
+        <translation>それ以外はすべて保存されています。</translation>
+    </message>
+    <message>
+        <source>What these plug-ins keep at the end is not saved yet: %1.</source>
+        <translation>次のプラグインが終了時に保存する内容は、まだ保存されていません: %1。</translation>
+    </message>
+    <message>
+        <source>Nerix Viewer</source>
+        <translation>Nerix Viewer</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>待つ(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;End Now</source>
+        <translation>今すぐ終了(&amp;E)</translation>
+    </message>
+</context>
+<context>
     <name>CameraSelector::CCameraCommands</name>
     <message>
         <source>&amp;Open Camera</source>

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>Application::EndQuestion</name>
+    <message>
+        <source>The viewer itself</source>
+        <translation>뷰어 자체</translation>
+    </message>
+    <message>
+        <source>Closing the cameras</source>
+        <translation>카메라 닫기</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot;</source>
+        <translation>플러그인 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The viewer is being closed, but this does not come to an end: %1. You can wait for it, or end the viewer without it.</source>
+        <translation>뷰어를 종료하는 중이지만 다음 항목이 끝나지 않습니다: %1. 계속 기다리거나, 기다리지 않고 뷰어를 종료할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Everything else is saved.</source>
+        <translation>그 밖의 것은 모두 저장되었습니다.</translation>
+    </message>
+    <message>
+        <source>What these plug-ins keep at the end is not saved yet: %1.</source>
+        <translation>다음 플러그인이 종료할 때 저장하는 내용은 아직 저장되지 않았습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Nerix Viewer</source>
+        <translation>Nerix Viewer</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>기다리기(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;End Now</source>
+        <translation>지금 종료(&amp;E)</translation>
+    </message>
+</context>
+<context>
     <name>CameraSelector::CCameraCommands</name>
     <message>
         <source>&amp;Open Camera</source>

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh" sourcelanguage="en">
 <context>
+    <name>Application::EndQuestion</name>
+    <message>
+        <source>The viewer itself</source>
+        <translation>查看器本身</translation>
+    </message>
+    <message>
+        <source>Closing the cameras</source>
+        <translation>关闭相机</translation>
+    </message>
+    <message>
+        <source>The plug-in &quot;%1&quot;</source>
+        <translation>插件“%1”</translation>
+    </message>
+    <message>
+        <source>The viewer is being closed, but this does not come to an end: %1. You can wait for it, or end the viewer without it.</source>
+        <translation>正在关闭查看器，但以下项目未能结束：%1。您可以继续等待，也可以不等它而直接结束查看器。</translation>
+    </message>
+    <message>
+        <source>Everything else is saved.</source>
+        <translation>其余内容均已保存。</translation>
+    </message>
+    <message>
+        <source>What these plug-ins keep at the end is not saved yet: %1.</source>
+        <translation>以下插件在结束时保存的内容尚未保存：%1。</translation>
+    </message>
+    <message>
+        <source>Nerix Viewer</source>
+        <translation>Nerix Viewer</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>等待(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;End Now</source>
+        <translation>立即结束(&amp;E)</translation>
+    </message>
+</context>
+<context>
     <name>CameraSelector::CCameraCommands</name>
     <message>
         <source>&amp;Open Camera</source>

@@ -5,10 +5,15 @@
 #include "application/CommandLine.h"
 #include "application/CQuitSignals.h"
 #include "application/CViewer.h"
+#include "application/EndQuestion.h"
 #include "application/LogOutput.h"
+#include "application/ProcessExit.h"
 
+#include <csignal>
 #include <cstdio>
+#include <cstring>
 
+#include <QSessionManager>
 #include <QTextCodec>
 
 namespace {
@@ -21,13 +26,13 @@ void readTextAsUtf8()
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
-Application::CommandLine commandLineOf(int argc, char **argv)
+QStringList argumentsOf(int argc, char **argv)
 {
     QStringList arguments;
     for (int index = 0; index < argc; ++index) {
         arguments.append(QString::fromLocal8Bit(argv[index]));
     }
-    return Application::parseCommandLine(arguments);
+    return arguments;
 }
 
 // Without a display Qt would end the program.
@@ -50,16 +55,43 @@ void scaleForFineScreens()
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
+// Qt would close all windows to see whether they agree, and end the viewer in the middle of it.
+void followSession(Application::CGuardedApplication &application, Application::CViewer &viewer)
+{
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &viewer,
+        [&viewer](QSessionManager &manager) {
+            if (!viewer.agreesToEndOfSession() && manager.allowsInteraction()) {
+                manager.release();
+                manager.cancel();
+            }
+        },
+        Qt::DirectConnection);
+    application.setQuitHandler([&viewer] { viewer.quitBySession(); });
+}
+
 int runViewer(int &argc, char **argv, const Application::CommandLine &commandLine)
 {
     Application::CGuardedApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     Application::CViewer viewer(commandLine);
     const Application::CQuitSignals quitSignals([&viewer] { viewer.quitBySignal(); });
+    const Application::CProcessExit processExit([&viewer] { viewer.shutDownWithoutDisplay(); });
+    followSession(application, viewer);
     viewer.start();
     const int status = QApplication::exec();
     viewer.shutDown();
     return status;
+}
+
+// A process of its own of the viewer, when that hangs.
+int askToEnd(int argc, char **argv)
+{
+    scaleForFineScreens();
+    const QStringList question = argumentsOf(argc, argv).mid(2);
+    argc = 1;
+    return Application::showEndQuestion(argc, argv, question);
 }
 
 } // namespace
@@ -67,7 +99,11 @@ int runViewer(int &argc, char **argv, const Application::CommandLine &commandLin
 int main(int argc, char **argv)
 {
     readTextAsUtf8();
-    const Application::CommandLine commandLine = commandLineOf(argc, argv);
+    if (argc > 1 && std::strcmp(argv[1], Application::endQuestionOption) == 0) {
+        return askToEnd(argc, argv);
+    }
+    const Application::CommandLine commandLine =
+        Application::parseCommandLine(argumentsOf(argc, argv));
     if (!commandLine.error.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(commandLine.error));
         return badCommandLine;
@@ -77,6 +113,8 @@ int main(int argc, char **argv)
         return 0;
     }
     Application::installLogOutput();
+    // Who reads the output may stop to do so: that is no reason to end without saving.
+    std::signal(SIGPIPE, SIG_IGN);
     chooseDisplay();
     scaleForFineScreens();
     return runViewer(argc, argv, commandLine);

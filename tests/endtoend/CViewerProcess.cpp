@@ -144,6 +144,27 @@ void CViewerProcess::terminate()
     m_process->terminate();
 }
 
+void CViewerProcess::send(int number)
+{
+    ::kill(pid_t(m_process->processId()), number);
+}
+
+void CViewerProcess::closeOutput()
+{
+    m_process->closeReadChannel(QProcess::StandardOutput);
+}
+
+bool CViewerProcess::endsWithin(int milliseconds)
+{
+    return QTest::qWaitFor([this] { return m_process->state() == QProcess::NotRunning; },
+                           milliseconds);
+}
+
+bool CViewerProcess::waitForLog(const QString &text, int milliseconds)
+{
+    return QTest::qWaitFor([&] { return !logged().filter(text).isEmpty(); }, milliseconds);
+}
+
 QStringList CViewerProcess::printed() const
 {
     return m_printed;

@@ -48,6 +48,18 @@ public:
     // SIGTERM.
     void terminate();
 
+    // Sends the signal \a number.
+    void send(int number);
+
+    // Nobody reads any more what the script prints.
+    void closeOutput();
+
+    // Whether the program ends within \a milliseconds.
+    bool endsWithin(int milliseconds);
+
+    // Whether a line that contains \a text is in the log before \a milliseconds have passed.
+    bool waitForLog(const QString &text, int milliseconds);
+
     // What the script printed, and what the viewer logged, in the last run.
     QStringList printed() const;
     QStringList logged() const;

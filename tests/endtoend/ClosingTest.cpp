@@ -4,6 +4,8 @@
 #include "CSimulatorProcess.h"
 #include "CViewerProcess.h"
 
+#include <csignal>
+
 #include <QTest>
 
 // However the viewer is ended, the session is ended in order.
@@ -34,27 +36,28 @@ QStringList namesOf(const QStringList &events)
 void ClosingTest::testEndsInOrder_data()
 {
     QTest::addColumn<QString>("script");
-    QTest::addColumn<bool>("bySignal");
+    QTest::addColumn<int>("signalNumber");
     QTest::addColumn<int>("status");
-    QTest::newRow("the end of the script") << "" << false << 0;
-    QTest::newRow("quit()") << "quit(); fail('not reached');" << false << 0;
+    QTest::newRow("the end of the script") << "" << 0 << 0;
+    QTest::newRow("quit()") << "quit(); fail('not reached');" << 0 << 0;
     QTest::newRow("the Quit entry")
-        << "menu.trigger('NerixViewer.Action.Quit'); sleep(600000);" << false << 0;
-    QTest::newRow("a script that fails") << "fail('reason');" << false << 1;
-    QTest::newRow("a signal while the script sleeps") << "sleep(600000);" << true << 1;
-    QTest::newRow("a signal while the script calculates") << "while (true) {}" << true << 1;
+        << "menu.trigger('NerixViewer.Action.Quit'); sleep(600000);" << 0 << 0;
+    QTest::newRow("a script that fails") << "fail('reason');" << 0 << 1;
+    QTest::newRow("a signal while the script sleeps") << "sleep(600000);" << SIGTERM << 1;
+    QTest::newRow("the end of the terminal") << "sleep(600000);" << SIGHUP << 1;
+    QTest::newRow("a signal while the script calculates") << "while (true) {}" << SIGTERM << 1;
 }
 
 void ClosingTest::testEndsInOrder()
 {
     QFETCH(QString, script);
-    QFETCH(bool, bySignal);
+    QFETCH(int, signalNumber);
     QFETCH(int, status);
     CViewerProcess viewer;
     viewer.start("print('begun');\n" + script);
     QVERIFY(viewer.waitForLine("begun"));
-    if (bySignal) {
-        viewer.terminate();
+    if (signalNumber != 0) {
+        viewer.send(signalNumber);
     }
     QCOMPARE(viewer.finish(), status);
     // Written at an orderly end only.

@@ -4,6 +4,7 @@
 #include "application/CGuardedApplication.h"
 
 #include <exception>
+#include <utility>
 
 namespace Application {
 
@@ -25,6 +26,20 @@ bool CGuardedApplication::notify(QObject *receiver, QEvent *event)
         m_exceptionLog.report(className, "of an unknown type");
     }
     return false;
+}
+
+void CGuardedApplication::setQuitHandler(std::function<void()> handler)
+{
+    m_quitHandler = std::move(handler);
+}
+
+bool CGuardedApplication::event(QEvent *event)
+{
+    if (event->type() == QEvent::Quit && m_quitHandler) {
+        m_quitHandler();
+        return true;
+    }
+    return QApplication::event(event);
 }
 
 } // namespace Application

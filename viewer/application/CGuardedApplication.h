@@ -4,6 +4,8 @@
 
 #include "application/CExceptionLog.h"
 
+#include <functional>
+
 #include <QApplication>
 
 namespace Application {
@@ -21,7 +23,14 @@ public:
 
     bool notify(QObject *receiver, QEvent *event) override;
 
+    /// Called when the session of the desktop ends, in place of leaving every event loop at once.
+    void setQuitHandler(std::function<void()> handler);
+
+protected:
+    bool event(QEvent *event) override;
+
 private:
+    std::function<void()> m_quitHandler;
     CExceptionLog m_exceptionLog;
 };
 

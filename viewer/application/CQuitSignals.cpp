@@ -34,6 +34,13 @@ void onSignal(int /*number*/)
     errno = savedErrno;
 }
 
+// Whoever started the viewer with nohup wants it to outlive the terminal.
+bool isIgnored(int number)
+{
+    struct sigaction action = {};
+    return sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
 void handleSignals(void (*handler)(int))
 {
     struct sigaction action = {};
@@ -42,6 +49,9 @@ void handleSignals(void (*handler)(int))
     sigemptyset(&action.sa_mask);
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);
+    if (!isIgnored(SIGHUP)) {
+        sigaction(SIGHUP, &action, nullptr);
+    }
 }
 
 } // namespace

@@ -9,8 +9,9 @@
 
 namespace Application {
 
-/// Turns SIGINT and SIGTERM into calls of a function, in a thread of its own: a script that
-/// calculates must be ended even while no event loop runs. At most one object at a time.
+/// Turns SIGINT, SIGTERM and SIGHUP (unless that is ignored) into calls of a function, in a thread
+/// of its own: a script that calculates must be ended even while no event loop runs. At most one
+/// object at a time.
 class CQuitSignals
 {
 public:

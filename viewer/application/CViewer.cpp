@@ -12,6 +12,8 @@
 
 #include <Core/Plugin/ServiceLookup.h>
 
+#include <pluginsystem/FailedDestructor.h>
+
 #include <chrono>
 #include <cstdio>
 #include <utility>
@@ -34,11 +36,15 @@ constexpr int scriptFailed = 1;
 // The first signal asks the plug-ins, this one does not.
 constexpr int insistingSignals = 2;
 
+// This one does not wait for what hangs.
+constexpr int endingSignals = 3;
+
 } // namespace
 
 CViewer::CViewer(const CommandLine &commandLine, QObject *parent)
     : QObject(parent)
     , m_commandLine(commandLine)
+    , m_endWatch(m_plugins, commandLine.showsWindows)
 {
     connect(&m_plugins.registry(), &Core::Plugin::IPluginInitializer::initializationDone, this,
             &CViewer::onPluginsInitialized);
@@ -65,8 +71,33 @@ void CViewer::start()
 void CViewer::shutDown()
 {
     m_isShuttingDown = true;
-    closeDevices(m_plugins.registry());
+    m_endWatch.expectCameras();
+    closeDevices(m_plugins.registry(), Waiting::WithEvents,
+                 [this] { return m_endWatch.guard().isInsistedOn(); });
+    PluginSystem::setStatusAfterFailedDestructor(m_status);
     m_plugins.shutDown();
+    m_endWatch.expectRest();
+}
+
+void CViewer::shutDownWithoutDisplay()
+{
+    qCWarning(log) << "the display is gone: the viewer ends";
+    if (!std::exchange(m_isShuttingDown, true)) {
+        keepLayout();
+    }
+    m_endWatch.expectCameras();
+    closeDevices(m_plugins.registry(), Waiting::WithoutEventLoop,
+                 [this] { return m_endWatch.guard().isInsistedOn(); });
+    m_plugins.uninitialize();
+}
+
+void CViewer::keepLayout()
+{
+    using Plugin::NerixViewer::IApplicationService;
+    if (const auto service =
+            Core::Plugin::findService<IApplicationService>(&m_plugins.registry())) {
+        Q_EMIT service->layoutIsToBeKept();
+    }
 }
 
 void CViewer::requestQuit()
@@ -77,11 +108,33 @@ void CViewer::requestQuit()
 
 void CViewer::quitBySignal()
 {
-    ++m_signalCount;
+    const int count = ++m_signalCount;
+    m_endWatch.guard().request();
     if (m_script) {
         m_script->interrupt();
     }
+    if (count >= endingSignals) {
+        m_endWatch.guard().insist();
+    } else if (count >= insistingSignals && m_script && m_script->isRunning()) {
+        m_endWatch.guard().insistOnStep();
+    }
     QMetaObject::invokeMethod(this, &CViewer::quit, Qt::QueuedConnection);
+}
+
+void CViewer::quitBySession()
+{
+    m_signalCount = qMax(m_signalCount.load(), insistingSignals - 1);
+    quitBySignal();
+}
+
+bool CViewer::agreesToEndOfSession()
+{
+    keepLayout();
+    QStringList objections;
+    const bool agrees = !m_isReady || m_plugins.canClose(&objections);
+    m_endWatch.rest();
+    tell(objections);
+    return agrees;
 }
 
 PluginSystem::CPluginManager &CViewer::plugins()
@@ -113,6 +166,9 @@ void CViewer::onPluginsInitialized()
                 &CViewer::requestQuit);
     }
     m_isReady = true;
+    if (m_signalCount == 0) {
+        m_endWatch.rest();
+    }
     if (m_script) {
         QMetaObject::invokeMethod(this, &CViewer::runScript, Qt::QueuedConnection);
     } else if (m_signalCount > 0) {
@@ -149,9 +205,11 @@ void CViewer::closeApplication()
     QStringList objections;
     if (m_signalCount >= insistingSignals || m_plugins.canClose(&objections)) {
         m_askAgain.stop();
+        m_endWatch.expectRest();
         QCoreApplication::exit(m_status);
         return;
     }
+    m_endWatch.rest();
     tell(objections);
     if (m_script) {
         m_askAgain.start();

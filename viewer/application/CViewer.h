@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "application/CEndWatch.h"
 #include "application/CommandLine.h"
 
 #include <pluginsystem/CPluginManager.h>
@@ -45,8 +46,19 @@ public:
     void requestQuit();
 
     /// Callable in any thread: as `requestQuit`, but a script that runs has failed. The second call
-    /// closes the viewer whatever the plug-ins say.
+    /// closes the viewer whatever the plug-ins say, and ends a script that does not heed it; the
+    /// third ends the viewer without waiting for what hangs.
     void quitBySignal();
+
+    /// The session of the desktop ends, which nobody can object to any more: as two signals.
+    void quitBySession();
+
+    /// Whether the plug-ins agree to an end of the desktop's session; else the log says which do
+    /// not. Keeps the layout of the windows in either case.
+    bool agreesToEndOfSession();
+
+    /// As `shutDown` where no event loop may run any more, since the display is gone.
+    void shutDownWithoutDisplay();
 
     PluginSystem::CPluginManager &plugins();
 
@@ -57,9 +69,11 @@ private:
     void quit();
     void closeApplication();
     void tell(const QStringList &objections);
+    void keepLayout();
 
     CommandLine m_commandLine;
     PluginSystem::CPluginManager m_plugins;
+    CEndWatch m_endWatch;
     std::unique_ptr<Scripting::CScriptRunner> m_script;
     std::atomic<int> m_signalCount{0};
     int m_toldSignals = 0;

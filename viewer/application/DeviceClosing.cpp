@@ -9,8 +9,11 @@
 
 #include <chrono>
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QLoggingCategory>
+#include <QThread>
 #include <QTimer>
 
 namespace Application {
@@ -22,21 +25,41 @@ Q_LOGGING_CATEGORY(log, "nerix.application", QtInfoMsg)
 // Far above what a camera that is gone costs: only a plug-in that hangs takes this long.
 constexpr std::chrono::seconds closingLimit(30);
 
+// Short for who waits, long for a processor.
+constexpr std::chrono::milliseconds step(20);
+
+void runEvents(Waiting waiting)
+{
+    if (waiting == Waiting::WithEvents) {
+        QEventLoop loop;
+        QTimer::singleShot(step, &loop, &QEventLoop::quit);
+        loop.exec();
+    } else {
+        QCoreApplication::sendPostedEvents();
+        QThread::msleep(step.count());
+    }
+}
+
 } // namespace
 
-void closeDevices(const Core::Plugin::IPluginInitializer &services)
+void closeDevices(const Core::Plugin::IPluginInitializer &services, Waiting waiting,
+                  const std::function<bool()> &isCutShort)
 {
     using CameraPool::ICameraControlService;
     const auto control = Core::Plugin::findService<ICameraControlService>(&services);
     if (!control) {
         return;
     }
-    QEventLoop loop;
-    QObject::connect(control.data(), &ICameraControlService::allClosed, &loop,
-                     [&loop] { loop.exit(0); });
-    QTimer::singleShot(closingLimit, &loop, [&loop] { loop.exit(1); });
+    bool isClosed = false;
+    QObject context;
+    QObject::connect(control.data(), &ICameraControlService::allClosed, &context,
+                     [&isClosed] { isClosed = true; });
+    const QDeadlineTimer deadline(closingLimit);
     control->closeAll();
-    if (loop.exec() != 0) {
+    while (!isClosed && !deadline.hasExpired() && !isCutShort()) {
+        runEvents(waiting);
+    }
+    if (deadline.hasExpired() && !isClosed) {
         qCWarning(log).nospace()
             << "the cameras are not closed after " << closingLimit.count()
             << " s, because a plug-in does not let them go; the viewer closes all the same";

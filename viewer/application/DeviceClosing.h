@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 namespace Core {
 namespace Plugin {
 class IPluginInitializer;
@@ -10,9 +12,14 @@ class IPluginInitializer;
 
 namespace Application {
 
-/// Closes every device that the camera pool has open, and returns when all are closed. Runs an
-/// event loop meanwhile, since a plug-in may have to do something in this thread before it lets a
-/// device go. Without a camera pool there is nothing to close.
-void closeDevices(const Core::Plugin::IPluginInitializer &services);
+/// A plug-in may have to do something in this thread before it lets a device go. Without a display
+/// no event loop can run, and what was posted to the objects of this thread has to do.
+enum class Waiting { WithEvents, WithoutEventLoop };
+
+/// Closes every device that the camera pool has open, and returns when all are closed, or when
+/// \a isCutShort answers true, which is asked now and then. Without a camera pool there is nothing
+/// to close.
+void closeDevices(const Core::Plugin::IPluginInitializer &services, Waiting waiting,
+                  const std::function<bool()> &isCutShort);
 
 } // namespace Application

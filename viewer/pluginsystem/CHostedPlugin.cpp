@@ -4,6 +4,7 @@
 #include <Core/Plugin/ALocalizedPlugin.h>
 
 #include <pluginsystem/CHostedPlugin.h>
+#include <pluginsystem/FailedDestructor.h>
 #include <pluginsystem/LoggingCategory.h>
 #include <pluginsystem/PluginLibrary.h>
 
@@ -94,6 +95,11 @@ void CHostedPlugin::initialize()
     }
 }
 
+bool CHostedPlugin::isWorking() const
+{
+    return m_initializeWasCalled && !m_uninitializeWasCalled;
+}
+
 void CHostedPlugin::announceInitializationDone()
 {
     if (!isWorking()) {
@@ -144,7 +150,10 @@ void CHostedPlugin::uninitialize()
 void CHostedPlugin::destroy()
 {
     dropServices();
-    m_plugin.reset();
+    {
+        const CFailedDestructor watch(m_spec.name());
+        m_plugin.reset();
+    }
     m_spec.advance(PluginState::Deleted);
 }
 
@@ -201,11 +210,6 @@ std::unique_ptr<Core::Plugin::IPlugin> CHostedPlugin::create()
                         .arg(m_spec.name(), reason, m_spec.remedy()));
     }
     return plugin;
-}
-
-bool CHostedPlugin::isWorking() const
-{
-    return m_initializeWasCalled && !m_uninitializeWasCalled;
 }
 
 } // namespace PluginSystem

@@ -46,6 +46,9 @@ public:
     void preInitialize();
     void initialize();
 
+    /// Whether `initialize` was called, and `uninitialize` was not yet.
+    bool isWorking() const;
+
     /// Emits `initializationDone` for this plug-in, if `initialize` was called.
     void announceInitializationDone();
 
@@ -71,7 +74,6 @@ private:
     void failIn(const char *operation, const QString &reason);
     std::unique_ptr<Core::Plugin::IPlugin> createBuiltIn();
     std::unique_ptr<Core::Plugin::IPlugin> create();
-    bool isWorking() const;
 
     CPluginSpec m_spec;
     PluginFactory m_factory;

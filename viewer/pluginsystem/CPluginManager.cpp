@@ -85,6 +85,22 @@ void CPluginManager::setLanguage(const QString &language)
     }
 }
 
+void CPluginManager::setEndListener(EndListener listener)
+{
+    m_endListener = std::move(listener);
+}
+
+QStringList CPluginManager::librariesAtWork() const
+{
+    QStringList names;
+    for (const auto &plugin : m_plugins) {
+        if (plugin->isWorking() && !plugin->spec().isBuiltIn()) {
+            names += plugin->spec().name();
+        }
+    }
+    return names;
+}
+
 void CPluginManager::start()
 {
     if (std::exchange(m_isStarted, true)) {
@@ -105,6 +121,7 @@ bool CPluginManager::canClose(QStringList *vetoes)
 {
     QStringList lines;
     forEachDependentFirst([&](CHostedPlugin &plugin) {
+        m_endListener(plugin, "checkPluginClosability");
         if (!plugin.isClosable()) {
             lines += vetoOf(plugin.spec());
         }
@@ -115,16 +132,23 @@ bool CPluginManager::canClose(QStringList *vetoes)
     return lines.isEmpty();
 }
 
+void CPluginManager::uninitialize()
+{
+    if (!std::exchange(m_isTold, true)) {
+        atTheEnd("aboutToUninitialize", &CHostedPlugin::aboutToUninitialize);
+    }
+    atTheEnd("uninitialize", &CHostedPlugin::uninitialize);
+}
+
 void CPluginManager::shutDown()
 {
     if (std::exchange(m_isShutDown, true)) {
         return;
     }
-    forEachDependentFirst([](CHostedPlugin &plugin) { plugin.aboutToUninitialize(); });
-    forEachDependentFirst([](CHostedPlugin &plugin) { plugin.uninitialize(); });
+    uninitialize();
     // There may be no event loop any more that would run what the plug-ins left to deleteLater.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    forEachDependentFirst([](CHostedPlugin &plugin) { plugin.destroy(); });
+    atTheEnd("its destructor", &CHostedPlugin::destroy);
     m_registry.clear();
 }
 
@@ -195,9 +219,17 @@ void CPluginManager::forEachDependentFirst(Step step)
     std::for_each(m_order.rbegin(), m_order.rend(), [&](CHostedPlugin *plugin) { step(*plugin); });
 }
 
+void CPluginManager::atTheEnd(const char *operation, void (CHostedPlugin::*step)())
+{
+    forEachDependentFirst([&](CHostedPlugin &plugin) {
+        m_endListener(plugin, operation);
+        (plugin.*step)();
+    });
+}
+
 void CPluginManager::finishStart()
 {
-    if (m_isShutDown) {
+    if (m_isTold) {
         return;
     }
     for (CHostedPlugin *plugin : m_order) {

@@ -6,6 +6,7 @@
 #include <pluginsystem/CPluginSpec.h>
 #include <pluginsystem/CServiceRegistry.h>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -48,6 +49,14 @@ public:
     /// afterwards it is set at once.
     void setLanguage(const QString &language);
 
+    /// Called in the GUI thread before each operation of a plug-in that belongs to the end of the
+    /// viewer, so that somebody can tell what hangs.
+    using EndListener = std::function<void(const CHostedPlugin &plugin, const char *operation)>;
+    void setEndListener(EndListener listener);
+
+    /// The plug-ins in libraries that are still to be uninitialised.
+    QStringList librariesAtWork() const;
+
     /// Resolves, loads, pre-initialises and initialises the plug-ins, each step for all of them
     /// before the next one, what is depended on first, else by name. When the event loop runs,
     /// every plug-in and then `registry` emits `initializationDone`. Once.
@@ -58,6 +67,10 @@ public:
     /// @return whether none objects; \a vetoes receives a line for each that does. Nothing is
     /// logged, since the caller knows whether this is the first time.
     bool canClose(QStringList *vetoes = nullptr);
+
+    /// Tells all plug-ins and uninitialises them, as `shutDown` does, but leaves their objects.
+    /// Callable again where it was cut short: each plug-in is uninitialised once.
+    void uninitialize();
 
     /// Ends the plug-ins, dependents first: tells all of them, uninitialises all of them while the
     /// services are still there, then destroys them, each one's services just before it. Once; a
@@ -83,6 +96,7 @@ private:
     void forEachUsable(void (CHostedPlugin::*step)());
     template <class Step>
     void forEachDependentFirst(Step step);
+    void atTheEnd(const char *operation, void (CHostedPlugin::*step)());
     void finishStart();
 
     CServiceRegistry m_registry;
@@ -92,7 +106,9 @@ private:
     QStringList m_folders;
     QStringList m_folderErrors;
     QString m_language;
+    EndListener m_endListener = [](const CHostedPlugin &, const char *) {};
     bool m_isStarted = false;
+    bool m_isTold = false;
     bool m_isShutDown = false;
 };
 

@@ -31,6 +31,7 @@ public:
     explicit CScriptRunner(PluginSystem::CPluginManager &plugins, QObject *parent = nullptr);
     ~CScriptRunner() override;
 
+    /// Callable in any thread.
     bool isRunning() const;
 
     /// Takes what the script prints, line by line, instead of standard output. Before `run`.
@@ -62,7 +63,7 @@ private:
     CScriptWait m_wait;
     Printer m_printer;
     std::atomic<Ending> m_ending{Ending::None};
-    bool m_isRunning = false;
+    std::atomic<bool> m_isRunning{false};
     bool m_hasReachedEnd = false;
 };
 

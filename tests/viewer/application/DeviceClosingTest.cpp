@@ -11,6 +11,7 @@
 #include <QThread>
 
 using Application::closeDevices;
+using Application::Waiting;
 
 class DeviceClosingTest : public QObject
 {
@@ -24,7 +25,7 @@ private Q_SLOTS:
 
 void DeviceClosingTest::testWithoutACameraPoolThereIsNothingToClose()
 {
-    closeDevices(PluginSystem::CServiceRegistry());
+    closeDevices(PluginSystem::CServiceRegistry(), Waiting::WithEvents, [] { return false; });
 }
 
 void DeviceClosingTest::testReturnsWhenAllAreClosed()
@@ -32,7 +33,7 @@ void DeviceClosingTest::testReturnsWhenAllAreClosed()
     PluginSystem::CServiceRegistry registry;
     const auto control = QSharedPointer<CFakeCameraControl>::create();
     registry.addService(control);
-    closeDevices(registry);
+    closeDevices(registry, Waiting::WithEvents, [] { return false; });
     QCOMPARE(control->closeAllCount(), 1);
 }
 
@@ -52,7 +53,7 @@ void DeviceClosingTest::testThisThreadWorksOnMeanwhile()
     }));
     QMetaObject::invokeMethod(
         &inThisThread, [&] { pool->start(); }, Qt::QueuedConnection);
-    closeDevices(registry);
+    closeDevices(registry, Waiting::WithEvents, [] { return false; });
     QVERIFY(pool->wait());
 }
 

@@ -29,6 +29,7 @@ void QuitSignalsTest::testEachSignalCallsTheHandlerOutsideTheThreadThatIsBusy_da
     QTest::addColumn<int>("number");
     QTest::newRow("SIGINT") << SIGINT;
     QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGHUP") << SIGHUP;
 }
 
 void QuitSignalsTest::testEachSignalCallsTheHandlerOutsideTheThreadThatIsBusy()

@@ -17,6 +17,9 @@ public:
     virtual void requestQuit() = 0;
 
 Q_SIGNALS:
+    /// What the windows remember is to be kept now: the viewer may soon be ended by others.
+    void layoutIsToBeKept();
+
     void quitRequested();
 
 protected:

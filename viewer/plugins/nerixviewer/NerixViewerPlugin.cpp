@@ -201,6 +201,8 @@ void CNerixViewerPlugin::showWindow()
             &CApplicationService::requestQuit);
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
             &CNerixViewerPlugin::leaveWindow);
+    connect(m_applicationService.data(), &CApplicationService::layoutIsToBeKept, &window,
+            &CMainWindow::saveLayout);
     m_appearance->apply();
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/nerixviewer/icon.svg")));
     window.setMenus(menuService->menus());
