@@ -43,7 +43,7 @@ test=(
     openbox x11-utils xdotool
     procps sqlite3 openssl strace faketime python3 python3-yaml clang-format
     # what checks that a desktop understands our packages
-    appstream desktop-file-utils
+    appstream desktop-file-utils libsm-dev libice-dev
 )
 
 # the receiving side; a Node.js of another source serves as well

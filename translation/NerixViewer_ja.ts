@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>Application::CViewer</name>
+    <message>
+        <source>Nerix Viewer</source>
+        <translation>Nerix Viewer</translation>
+    </message>
+</context>
+<context>
     <name>Application::EndQuestion</name>
     <message>
         <source>The viewer itself</source>
@@ -38,6 +45,13 @@
     <message>
         <source>&amp;End Now</source>
         <translation>今すぐ終了(&amp;E)</translation>
+    </message>
+</context>
+<context>
+    <name>Application::Settings</name>
+    <message>
+        <source>The settings could not be kept in %1, so the next start has those of before, with your earlier answer about usage data: make room on the disk, or make the file writable.</source>
+        <translation>設定を %1 に保存できませんでした。次回の起動時には、使用状況データについての以前の回答を含め、以前の設定が使われます。ディスクに空きを作るか、ファイルを書き込み可能にしてください。</translation>
     </message>
 </context>
 <context>

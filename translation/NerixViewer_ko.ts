@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>Application::CViewer</name>
+    <message>
+        <source>Nerix Viewer</source>
+        <translation>Nerix Viewer</translation>
+    </message>
+</context>
+<context>
     <name>Application::EndQuestion</name>
     <message>
         <source>The viewer itself</source>
@@ -38,6 +45,13 @@
     <message>
         <source>&amp;End Now</source>
         <translation>지금 종료(&amp;E)</translation>
+    </message>
+</context>
+<context>
+    <name>Application::Settings</name>
+    <message>
+        <source>The settings could not be kept in %1, so the next start has those of before, with your earlier answer about usage data: make room on the disk, or make the file writable.</source>
+        <translation>설정을 %1에 저장하지 못했습니다. 다음에 시작할 때는 사용 데이터에 대한 이전 답변을 포함하여 이전 설정이 사용됩니다. 디스크에 공간을 확보하거나 파일을 쓸 수 있게 하세요.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh" sourcelanguage="en">
 <context>
+    <name>Application::CViewer</name>
+    <message>
+        <source>Nerix Viewer</source>
+        <translation>Nerix Viewer</translation>
+    </message>
+</context>
+<context>
     <name>Application::EndQuestion</name>
     <message>
         <source>The viewer itself</source>
@@ -38,6 +45,13 @@
     <message>
         <source>&amp;End Now</source>
         <translation>立即结束(&amp;E)</translation>
+    </message>
+</context>
+<context>
+    <name>Application::Settings</name>
+    <message>
+        <source>The settings could not be kept in %1, so the next start has those of before, with your earlier answer about usage data: make room on the disk, or make the file writable.</source>
+        <translation>无法将设置保存到 %1，因此下次启动时将使用之前的设置，包括您之前对使用数据的答复：请清理磁盘空间，或将该文件设为可写。</translation>
     </message>
 </context>
 <context>

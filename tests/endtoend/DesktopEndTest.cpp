@@ -18,6 +18,11 @@ private Q_SLOTS:
     void testDisplayThatIsGone_data();
     void testDisplayThatIsGone();
     void testReaderOfTheOutputThatIsGone();
+    void testLogOut();
+    void testLogOutIsCancelledByAPluginThatObjectsAndTheViewerStays();
+
+private:
+    static void show(CViewerProcess &viewer, const QString &display);
 };
 
 namespace {
@@ -61,7 +66,53 @@ private:
     QString m_name;
 };
 
+// See SessionManager.cpp.
+class CSessionManager
+{
+public:
+    bool start()
+    {
+        m_program.start(NERIX_SESSION_MANAGER, QStringList());
+        return m_program.waitForStarted() && m_program.waitForReadyRead();
+    }
+
+    QString address()
+    {
+        return QString::fromUtf8(m_program.readLine().trimmed());
+    }
+
+    void tell(const char *line)
+    {
+        m_program.write(QByteArray(line) + '\n');
+        m_program.waitForBytesWritten();
+    }
+
+    QString answer()
+    {
+        const bool isThere = QTest::qWaitFor([this] { return m_program.canReadLine(); }, 60000);
+        return isThere ? QString::fromUtf8(m_program.readLine().trimmed()) : QString();
+    }
+
+    ~CSessionManager()
+    {
+        m_program.kill();
+        m_program.waitForFinished();
+    }
+
+private:
+    QProcess m_program;
+};
+
 } // namespace
+
+void DesktopEndTest::show(CViewerProcess &viewer, const QString &display)
+{
+    viewer.storeConsent(true, true);
+    viewer.setEnvironment("DISPLAY", display);
+    viewer.setEnvironment("QT_QPA_PLATFORM", "xcb");
+    viewer.setEnvironment("LIBGL_ALWAYS_SOFTWARE", "1");
+    viewer.setOptions({"--show-windows"});
+}
 
 void DesktopEndTest::testDisplayThatIsGone_data()
 {
@@ -82,10 +133,7 @@ void DesktopEndTest::testDisplayThatIsGone()
     QVERIFY(display.start());
     CViewerProcess viewer;
     viewer.storeConsent(true, true);
-    viewer.setEnvironment("DISPLAY", display.name());
-    viewer.setEnvironment("QT_QPA_PLATFORM", "xcb");
-    viewer.setEnvironment("LIBGL_ALWAYS_SOFTWARE", "1");
-    viewer.setOptions({"--show-windows"});
+    show(viewer, display.name());
     viewer.start("cameras.open(cameras.waitFor(1, 60000)[0]); print('open');" + script);
     QVERIFY(viewer.waitForLine("open"));
     QVERIFY(viewer.waitForEvents(
@@ -110,6 +158,49 @@ void DesktopEndTest::testReaderOfTheOutputThatIsGone()
     viewer.closeOutput();
     QCOMPARE(viewer.finish(), 0);
     QVERIFY(!viewer.storedEvents().filter("SessionEnded").isEmpty());
+}
+
+void DesktopEndTest::testLogOut()
+{
+    COwnDisplay display;
+    QVERIFY(display.start());
+    CSessionManager desktop;
+    QVERIFY(desktop.start());
+    CViewerProcess viewer;
+    show(viewer, display.name());
+    viewer.setEnvironment("SESSION_MANAGER", desktop.address());
+    viewer.start("print('begun'); sleep(600000);");
+    QVERIFY(viewer.waitForLine("begun"));
+    QCOMPARE(desktop.answer(), QString("client"));
+    desktop.tell("logout");
+    QCOMPARE(desktop.answer(), QString("saved"));
+    QVERIFY(viewer.settings().contains("[MainWindow]\nGeometry="));
+    QVERIFY(!viewer.endsWithin(300)); // somebody else may cancel
+    desktop.tell("die");
+    QVERIFY(viewer.endsWithin(10000));
+    QCOMPARE(viewer.finish(), 1); // the script was not at its end
+    QVERIFY(viewer.settings().contains("OptInEnabled=true\nOptInSelected=true\n"));
+    QVERIFY(!viewer.storedEvents().filter("SessionEnded").isEmpty());
+}
+
+void DesktopEndTest::testLogOutIsCancelledByAPluginThatObjectsAndTheViewerStays()
+{
+    COwnDisplay display;
+    QVERIFY(display.start());
+    CSessionManager desktop;
+    QVERIFY(desktop.start());
+    CViewerProcess viewer;
+    show(viewer, display.name());
+    viewer.setEnvironment("NERIX_FIXTURE_STUCK", "objection");
+    viewer.setOptions({"--show-windows", "--plugin-path", NERIX_FIXTURE_PLUGINS "/stuck"});
+    viewer.setEnvironment("SESSION_MANAGER", desktop.address());
+    viewer.start("print('begun'); sleep(600000);");
+    QVERIFY(viewer.waitForLine("begun"));
+    QCOMPARE(desktop.answer(), QString("client"));
+    desktop.tell("logout");
+    QCOMPARE(desktop.answer(), QString("cancelled"));
+    QVERIFY(viewer.waitForLog("Plug-in \"Stuck\" does not let the viewer close", 60000));
+    QVERIFY(!viewer.endsWithin(1000));
 }
 
 QTEST_GUILESS_MAIN(DesktopEndTest)

@@ -8,6 +8,7 @@
 #include "application/Folders.h"
 #include "plugins/nerixviewer/IApplicationService.h"
 #include "scripting/CScriptRunner.h"
+#include "windows/MessageBox.h"
 #include "windows/ShownText.h"
 
 #include <Core/Plugin/ServiceLookup.h>
@@ -74,9 +75,29 @@ void CViewer::shutDown()
     m_endWatch.expectCameras();
     closeDevices(m_plugins.registry(), Waiting::WithEvents,
                  [this] { return m_endWatch.guard().isInsistedOn(); });
+    m_plugins.uninitialize();
+    if (m_settingsCheck) {
+        tellUnkept(m_settingsCheck->problem());
+        m_settingsCheck.reset();
+    }
     PluginSystem::setStatusAfterFailedDestructor(m_status);
     m_plugins.shutDown();
     m_endWatch.expectRest();
+}
+
+// In words that wait for an answer only where somebody is there to give one.
+void CViewer::tellUnkept(const QString &problem)
+{
+    if (problem.isEmpty()) {
+        return;
+    }
+    qCWarning(log).noquote() << problem;
+    if (m_commandLine.showsWindows && !m_script && m_signalCount == 0) {
+        m_endWatch.rest();
+        Windows::newMessageBox(QMessageBox::Warning, tr("Nerix Viewer"), problem,
+                               QMessageBox::Close, nullptr)
+            ->exec();
+    }
 }
 
 void CViewer::shutDownWithoutDisplay()
@@ -165,6 +186,7 @@ void CViewer::onPluginsInitialized()
         connect(application.data(), &Plugin::NerixViewer::IApplicationService::quitRequested, this,
                 &CViewer::requestQuit);
     }
+    m_settingsCheck = std::make_unique<CSettingsCheck>();
     m_isReady = true;
     if (m_signalCount == 0) {
         m_endWatch.rest();
@@ -206,6 +228,7 @@ void CViewer::closeApplication()
     if (m_signalCount >= insistingSignals || m_plugins.canClose(&objections)) {
         m_askAgain.stop();
         m_endWatch.expectRest();
+        m_settingsCheck->translate();
         QCoreApplication::exit(m_status);
         return;
     }

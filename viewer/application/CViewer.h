@@ -4,6 +4,7 @@
 
 #include "application/CEndWatch.h"
 #include "application/CommandLine.h"
+#include "application/CSettingsCheck.h"
 
 #include <pluginsystem/CPluginManager.h>
 
@@ -37,7 +38,8 @@ public:
     void start();
 
     /// Closes the devices while the plug-ins still listen, then ends the plug-ins. Runs an event
-    /// loop meanwhile.
+    /// loop meanwhile. Settings that could not be kept are told, in a window if the user has closed
+    /// the viewer.
     void shutDown();
 
     /// Ends the script if one runs, then the event loop, unless a plug-in objects: the log then
@@ -70,11 +72,13 @@ private:
     void closeApplication();
     void tell(const QStringList &objections);
     void keepLayout();
+    void tellUnkept(const QString &problem);
 
     CommandLine m_commandLine;
     PluginSystem::CPluginManager m_plugins;
     CEndWatch m_endWatch;
     std::unique_ptr<Scripting::CScriptRunner> m_script;
+    std::unique_ptr<CSettingsCheck> m_settingsCheck; // once the plug-ins are initialised
     std::atomic<int> m_signalCount{0};
     int m_toldSignals = 0;
     QStringList m_toldObjections;
