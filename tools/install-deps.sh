@@ -40,10 +40,10 @@ test=(
     # a display without a screen, with the software renderer of OpenGL for the consent page
     xvfb xauth libgl1-mesa-dri libglx-mesa0
     # a desktop: a window manager, and keys that come from outside
-    openbox x11-utils xdotool
+    openbox x11-utils xdotool libsm-dev libice-dev
     procps sqlite3 openssl strace faketime python3 python3-yaml clang-format
     # what checks that a desktop understands our packages
-    appstream desktop-file-utils libsm-dev libice-dev
+    appstream desktop-file-utils
 )
 
 # the receiving side; a Node.js of another source serves as well
