@@ -3,21 +3,35 @@
 //
 // A client's events, taken apart into runs, sessions, cameras and grabs.
 
-import { dayOf, is, mondayOf, numberOf, weekOf } from "./terms.js";
+import { dayOf, is, mondayOf, numberOf } from "./terms.js";
 
-// The runs of a client's events: lists, each in the order of time.
-export function runsOf(events) {
-    const runs = new Map();
+// Each question asks for the same again: what was found for a list of events is kept with it.
+function remembered(find) {
+    const found = new WeakMap();
+    return (events) => {
+        if (!found.has(events)) {
+            found.set(events, find(events));
+        }
+        return found.get(events);
+    };
+}
+
+// Lists of the events for which "name" gives the same, in their order; undefined is no name.
+function listsBy(name, events) {
+    const lists = new Map();
     for (const event of events) {
-        if (event.run !== undefined) {
-            runs.set(event.run, []);
+        const key = name(event);
+        if (key !== undefined) {
+            const list = lists.get(key) ?? [];
+            list.push(event);
+            lists.set(key, list);
         }
     }
-    for (const event of events) {
-        runs.get(event.run)?.push(event);
-    }
-    return [...runs.values()];
+    return [...lists.values()];
 }
+
+// The runs of a client's events: lists, each in the order of time.
+export const runsOf = remembered((events) => listsBy((event) => event.run, events));
 
 // The runs that are sessions: {start, events}, "start" being the SessionStarted.
 export function sessionsOf(events) {
@@ -27,18 +41,13 @@ export function sessionsOf(events) {
         .filter((session) => session.start !== undefined);
 }
 
-// The events of each camera of a run.
-export function camerasOf(run) {
-    const cameras = new Map();
-    for (const event of run) {
-        const number = event.category === "Camera" || event.category === "Grab"
-            ? numberOf(event) : undefined;
-        if (number >= 0) {
-            cameras.set(number, [...(cameras.get(number) ?? []), event]);
-        }
-    }
-    return [...cameras.values()];
+function cameraOf(event) {
+    const number = ["Camera", "Grab"].includes(event.category) ? numberOf(event) : undefined;
+    return number >= 0 ? number : undefined;
 }
+
+// The events of each camera of a run, but for changes of its values.
+export const camerasOf = remembered((run) => listsBy(cameraOf, run));
 
 // Where a grab began; undefined if that is not known. "events" are those of its camera.
 function beginningOf(stopped, events) {
@@ -50,8 +59,8 @@ function beginningOf(stopped, events) {
     return known ? before : undefined;
 }
 
-// {stopped, beginning, week} of each grab of a client.
-export function grabsOf(events) {
+// {stopped, beginning} of each grab of a client.
+export const grabsOf = remembered((events) => {
     const beginnings = new Map();
     for (const camera of runsOf(events).flatMap(camerasOf)) {
         for (const stopped of camera.filter((event) => is(event, "Grab", "Stopped"))) {
@@ -59,8 +68,8 @@ export function grabsOf(events) {
         }
     }
     return events.filter((event) => is(event, "Grab", "Stopped"))
-        .map((stopped) => ({ stopped, beginning: beginnings.get(stopped), week: weekOf(stopped) }));
-}
+        .map((stopped) => ({ stopped, beginning: beginnings.get(stopped) }));
+});
 
 export function isGood({ stopped }) {
     const { TotalBufferCount: total, FailedBufferCount: failed } = stopped.record.StreamStats;

@@ -8,6 +8,7 @@ import path from "node:path";
 import test from "node:test";
 
 import { assertTrue } from "../support/compare.js";
+import { assertDiscreet } from "../support/discretion.js";
 import { answersOf, dateOf, load, mondayAgo, temporaryFolder, today, writeKnownFleet }
     from "../support/fleets.js";
 
@@ -22,13 +23,15 @@ const periods = [
 ];
 
 for (const seed of [1, 2, 3]) {
-    test(`every question is right over ${clients} clients, ${weeks} weeks, seed ${seed}`, (context) => {
+    test(`every question is right and tells of nobody over ${clients} clients, ${weeks} weeks, seed ${seed}`, (context) => {
         const folder = temporaryFolder(context);
         const [files, data] = ["files", "data"].map((name) => path.join(folder, name));
         const { truth } = writeKnownFleet(files, { clients, weeks, seed });
         load(data, files);
         for (const period of periods) {
-            assertTrue(answersOf(data, period), truth, period);
+            const answers = answersOf(data, period);
+            assertTrue(answers, truth, period);
+            assertDiscreet(answers, period.threshold ?? 5);
         }
     });
 }
