@@ -135,6 +135,15 @@ TEST_F(ToolCommands, SendKeepsWhatTheServerRefuses)
     EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM delivered"), "4");
 }
 
+TEST_F(ToolCommands, SendToAnAddressThatAsksForAPauseDoesNotHoldUpTheSessions)
+{
+    track(1);
+    m_server.add({503, "Retry-After: 3600\r\n", {}, Manner::Reply});
+    EXPECT_EQ(run({"send", "--to", m_server.url()}).status, 1);
+    EXPECT_EQ(query(m_path, "SELECT not_before, failures FROM state"),
+              (std::vector<Row>{{"0", "0"}}));
+}
+
 TEST_F(ToolCommands, SendKeepsTheOneEventThatIsTooLargeForTheServerAndSendsTheOthers)
 {
     track(3);

@@ -131,7 +131,7 @@ Step Sender::apply(Batch batch, const Response &response, Refused refused)
         m_memory.unsettled = {std::move(batch), verdict.rejected};
         return settle(refused, describeRejected(verdict.rejected));
     case Verdict::Kind::Retry:
-        return retry(response);
+        return retry(response, refused);
     case Verdict::Kind::WrongPlace:
         return holdBack(describe(response), refused);
     case Verdict::Kind::Malformed:
@@ -159,8 +159,12 @@ Step Sender::settle(Refused refused, const std::string &reason)
     return {Step::Kind::Progress, 0, reason, records};
 }
 
-Step Sender::retry(const Response &response)
+Step Sender::retry(const Response &response, Refused refused)
 {
+    // A wrong address must not hold up the sessions, which send to another one.
+    if (refused == Refused::Kept) {
+        return {Step::Kind::Failed, m_clock.now(), describe(response), 0};
+    }
     const auto asked = parseRetryAfter(response.retryAfter, m_clock.now(), m_limits.maxRetryAfter);
     // A time that has passed, be it for a clock that is ahead of the server's, is no leave to ask
     // without a pause.

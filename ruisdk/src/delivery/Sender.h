@@ -86,7 +86,7 @@ private:
     Step send(Refused refused);
     Step apply(Batch batch, const Response &response, Refused refused);
     Step settle(Refused refused, const std::string &reason);
-    Step retry(const Response &response);
+    Step retry(const Response &response, Refused refused);
     Step holdBack(std::string reason, Refused refused);
     Step split(const Batch &batch, const Response &response);
     Step suspect(Batch batch, const Response &response, LossReason loss, Refused refused);
