@@ -808,6 +808,10 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <source>&amp;Welcome Screen</source>
         <translation>ようこそ画面(&amp;W)</translation>
     </message>
+    <message>
+        <source>Data Privacy</source>
+        <translation>データプライバシー</translation>
+    </message>
 </context>
 <context>
     <name>Plugin::NerixWelcome::CWelcomePages</name>
@@ -868,6 +872,10 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     <message>
         <source>State</source>
         <translation>状態</translation>
+    </message>
+    <message>
+        <source>Handed Over</source>
+        <translation>引き渡し済み</translation>
     </message>
 </context>
 <context>
@@ -993,6 +1001,65 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     <message>
         <source>&amp;Delete</source>
         <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Hand Over the Waiting Events</source>
+        <translation>待機中のイベントを引き渡す</translation>
+    </message>
+    <message>
+        <source>Events for the service (*.jsonl)</source>
+        <translation>サービス用のイベント (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>The events that waited are written to %1, and will not be sent.</source>
+        <translation>待機中だったイベントを %1 に書き出しました。送信はされません。</translation>
+    </message>
+    <message>
+        <source>&amp;Hand Over...</source>
+        <translation>引き渡す(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>Writes the waiting events to a file for the service instead of sending them: for a computer without a network.</source>
+        <translation>待機中のイベントを送信せずに、サービス用のファイルへ書き出します。ネットワークのないコンピューター向けです。</translation>
+    </message>
+    <message>
+        <source>%1 Handed over: %2.</source>
+        <translation>%1 引き渡し済み：%2。</translation>
+    </message>
+    <message>
+        <source>You have no client ID.</source>
+        <translation>クライアント ID はありません。</translation>
+    </message>
+    <message>
+        <source>Your client ID: %1</source>
+        <translation>クライアント ID：%1</translation>
+    </message>
+    <message>
+        <source>No server: the events stay on this computer.</source>
+        <translation>サーバーなし：イベントはこのコンピューターに残ります。</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>サーバー：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Policy::CUsagePolicy</name>
+    <message>
+        <source>The administrator of this computer has forbidden to send usage data: what is recorded stays here.</source>
+        <translation>このコンピューターの管理者が使用状況データの送信を禁止しています。記録された内容はここに残ります。</translation>
+    </message>
+    <message>
+        <source>The administrator of this computer has switched usage tracking off: nothing is recorded or sent.</source>
+        <translation>このコンピューターの管理者が使用状況の追跡を無効にしています。何も記録も送信もされません。</translation>
+    </message>
+    <message>
+        <source>DO_NOT_TRACK in the environment has switched usage tracking off: nothing is recorded or sent.</source>
+        <translation>環境変数 DO_NOT_TRACK により使用状況の追跡が無効になっています。何も記録も送信もされません。</translation>
+    </message>
+    <message>
+        <source>Usage tracking is switched off: the administrator&apos;s file /etc/ruisdk/policy.json cannot be read. Nothing is recorded or sent.</source>
+        <translation>使用状況の追跡は無効です。管理者のファイル /etc/ruisdk/policy.json を読み取れません。何も記録も送信もされません。</translation>
     </message>
 </context>
 </TS>

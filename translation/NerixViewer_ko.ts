@@ -808,6 +808,10 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <source>&amp;Welcome Screen</source>
         <translation>시작 화면(&amp;W)</translation>
     </message>
+    <message>
+        <source>Data Privacy</source>
+        <translation>개인정보 보호</translation>
+    </message>
 </context>
 <context>
     <name>Plugin::NerixWelcome::CWelcomePages</name>
@@ -868,6 +872,10 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     <message>
         <source>State</source>
         <translation>상태</translation>
+    </message>
+    <message>
+        <source>Handed Over</source>
+        <translation>전달됨</translation>
     </message>
 </context>
 <context>
@@ -993,6 +1001,65 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     <message>
         <source>&amp;Delete</source>
         <translation>삭제(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Hand Over the Waiting Events</source>
+        <translation>대기 중인 이벤트 전달</translation>
+    </message>
+    <message>
+        <source>Events for the service (*.jsonl)</source>
+        <translation>서비스용 이벤트 (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>The events that waited are written to %1, and will not be sent.</source>
+        <translation>대기 중이던 이벤트를 %1에 기록했습니다. 전송되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Hand Over...</source>
+        <translation>전달(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>Writes the waiting events to a file for the service instead of sending them: for a computer without a network.</source>
+        <translation>대기 중인 이벤트를 전송하지 않고 서비스용 파일에 기록합니다. 네트워크가 없는 컴퓨터에서 사용합니다.</translation>
+    </message>
+    <message>
+        <source>%1 Handed over: %2.</source>
+        <translation>%1 전달됨: %2.</translation>
+    </message>
+    <message>
+        <source>You have no client ID.</source>
+        <translation>클라이언트 ID가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Your client ID: %1</source>
+        <translation>클라이언트 ID: %1</translation>
+    </message>
+    <message>
+        <source>No server: the events stay on this computer.</source>
+        <translation>서버 없음: 이벤트는 이 컴퓨터에 남습니다.</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>서버: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Policy::CUsagePolicy</name>
+    <message>
+        <source>The administrator of this computer has forbidden to send usage data: what is recorded stays here.</source>
+        <translation>이 컴퓨터의 관리자가 사용 데이터 전송을 금지했습니다. 기록된 내용은 여기에 남습니다.</translation>
+    </message>
+    <message>
+        <source>The administrator of this computer has switched usage tracking off: nothing is recorded or sent.</source>
+        <translation>이 컴퓨터의 관리자가 사용 추적을 껐습니다. 아무것도 기록되거나 전송되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>DO_NOT_TRACK in the environment has switched usage tracking off: nothing is recorded or sent.</source>
+        <translation>환경 변수 DO_NOT_TRACK으로 사용 추적이 꺼져 있습니다. 아무것도 기록되거나 전송되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Usage tracking is switched off: the administrator&apos;s file /etc/ruisdk/policy.json cannot be read. Nothing is recorded or sent.</source>
+        <translation>사용 추적이 꺼져 있습니다. 관리자의 파일 /etc/ruisdk/policy.json을 읽을 수 없습니다. 아무것도 기록되거나 전송되지 않습니다.</translation>
     </message>
 </context>
 </TS>

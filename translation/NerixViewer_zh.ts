@@ -808,6 +808,10 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
         <source>&amp;Welcome Screen</source>
         <translation>欢迎屏幕(&amp;W)</translation>
     </message>
+    <message>
+        <source>Data Privacy</source>
+        <translation>数据隐私</translation>
+    </message>
 </context>
 <context>
     <name>Plugin::NerixWelcome::CWelcomePages</name>
@@ -868,6 +872,10 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     <message>
         <source>State</source>
         <translation>状态</translation>
+    </message>
+    <message>
+        <source>Handed Over</source>
+        <translation>已移交</translation>
     </message>
 </context>
 <context>
@@ -993,6 +1001,65 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     <message>
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Hand Over the Waiting Events</source>
+        <translation>移交等待中的事件</translation>
+    </message>
+    <message>
+        <source>Events for the service (*.jsonl)</source>
+        <translation>用于服务的事件 (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>The events that waited are written to %1, and will not be sent.</source>
+        <translation>等待中的事件已写入 %1，不会再发送。</translation>
+    </message>
+    <message>
+        <source>&amp;Hand Over...</source>
+        <translation>移交(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>Writes the waiting events to a file for the service instead of sending them: for a computer without a network.</source>
+        <translation>将等待中的事件写入供服务使用的文件，而不发送：适用于没有网络的计算机。</translation>
+    </message>
+    <message>
+        <source>%1 Handed over: %2.</source>
+        <translation>%1 已移交：%2。</translation>
+    </message>
+    <message>
+        <source>You have no client ID.</source>
+        <translation>您没有客户端 ID。</translation>
+    </message>
+    <message>
+        <source>Your client ID: %1</source>
+        <translation>您的客户端 ID：%1</translation>
+    </message>
+    <message>
+        <source>No server: the events stay on this computer.</source>
+        <translation>没有服务器：事件保留在此计算机上。</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>服务器：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Policy::CUsagePolicy</name>
+    <message>
+        <source>The administrator of this computer has forbidden to send usage data: what is recorded stays here.</source>
+        <translation>此计算机的管理员已禁止发送使用数据：记录的内容保留在此处。</translation>
+    </message>
+    <message>
+        <source>The administrator of this computer has switched usage tracking off: nothing is recorded or sent.</source>
+        <translation>此计算机的管理员已关闭使用情况跟踪：不会记录或发送任何内容。</translation>
+    </message>
+    <message>
+        <source>DO_NOT_TRACK in the environment has switched usage tracking off: nothing is recorded or sent.</source>
+        <translation>环境变量 DO_NOT_TRACK 已关闭使用情况跟踪：不会记录或发送任何内容。</translation>
+    </message>
+    <message>
+        <source>Usage tracking is switched off: the administrator&apos;s file /etc/ruisdk/policy.json cannot be read. Nothing is recorded or sent.</source>
+        <translation>使用情况跟踪已关闭：无法读取管理员的文件 /etc/ruisdk/policy.json。不会记录或发送任何内容。</translation>
     </message>
 </context>
 </TS>

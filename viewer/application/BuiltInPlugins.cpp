@@ -19,6 +19,7 @@
 #include "plugins/parametercollectionpool/ParameterCollectionPoolPlugin.h"
 #include "plugins/settings/SettingsPlugin.h"
 #include "plugins/usagedatalog/UsageDataLogPlugin.h"
+#include "policy/CUsagePolicy.h"
 
 #include <pluginsystem/CPluginManager.h>
 
@@ -76,15 +77,16 @@ void addApplication(CPluginManager &manager, const CommandLine &commandLine)
     using namespace Plugin;
     const auto mode = commandLine.showsWindows ? NerixViewer::WindowMode::WithWindows
                                                : NerixViewer::WindowMode::WithoutWindows;
+    const auto policy = Policy::CUsagePolicy::read();
     manager.addBuiltIn(metaData("NerixViewer", "The application and its menus.", {"AppCore"}),
                        factory<NerixViewer::CNerixViewerPlugin>(mode));
     manager.addBuiltIn(metaData("NerixWelcome", "The welcome screen.", {"NerixViewer"}),
-                       factory<NerixWelcome::CNerixWelcomePlugin>());
+                       factory<NerixWelcome::CNerixWelcomePlugin>(policy));
     manager.addBuiltIn(metaData("Help", "Documents and web addresses.", {"NerixViewer"}),
                        factory<Help::CHelpPlugin>(documentFolder()));
     manager.addBuiltIn(
         metaData("UsageDataLog", "What is recorded of how the viewer is used.", {"NerixWelcome"}),
-        factory<UsageDataLog::CUsageDataLogPlugin>(eventsTool()));
+        factory<UsageDataLog::CUsageDataLogPlugin>(eventsTool(), policy));
 }
 
 void addCameras(CPluginManager &manager)

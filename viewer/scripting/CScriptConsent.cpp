@@ -97,7 +97,8 @@ QObject *CScriptConsent::controller()
         }
     }
     fail(QStringLiteral("the welcome screen has no consent page: plugins.list() says whether "
-                        "UsageTracking is running"));
+                        "UsageTracking is running, and Help > Data Privacy whether usage tracking "
+                        "is switched off on this computer"));
     return nullptr;
 }
 

@@ -10,6 +10,7 @@
 #include "support/CFakeMainWindow.h"
 #include "support/CSettingsSandbox.h"
 #include "support/CTestTab.h"
+#include "support/CTestWindows.h"
 
 #include <Core/Plugin/ServiceLookup.h>
 #include <Plugin/NerixWelcome/INerixWelcomeService.h>
@@ -18,6 +19,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QMessageBox>
 #include <QTest>
 
 using Core::Plugin::findService;
@@ -64,6 +66,9 @@ private Q_SLOTS:
     void testEntryIsDisabledWithoutTabs();
     void testServiceMayBeKeptLongerThanThePlugin();
     void testWindowTellsThatALinkFailed();
+    void testConsentPageIsLeftOutWhereTrackingIsOff_data();
+    void testConsentPageIsLeftOutWhereTrackingIsOff();
+    void testConsentPageStaysWhereNothingMayBeSent();
 
 private:
     PluginSystem::CServiceRegistry *registry()
@@ -193,6 +198,54 @@ void WelcomePluginTest::testWindowTellsThatALinkFailed()
     QCOMPARE(notice->text(), QStringLiteral("No browser could be started"));
     Q_EMIT help->shown(QStringLiteral("https://ostrand.example/faq"));
     QCOMPARE(notice->text(), QString());
+}
+
+void WelcomePluginTest::testConsentPageIsLeftOutWhereTrackingIsOff_data()
+{
+    using Kind = Policy::CUsagePolicy::Kind;
+    QTest::addColumn<int>("kind");
+    QTest::newRow("by the administrator") << int(Kind::OffByAdministrator);
+    QTest::newRow("by the environment") << int(Kind::OffByEnvironment);
+    QTest::newRow("by a file that makes no sense") << int(Kind::OffByUnreadableFile);
+}
+
+// The page asks a question that was never answered; it would not let the user leave.
+void WelcomePluginTest::testConsentPageIsLeftOutWhereTrackingIsOff()
+{
+    QFETCH(int, kind);
+    const Policy::CUsagePolicy policy{Policy::CUsagePolicy::Kind(kind)};
+    const auto windows = QSharedPointer<CTestWindows>::create();
+    PluginSystem::CServiceRegistry other;
+    other.addService(windows);
+    windows->window()->show();
+    Plugin::NerixWelcome::CNerixWelcomePlugin plugin(policy);
+    QVERIFY(plugin.preInitialize(&other));
+    const auto controller = findService<CNerixWelcomeController>(&other);
+    const auto service = findService<INerixWelcomeService>(&other);
+    CTestTab page("UsageTracking.NerixWelcome.DataPrivacy", true);
+    CTestTab another;
+    service->addTab(&page);
+    service->addTab(&another);
+    QCOMPARE(controller->tabObjects(), QList<QObject *>{&another});
+    QVERIFY(!controller->applyFromTabsIsNeeded());
+
+    // What Help > Data Privacy does.
+    service->showTab(&page, this);
+    QVERIFY(!controller->isVisible());
+    const auto *message = windows->window()->findChild<QMessageBox *>();
+    QVERIFY(message && message->isVisible());
+    QCOMPARE(message->windowTitle(), QStringLiteral("Data Privacy"));
+    QCOMPARE(message->text(), policy.text());
+}
+
+void WelcomePluginTest::testConsentPageStaysWhereNothingMayBeSent()
+{
+    PluginSystem::CServiceRegistry other;
+    Plugin::NerixWelcome::CNerixWelcomePlugin plugin(Policy::CUsagePolicy::Kind::OnThisComputer);
+    QVERIFY(plugin.preInitialize(&other));
+    CTestTab page("UsageTracking.NerixWelcome.DataPrivacy", true);
+    findService<INerixWelcomeService>(&other)->addTab(&page);
+    QCOMPARE(findService<CNerixWelcomeController>(&other)->tabs().size(), 1);
 }
 
 QTEST_MAIN(WelcomePluginTest)

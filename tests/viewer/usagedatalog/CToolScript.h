@@ -20,11 +20,12 @@ public:
                          "--follow*) cat follow; exec tail -f /dev/null ;;\n"
                          "--stats*) name=stats ;;\n"
                          "purge*) name=purge ;;\n"
+                         "export*) name=export ;;\n"
                          "*) name=list ;;\n"
                          "esac\n"
                          "cat $name; cat $name.error >&2 2>/dev/null && exit 1; exit 0\n");
         QFile::setPermissions(program(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        for (const char *name : {"follow", "stats", "purge", "list"}) {
+        for (const char *name : {"follow", "stats", "purge", "export", "list"}) {
             write(name, "");
         }
     }
@@ -34,7 +35,7 @@ public:
         return path("program");
     }
 
-    // What the program prints in each of its uses: "follow", "stats", "purge", "list".
+    // What the program prints in each of its uses: "follow", "stats", "purge", "export", "list".
     void print(const char *use, const QByteArray &output)
     {
         write(use, output);
@@ -44,6 +45,13 @@ public:
     void fail(const char *use, const QByteArray &error)
     {
         write(use + QByteArray(".error"), error);
+    }
+
+    // The command lines so far, one a line.
+    QByteArray calls() const
+    {
+        QFile file(path("calls"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
 private:

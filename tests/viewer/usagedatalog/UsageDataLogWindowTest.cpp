@@ -68,6 +68,13 @@ private Q_SLOTS:
     void testDeletingIsAskedFor_data();
     void testDeletingIsAskedFor();
     void testExportIsTold();
+    void testWaitingEventsAreHandedOver();
+    void testHandOverThatFailsIsTold();
+    void testHandOverNeedsWaitingEvents();
+    void testClientIdAndServerAreTold_data();
+    void testClientIdAndServerAreTold();
+    void testPolicyIsTold_data();
+    void testPolicyIsTold();
     void testEscapeClosesTheWindow();
     void testHiddenWindowDoesNotWatch();
 
@@ -89,11 +96,13 @@ private:
     QSharedPointer<CNerixWelcomeController> m_welcome;
     std::unique_ptr<CEventStore> m_store;
     std::unique_ptr<CConsentWatch> m_consent;
+    Policy::CUsagePolicy m_policy;
     std::unique_ptr<CUsageDataLogWindow> m_window;
 };
 
 void UsageDataLogWindowTest::init()
 {
+    m_policy = {};
     m_sandbox = std::make_unique<CSettingsSandbox>();
     m_tool = std::make_unique<CToolScript>();
     m_tool->print("follow", line(1, "Opened", "first") + line(2, "Closed", "second\\nline"));
@@ -115,7 +124,7 @@ void UsageDataLogWindowTest::start()
 {
     m_store = std::make_unique<CEventStore>(m_tool->program(), QStringLiteral("folder"));
     m_consent = std::make_unique<CConsentWatch>(m_welcome);
-    m_window = std::make_unique<CUsageDataLogWindow>(*m_store, *m_consent);
+    m_window = std::make_unique<CUsageDataLogWindow>(*m_store, *m_consent, m_policy);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
@@ -288,6 +297,122 @@ void UsageDataLogWindowTest::testExportIsTold()
     m_window->exportTo(m_sandbox->path() + QStringLiteral("/no/folder"));
     QVERIFY(find<QLabel>("notice")->text().endsWith(
         "/no/folder cannot be written: No such file or directory"));
+}
+
+void UsageDataLogWindowTest::testWaitingEventsAreHandedOver()
+{
+    start();
+    QVERIFY(waitForEvents(2));
+    QTRY_VERIFY(find<QPushButton>("handOver")->isEnabled());
+    QByteArray exported = line(1, "Opened", "first") + line(2, "Closed", "second");
+    exported.replace("pending", "exported");
+    m_tool->print("list", exported);
+    m_tool->print("stats", "{\"pending\":0,\"delivered\":0,\"exported\":2}");
+    m_window->handOverTo(QStringLiteral("/some/file.jsonl"));
+    QTRY_COMPARE_WITH_TIMEOUT(
+        find<QLabel>("notice")->text(),
+        QStringLiteral(
+            "The events that waited are written to /some/file.jsonl, and will not be sent."),
+        waitLimit);
+    QTRY_COMPARE_WITH_TIMEOUT(
+        state(), QStringLiteral("Events: 2. Waiting: 0. Delivered: 0. Handed over: 2."), waitLimit);
+    QVERIFY(!find<QPushButton>("handOver")->isEnabled());
+    QVERIFY(m_tool->calls().contains("export --otlp /some/file.jsonl folder\n"));
+}
+
+void UsageDataLogWindowTest::testHandOverThatFailsIsTold()
+{
+    m_tool->print("list", line(1, "Opened", "first") + line(2, "Closed", "second"));
+    m_tool->fail("export", "rui-events: /some/file.jsonl: is there already\n");
+    start();
+    QVERIFY(waitForEvents(2));
+    m_window->handOverTo(QStringLiteral("/some/file.jsonl"));
+    QTRY_COMPARE_WITH_TIMEOUT(find<QLabel>("notice")->text(),
+                              QStringLiteral("rui-events: /some/file.jsonl: is there already"),
+                              waitLimit);
+    QCOMPARE(m_store->model().waitingCount(), 2);
+}
+
+void UsageDataLogWindowTest::testHandOverNeedsWaitingEvents()
+{
+    QByteArray delivered = line(1, "Opened", "first");
+    delivered.replace("pending", "delivered");
+    m_tool->print("follow", delivered);
+    m_tool->print("stats", "{\"pending\":0,\"delivered\":1}");
+    start();
+    QVERIFY(waitForEvents(1));
+    QTRY_VERIFY(find<QPushButton>("export")->isEnabled());
+    QVERIFY(!find<QPushButton>("handOver")->isEnabled());
+}
+
+void UsageDataLogWindowTest::testClientIdAndServerAreTold_data()
+{
+    QTest::addColumn<QByteArray>("statistics");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("both") << QByteArray(
+        R"("client":"f81d","server":"https://c.example:443/v1/logs")")
+                          << "Your client ID: f81d\nServer: c.example";
+    QTest::newRow("no server")
+        << QByteArray(R"("client":"f81d","server":"")")
+        << "Your client ID: f81d\nNo server: the events stay on this computer.";
+    QTest::newRow("withdrawn") << QByteArray(
+        R"("client":null,"server":"https://c.example:443/v1/logs")")
+                               << "You have no client ID.\nServer: c.example";
+    QTest::newRow("server not known")
+        << QByteArray(R"("client":"f81d","server":null)") << "Your client ID: f81d";
+}
+
+void UsageDataLogWindowTest::testClientIdAndServerAreTold()
+{
+    QFETCH(QByteArray, statistics);
+    QFETCH(QString, text);
+    m_tool->print("stats", "{" + statistics + ",\"pending\":2,\"delivered\":0}");
+    start();
+    QTRY_COMPARE_WITH_TIMEOUT(find<QLabel>("identity")->text(), text, waitLimit);
+}
+
+void UsageDataLogWindowTest::testPolicyIsTold_data()
+{
+    using Kind = Policy::CUsagePolicy::Kind;
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("hasButton");
+    QTest::newRow("off by the administrator") << int(Kind::OffByAdministrator)
+                                              << "The administrator of this computer has switched "
+                                                 "usage tracking off: nothing is recorded "
+                                                 "or sent."
+                                              << false;
+    QTest::newRow("off by the environment") << int(Kind::OffByEnvironment)
+                                            << "DO_NOT_TRACK in the environment has switched usage "
+                                               "tracking off: nothing is recorded or "
+                                               "sent."
+                                            << false;
+    QTest::newRow("off by a file that makes no sense")
+        << int(Kind::OffByUnreadableFile)
+        << "Usage tracking is switched off: the administrator's file /etc/ruisdk/policy.json "
+           "cannot "
+           "be read. Nothing is recorded or sent."
+        << false;
+    QTest::newRow("nothing may be sent")
+        << int(Kind::OnThisComputer)
+        << "The administrator of this computer has forbidden to send usage data: what is recorded "
+           "stays here."
+        << true;
+}
+
+void UsageDataLogWindowTest::testPolicyIsTold()
+{
+    QFETCH(int, kind);
+    QFETCH(bool, hasButton);
+    CAnswerTab tab;
+    tab.answer.setProperty("dataPrivacyOptInEnabled", true);
+    tab.answer.setProperty("dataPrivacyOptInSelected", true);
+    m_welcome->addTab(&tab);
+    m_policy = Policy::CUsagePolicy::Kind(kind);
+    start();
+    QTEST(find<QLabel>("consent")->text(), "text");
+    QCOMPARE(find<QPushButton>("change")->isVisible(), hasButton);
+    m_welcome.reset();
 }
 
 void UsageDataLogWindowTest::testEscapeClosesTheWindow()

@@ -37,14 +37,31 @@ CNerixWelcomeService::CNerixWelcomeService(QSharedPointer<CNerixWelcomeControlle
 
 CNerixWelcomeService::~CNerixWelcomeService() = default;
 
+void CNerixWelcomeService::withhold(const Core::CId &tabId)
+{
+    m_withheld = tabId;
+}
+
+bool CNerixWelcomeService::isWithheld(const INerixWelcomeTab *tab) const
+{
+    return tab && m_withheld.isValid() && tab->tabId() == m_withheld;
+}
+
 void CNerixWelcomeService::addTab(const QPointer<INerixWelcomeTab> &tab)
 {
+    if (isWithheld(tab)) {
+        qCInfo(log).noquote() << "tab" << tab->tabId().toString()
+                              << "is left out: usage tracking is switched off on this computer";
+        return;
+    }
     m_controller->addTab(tab);
 }
 
 void CNerixWelcomeService::showTab(const QPointer<INerixWelcomeTab> &tab, QObject *requester)
 {
-    if (m_controller->showTab(tab)) {
+    if (isWithheld(tab)) {
+        Q_EMIT withheldTabWanted();
+    } else if (m_controller->showTab(tab)) {
         qCDebug(log).noquote() << "tab" << tab->tabId().toString() << "shown for"
                                << nameOf(requester);
     } else {

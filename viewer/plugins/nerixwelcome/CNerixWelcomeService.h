@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <Core/CId.h>
 #include <Plugin/NerixWelcome/INerixWelcomeService.h>
 
 #include <QSharedPointer>
@@ -23,11 +24,21 @@ public:
                                   QObject *parent = nullptr);
     ~CNerixWelcomeService() override;
 
+    /// Tabs with this id are not shown from now on. Who wants to see one is told by
+    /// `withheldTabWanted`.
+    void withhold(const Core::CId &tabId);
+
     void addTab(const QPointer<INerixWelcomeTab> &tab) override;
     void showTab(const QPointer<INerixWelcomeTab> &tab, QObject *requester) override;
 
+Q_SIGNALS:
+    void withheldTabWanted();
+
 private:
+    bool isWithheld(const INerixWelcomeTab *tab) const;
+
     QSharedPointer<CNerixWelcomeController> m_controller;
+    Core::CId m_withheld;
 };
 
 } // namespace NerixWelcome

@@ -9,6 +9,7 @@
 #include "plugins/nerixwelcome/CNerixWelcomeService.h"
 #include "plugins/nerixwelcome/CWelcomeWindow.h"
 #include "windows/MenuEntry.h"
+#include "windows/MessageBox.h"
 
 #include <Core/Plugin/ServiceLookup.h>
 #include <Plugin/AppCore/IMenuService.h>
@@ -26,13 +27,23 @@ namespace {
 // Without any time it would be one of the events of the start itself.
 constexpr std::chrono::milliseconds afterTheStart(1);
 
+// The page on which the plug-in that tracks asks for consent, by the id that it gives it.
+constexpr char consentTab[] = "UsageTracking.NerixWelcome.DataPrivacy";
+
 } // namespace
 
-CNerixWelcomePlugin::CNerixWelcomePlugin(QObject *parent)
+CNerixWelcomePlugin::CNerixWelcomePlugin(Policy::CUsagePolicy policy, QObject *parent)
     : IPlugin(parent)
+    , m_policy(policy)
     , m_controller(QSharedPointer<CNerixWelcomeController>::create())
     , m_service(QSharedPointer<CNerixWelcomeService>::create(m_controller))
-{}
+{
+    if (m_policy.isOff()) {
+        m_service->withhold(Core::CId(consentTab));
+        connect(m_service.data(), &CNerixWelcomeService::withheldTabWanted, this,
+                &CNerixWelcomePlugin::tellPolicy);
+    }
+}
 
 CNerixWelcomePlugin::~CNerixWelcomePlugin()
 {
@@ -79,6 +90,16 @@ void CNerixWelcomePlugin::addMenuEntry()
     const auto update = [this] { m_showAction->setEnabled(!m_controller->tabs().isEmpty()); };
     connect(m_controller.data(), &CNerixWelcomeController::tabsChanged, m_showAction, update);
     update();
+}
+
+void CNerixWelcomePlugin::tellPolicy()
+{
+    const auto windows = Core::Plugin::findService<NerixViewer::IMainWindowService>(m_initializer);
+    if (windows) {
+        Windows::newMessageBox(QMessageBox::Information, tr("Data Privacy"), m_policy.text(),
+                               QMessageBox::Ok, windows->window())
+            ->open();
+    }
 }
 
 void CNerixWelcomePlugin::addWindow()

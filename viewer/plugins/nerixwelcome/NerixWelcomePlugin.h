@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "policy/CUsagePolicy.h"
+
 #include <Core/Plugin/IPlugin.h>
 
 #include <QSharedPointer>
@@ -22,7 +24,9 @@ class CNerixWelcomePlugin : public Core::Plugin::IPlugin
     Q_OBJECT
 
 public:
-    explicit CNerixWelcomePlugin(QObject *parent = nullptr);
+    /// Where \a policy has switched usage tracking off, the consent page of the plug-in that tracks
+    /// is left out, and whoever wants to see it is told why.
+    explicit CNerixWelcomePlugin(Policy::CUsagePolicy policy = {}, QObject *parent = nullptr);
 
     /// The window goes while the tabs of the other plug-ins are still there.
     ~CNerixWelcomePlugin() override;
@@ -34,7 +38,9 @@ public:
 private:
     void addMenuEntry();
     void addWindow();
+    void tellPolicy();
 
+    const Policy::CUsagePolicy m_policy;
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
     QSharedPointer<CNerixWelcomeController> m_controller;
     QSharedPointer<CNerixWelcomeService> m_service;

@@ -18,6 +18,14 @@ namespace {
 // A record may have a hundred thousand characters; a cell shows these.
 constexpr int shownOfRecord = 300;
 
+QString stateText(const CStoredEvent &event)
+{
+    if (event.isHandedOver) {
+        return CEventModel::tr("Handed Over");
+    }
+    return event.isDelivered ? CEventModel::tr("Delivered") : CEventModel::tr("Waiting");
+}
+
 QString begin(const QByteArray &text)
 {
     // A character has up to four bytes; one that is cut is left out.
@@ -52,7 +60,7 @@ void CEventModel::setEvents(const CStoredEvents &events)
 {
     removeMissing(events);
     for (int row = 0; row < m_events.size(); ++row) {
-        if (m_events.at(row).isDelivered != events.at(row).isDelivered) {
+        if (stateText(m_events.at(row)) != stateText(events.at(row))) {
             m_events[row] = events.at(row);
             Q_EMIT dataChanged(index(row, StateColumn), index(row, StateColumn));
         }
@@ -66,9 +74,15 @@ int CEventModel::deliveredCount() const
                              [](const CStoredEvent &event) { return event.isDelivered; }));
 }
 
+int CEventModel::handedOverCount() const
+{
+    return int(std::count_if(m_events.begin(), m_events.end(),
+                             [](const CStoredEvent &event) { return event.isHandedOver; }));
+}
+
 int CEventModel::waitingCount() const
 {
-    return m_events.size() - deliveredCount();
+    return m_events.size() - deliveredCount() - handedOverCount();
 }
 
 int CEventModel::rowCount(const QModelIndex &parent) const
@@ -103,7 +117,7 @@ QVariant CEventModel::data(const QModelIndex &index, int role) const
     case RecordColumn:
         return begin(event.text);
     case StateColumn:
-        return event.isDelivered ? tr("Delivered") : tr("Waiting");
+        return stateText(event);
     default:
         return {};
     }

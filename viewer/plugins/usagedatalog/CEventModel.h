@@ -31,6 +31,7 @@ public:
     void setEvents(const CStoredEvents &events);
 
     int deliveredCount() const;
+    int handedOverCount() const;
     int waitingCount() const;
 
     int rowCount(const QModelIndex &parent = {}) const override;

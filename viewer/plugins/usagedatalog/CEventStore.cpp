@@ -5,8 +5,9 @@
 
 #include <chrono>
 
+#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
+#include <QUrl>
 
 namespace Plugin {
 namespace UsageDataLog {
@@ -34,6 +35,20 @@ CStoredEvents eventsOf(const QByteArray &lines)
         begin = end + 1;
     }
     return events;
+}
+
+// The totals also count what is not kept any more; the numbers by event do not.
+int stored(const QJsonObject &statistics, QLatin1String state)
+{
+    if (!statistics.contains(QLatin1String("events"))) {
+        return statistics.value(state).toInt();
+    }
+    int count = 0;
+    const auto events = statistics.value(QLatin1String("events")).toArray();
+    for (const auto &event : events) {
+        count += event.toObject().value(state).toInt();
+    }
+    return count;
 }
 
 } // namespace
@@ -106,6 +121,34 @@ void CEventStore::exportTo(const QString &file, Format format)
     });
 }
 
+void CEventStore::handOverTo(const QString &file)
+{
+    m_tool.run({QStringLiteral("export"), QStringLiteral("--otlp"), file},
+               [this, file](const CEventsTool::Result &result) {
+                   if (result.succeeded) {
+                       Q_EMIT handedOver(file);
+                   } else {
+                       Q_EMIT failed(result.error);
+                   }
+                   readAll();
+               });
+}
+
+QString CEventStore::clientId() const
+{
+    return m_clientId;
+}
+
+QString CEventStore::serverHost() const
+{
+    return QUrl(m_server).host();
+}
+
+bool CEventStore::isServerKnown() const
+{
+    return !m_server.isNull();
+}
+
 void CEventStore::deleteAll()
 {
     m_tool.run({QStringLiteral("purge")}, [this](const CEventsTool::Result &result) {
@@ -140,9 +183,10 @@ void CEventStore::compareWith(const CEventsTool::Result &statistics)
     }
     setState(State::Ready);
     const QJsonObject numbers = QJsonDocument::fromJson(statistics.output).object();
-    const bool differs =
-        numbers.value(QLatin1String("pending")).toInt() != m_model.waitingCount()
-        || numbers.value(QLatin1String("delivered")).toInt() != m_model.deliveredCount();
+    takeIdentity(numbers);
+    const bool differs = numbers.value(QLatin1String("pending")).toInt() != m_model.waitingCount()
+                         || stored(numbers, QLatin1String("delivered")) != m_model.deliveredCount()
+                         || stored(numbers, QLatin1String("exported")) != m_model.handedOverCount();
     const bool mayRead = !m_lastRead.isValid() || m_lastRead.hasExpired(readAllAtMostEvery.count());
     const bool isComing = m_model.rowCount() != m_comparedRows;
     m_comparedRows = m_model.rowCount();
@@ -162,6 +206,18 @@ void CEventStore::readAll()
             m_model.setEvents(eventsOf(result.output));
         }
     });
+}
+
+void CEventStore::takeIdentity(const QJsonObject &statistics)
+{
+    const QString client = statistics.value(QLatin1String("client")).toString();
+    // Null stays a null text, an empty one is "nowhere".
+    const QString server = statistics.value(QLatin1String("server")).toString();
+    if (client != m_clientId || server != m_server || server.isNull() != m_server.isNull()) {
+        m_clientId = client;
+        m_server = server;
+        Q_EMIT changed();
+    }
 }
 
 void CEventStore::setState(State state, const QString &error)

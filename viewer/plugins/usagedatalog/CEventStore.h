@@ -8,6 +8,7 @@
 #include <memory>
 
 #include <QElapsedTimer>
+#include <QJsonObject>
 #include <QObject>
 #include <QTimer>
 
@@ -49,6 +50,17 @@ public:
     /// Writes all events to \a file. Answers by `exported` or `failed`.
     void exportTo(const QString &file, Format format);
 
+    /// Hands the waiting events over in \a file, which must not exist, instead of sending them.
+    /// Answers by `handedOver` or `failed`.
+    void handOverTo(const QString &file);
+
+    /// Under which the events are sent; empty when there is none, or it is not known yet.
+    QString clientId() const;
+
+    /// Where the last recording delivers to; empty: nowhere.
+    QString serverHost() const;
+    bool isServerKnown() const;
+
     /// Deletes all events. Answers by a new state or `failed`.
     void deleteAll();
 
@@ -57,12 +69,14 @@ Q_SIGNALS:
     void changed();
 
     void exported(const QString &file);
+    void handedOver(const QString &file);
     void failed(const QString &error);
 
 private:
     void compare();
     void compareWith(const CEventsTool::Result &statistics);
     void readAll();
+    void takeIdentity(const QJsonObject &statistics);
     void setState(State state, const QString &error = {});
 
     CEventModel m_model;
@@ -72,6 +86,8 @@ private:
     std::unique_ptr<QObject> m_watch; // what is followed is followed while it lives
     State m_state = State::Unknown;
     QString m_error;
+    QString m_clientId;
+    QString m_server; // null while it is not known
     bool m_isComparing = false;
     bool m_differed = false;
     int m_comparedRows = 0;

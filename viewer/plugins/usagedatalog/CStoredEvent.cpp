@@ -20,6 +20,7 @@ CStoredEvent CStoredEvent::fromJson(const QByteArray &line)
     event.name = json.value(QLatin1String("name")).toString();
     event.text = json.value(QLatin1String("text")).toString().toUtf8();
     event.isDelivered = json.value(QLatin1String("state")).toString() == QLatin1String("delivered");
+    event.isHandedOver = json.value(QLatin1String("state")).toString() == QLatin1String("exported");
     return event;
 }
 

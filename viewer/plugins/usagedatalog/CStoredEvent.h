@@ -22,7 +22,8 @@ struct CStoredEvent
     QString category;
     QString name;
     QByteArray text; ///< the very bytes that were tracked; empty for an event without a record
-    bool isDelivered = false; ///< else it waits
+    bool isDelivered = false;
+    bool isHandedOver = false; ///< in a file; with neither it waits
 };
 
 using CStoredEvents = QVector<CStoredEvent>;

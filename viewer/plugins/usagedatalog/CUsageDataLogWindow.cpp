@@ -8,13 +8,11 @@
 #include "plugins/usagedatalog/CEventModel.h"
 #include "plugins/usagedatalog/CEventStore.h"
 #include "windows/CPlainLabel.h"
-#include "windows/MessageBox.h"
 #include "windows/OnLanguageChange.h"
 #include "windows/ShownText.h"
 
 #include <chrono>
 
-#include <QFileDialog>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -46,19 +44,22 @@ bool isAtEnd(const QScrollBar &bar)
 } // namespace
 
 CUsageDataLogWindow::CUsageDataLogWindow(CEventStore &store, CConsentWatch &consent,
-                                         QWidget *parent)
+                                         Policy::CUsagePolicy policy, QWidget *parent)
     : QDialog(parent)
     , m_store(store)
     , m_consent(consent)
+    , m_policy(policy)
     , m_filter(new CEventFilter(this))
     , m_consentText(new Windows::CPlainLabel(this))
     , m_consentButton(new QPushButton(this))
+    , m_identityText(new Windows::CPlainLabel(this))
     , m_search(new QLineEdit(this))
     , m_table(new QTableView(this))
     , m_record(new QPlainTextEdit(this))
     , m_stateText(new Windows::CPlainLabel(this))
     , m_notice(new Windows::CPlainLabel(this))
     , m_exportButton(new QPushButton(this))
+    , m_handOverButton(new QPushButton(this))
     , m_deleteButton(new QPushButton(this))
     , m_closeButton(new QPushButton(this))
 {
@@ -75,6 +76,9 @@ CUsageDataLogWindow::CUsageDataLogWindow(CEventStore &store, CConsentWatch &cons
     connect(&m_store, &CEventStore::failed, this, &CUsageDataLogWindow::say);
     connect(&m_store, &CEventStore::exported, this,
             [this](const QString &file) { say(tr("All events are written to %1").arg(file)); });
+    connect(&m_store, &CEventStore::handedOver, this, [this](const QString &file) {
+        say(tr("The events that waited are written to %1, and will not be sent.").arg(file));
+    });
     Windows::onLanguageChange(this, [this] { setTexts(); });
     resize(firstSize);
 }
@@ -85,6 +89,11 @@ void CUsageDataLogWindow::exportTo(const QString &file)
 {
     const bool isCsv = file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
     m_store.exportTo(file, isCsv ? CEventStore::Format::Csv : CEventStore::Format::JsonLines);
+}
+
+void CUsageDataLogWindow::handOverTo(const QString &file)
+{
+    m_store.handOverTo(file);
 }
 
 void CUsageDataLogWindow::showEvent(QShowEvent *event)
@@ -154,11 +163,14 @@ void CUsageDataLogWindow::makeButtons()
     m_consentButton->setObjectName(QStringLiteral("change"));
     m_exportButton->setObjectName(QStringLiteral("export"));
     m_deleteButton->setObjectName(QStringLiteral("delete"));
-    for (QPushButton *button : {m_consentButton, m_exportButton, m_deleteButton}) {
+    m_handOverButton->setObjectName(QStringLiteral("handOver"));
+    for (QPushButton *button :
+         {m_consentButton, m_exportButton, m_handOverButton, m_deleteButton}) {
         button->setAutoDefault(false);
     }
     connect(m_consentButton, &QPushButton::clicked, &m_consent, &CConsentWatch::showPage);
     connect(m_exportButton, &QPushButton::clicked, this, &CUsageDataLogWindow::chooseExport);
+    connect(m_handOverButton, &QPushButton::clicked, this, &CUsageDataLogWindow::chooseHandOver);
     connect(m_deleteButton, &QPushButton::clicked, this, &CUsageDataLogWindow::askToDelete);
     connect(m_closeButton, &QPushButton::clicked, this, &QDialog::reject);
     m_closeButton->setAutoDefault(false);
@@ -181,16 +193,23 @@ void CUsageDataLogWindow::layOut()
 
     auto *bottom = new QHBoxLayout;
     bottom->addWidget(m_exportButton);
+    bottom->addWidget(m_handOverButton);
     bottom->addWidget(m_deleteButton);
     bottom->addStretch();
     bottom->addWidget(m_closeButton);
 
+    m_identityText->setObjectName(QStringLiteral("identity"));
+    m_identityText->setWordWrap(true);
+    // Somebody who writes to the service copies the client id.
+    m_identityText->setTextInteractionFlags(Qt::TextSelectableByMouse
+                                            | Qt::TextSelectableByKeyboard);
     m_stateText->setObjectName(QStringLiteral("state"));
     m_stateText->setWordWrap(true);
     m_notice->setObjectName(QStringLiteral("notice"));
     m_notice->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(top);
+    layout->addWidget(m_identityText);
     layout->addWidget(m_search);
     layout->addWidget(events, 1);
     layout->addWidget(m_stateText);
@@ -208,6 +227,10 @@ void CUsageDataLogWindow::setTexts()
     m_record->setAccessibleName(tr("Record of the selected event"));
     m_record->setPlaceholderText(tr("Select an event to read the whole of its record."));
     m_exportButton->setText(tr("&Export..."));
+    m_handOverButton->setText(tr("&Hand Over..."));
+    m_handOverButton->setToolTip(
+        tr("Writes the waiting events to a file for the service instead of "
+           "sending them: for a computer without a network."));
     m_deleteButton->setText(tr("De&lete All..."));
     m_closeButton->setText(tr("&Close"));
     updateConsent();
@@ -218,6 +241,11 @@ void CUsageDataLogWindow::updateConsent()
 {
     using Consent = CConsentWatch::Consent;
     const Consent consent = m_consent.consent();
+    if (m_policy.isOff()) {
+        m_consentButton->hide();
+        m_consentText->setText(m_policy.text());
+        return;
+    }
     m_consentButton->setVisible(consent != Consent::NoPage);
     switch (consent) {
     case Consent::NoPage:
@@ -229,6 +257,9 @@ void CUsageDataLogWindow::updateConsent()
         break;
     case Consent::Yes:
         m_consentText->setText(tr("You have agreed: how you use the viewer is recorded."));
+        if (!m_policy.text().isEmpty()) {
+            m_consentText->setText(m_policy.text());
+        }
         break;
     case Consent::No:
         m_consentText->setText(tr("You have not agreed: nothing is recorded."));
@@ -241,6 +272,8 @@ void CUsageDataLogWindow::updateState()
     m_stateText->setText(stateText());
     const bool hasEvents = m_store.model().rowCount() > 0;
     m_exportButton->setEnabled(hasEvents);
+    m_handOverButton->setEnabled(m_store.model().waitingCount() > 0);
+    m_identityText->setText(identityText());
     m_deleteButton->setEnabled(hasEvents);
 }
 
@@ -257,12 +290,29 @@ QString CUsageDataLogWindow::stateText() const
         break;
     }
     const CEventModel &events = m_store.model();
-    const QString numbers = tr("Events: %1. Waiting: %2. Delivered: %3.")
-                                .arg(events.rowCount())
-                                .arg(events.waitingCount())
-                                .arg(events.deliveredCount());
+    QString numbers = tr("Events: %1. Waiting: %2. Delivered: %3.")
+                          .arg(events.rowCount())
+                          .arg(events.waitingCount())
+                          .arg(events.deliveredCount());
+    if (events.handedOverCount() > 0) {
+        numbers = tr("%1 Handed over: %2.").arg(numbers).arg(events.handedOverCount());
+    }
     const bool isSearching = m_filter->rowCount() != events.rowCount();
     return isSearching ? tr("%1 Found: %2.").arg(numbers).arg(m_filter->rowCount()) : numbers;
+}
+
+QString CUsageDataLogWindow::identityText() const
+{
+    if (m_store.state() != CEventStore::State::Ready) {
+        return {};
+    }
+    const QString client = m_store.clientId().isEmpty()
+                               ? tr("You have no client ID.")
+                               : tr("Your client ID: %1").arg(m_store.clientId());
+    const QString server = m_store.serverHost().isEmpty()
+                               ? tr("No server: the events stay on this computer.")
+                               : tr("Server: %1").arg(m_store.serverHost());
+    return m_store.isServerKnown() ? client + QLatin1Char('\n') + server : client;
 }
 
 void CUsageDataLogWindow::updateRecord()
@@ -272,35 +322,6 @@ void CUsageDataLogWindow::updateRecord()
         rows.isEmpty() ? QByteArray() : rows.first().data(CEventModel::WholeTextRole).toByteArray();
     const QString record = QString::fromUtf8(text);
     m_record->setPlainText(Windows::shownText(record, record.size()));
-}
-
-void CUsageDataLogWindow::chooseExport()
-{
-    auto *dialog = new QFileDialog(this, tr("Export All Events"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilters({tr("JSON lines (*.jsonl)"), tr("CSV for spreadsheets (*.csv)")});
-    dialog->setDefaultSuffix(QStringLiteral("jsonl"));
-    connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &filter) {
-        dialog->setDefaultSuffix(filter.contains(QLatin1String(".csv")) ? QStringLiteral("csv")
-                                                                        : QStringLiteral("jsonl"));
-    });
-    connect(dialog, &QFileDialog::fileSelected, this, &CUsageDataLogWindow::exportTo);
-    dialog->open();
-}
-
-void CUsageDataLogWindow::askToDelete()
-{
-    auto *question = Windows::newMessageBox(
-        QMessageBox::Question, tr("Delete All Events"),
-        tr("Delete all %1 events? Those that wait will never be delivered. If you have agreed to "
-           "recording, it goes on.")
-            .arg(m_store.model().rowCount()),
-        QMessageBox::NoButton, this);
-    const auto *yes = question->addButton(tr("&Delete"), QMessageBox::DestructiveRole);
-    question->setDefaultButton(question->addButton(QMessageBox::Cancel));
-    connect(yes, &QAbstractButton::clicked, &m_store, &CEventStore::deleteAll);
-    question->open();
 }
 
 void CUsageDataLogWindow::say(const QString &text)

@@ -24,9 +24,11 @@ namespace UsageDataLog {
 using Core::Plugin::findService;
 using NerixViewer::IMainWindowService;
 
-CUsageDataLogPlugin::CUsageDataLogPlugin(QString program, QObject *parent)
+CUsageDataLogPlugin::CUsageDataLogPlugin(QString program, Policy::CUsagePolicy policy,
+                                         QObject *parent)
     : IPlugin(parent)
     , m_program(std::move(program))
+    , m_policy(policy)
 {}
 
 CUsageDataLogPlugin::~CUsageDataLogPlugin()
@@ -71,8 +73,9 @@ void CUsageDataLogPlugin::showWindow()
             m_program, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
         m_consent = std::make_unique<CConsentWatch>(
             findService<NerixWelcome::CNerixWelcomeController>(m_initializer));
-        m_window = new CUsageDataLogWindow(
-            *m_store, *m_consent, findService<IMainWindowService>(m_initializer)->window());
+        m_window =
+            new CUsageDataLogWindow(*m_store, *m_consent, m_policy,
+                                    findService<IMainWindowService>(m_initializer)->window());
     }
     m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
     m_window->show();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "policy/CUsagePolicy.h"
+
 #include <Core/Plugin/IPlugin.h>
 
 #include <memory>
@@ -26,7 +28,8 @@ class CUsageDataLogPlugin : public Core::Plugin::IPlugin
 
 public:
     /// \a program is `rui-events`.
-    explicit CUsageDataLogPlugin(QString program, QObject *parent = nullptr);
+    explicit CUsageDataLogPlugin(QString program, Policy::CUsagePolicy policy = {},
+                                 QObject *parent = nullptr);
     ~CUsageDataLogPlugin() override;
 
     bool preInitialize(const QPointer<Core::Plugin::IPluginInitializer> &initializer) override;
@@ -37,6 +40,7 @@ private:
     void showWindow();
 
     QString m_program;
+    const Policy::CUsagePolicy m_policy;
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
     std::unique_ptr<CEventStore> m_store;     // null until the window is needed
     std::unique_ptr<CConsentWatch> m_consent; // likewise
