@@ -50,6 +50,7 @@ enum ruiResult {
     RUI_TOO_LARGE = 8,    /* the event is larger than 1 MiB */
     RUI_BUSY = 9,         /* another process kept the database locked; the call may be repeated */
     RUI_INTERNAL = 10,    /* out of memory, or a defect of the library */
+    RUI_FORKED = 11,      /* the process was forked while the library was in use */
     RUI_FORBIDDEN = 12    /* the machine's administrator or DO_NOT_TRACK forbids it */
 };
 
@@ -60,6 +61,15 @@ enum { RUI_PROTOCOL_OTLP_HTTP = 3 };
  * A checked handle, not a pointer to anything: it is never dereferenced. A handle of a destroyed
  * instance stays invalid for the life of the process, and so does every handle in a process that
  * was forked from the one that created it.
+ *
+ * fork: in the child every inherited handle is RUI_BAD_HANDLE. If any instance of the parent was
+ * configured at that moment, ruiCreateConfig is RUI_FORKED in the child and in its own children,
+ * until one of them has executed a program: the database's locks cannot be shared, and events would
+ * be lost. If none was, the child uses the library as any process does. The parent notices nothing.
+ *
+ * exit: when a program that has configured an instance ends by exit() or by returning from main,
+ * every instance is destroyed, as ruiDestroyInstance does. A call that comes later, of a static object or of a thread that still
+ * runs, is RUI_BAD_HANDLE, and ruiCreateInstance returns null.
  */
 typedef struct ruiInstance_ *ruiInstance;
 
@@ -70,7 +80,8 @@ typedef struct ruiInstance_ *ruiInstance;
  * wakes every 5 seconds. When the program exits, its session ends as with flag 1 of ruiStopSDK.
  *
  * flag: reserved, 0.
- * Returns null when flag is not 0, when 65,535 instances exist, or when memory is short.
+ * Returns null when flag is not 0, when 65,535 instances exist, when the program is ending, or when
+ * memory is short.
  */
 RUI_API ruiInstance ruiCreateInstance(int32_t flag);
 
@@ -96,6 +107,7 @@ RUI_API ruiInstance ruiCreateInstance(int32_t flag);
  * name, which is said once on standard error; a new database is begun.
  * RUI_STORAGE: the directory or the database cannot be created, read or written.
  * RUI_UNSUPPORTED also: a database of a newer version; it is left alone.
+ * RUI_FORKED: see ruiInstance.
  */
 RUI_API int32_t ruiCreateConfig(ruiInstance instance, const char *configDirectory,
                                 const char *productId, const char *applicationName,

@@ -148,6 +148,8 @@ TEST(ResultText, EveryResultHasItsWords)
     EXPECT_STREQ(ruiResultText(8), "the event is larger than 1 MiB");
     EXPECT_STREQ(ruiResultText(9), "another process keeps the database locked");
     EXPECT_STREQ(ruiResultText(10), "internal error");
+    EXPECT_STREQ(ruiResultText(11),
+                 "the process was forked while the library was in use; execute a program first");
 }
 
 TEST(ResultText, OtherNumbersAreUnknown)

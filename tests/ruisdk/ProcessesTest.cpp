@@ -67,22 +67,4 @@ TEST(Processes, OptOutReachesASessionInAnotherProcess)
     EXPECT_EQ(storedTexts(directory.path()), std::vector<std::string>{"(null)"});
 }
 
-TEST(Processes, HandleIsABadHandleInAForkedProcess)
-{
-    const TemporaryDirectory directory;
-    Session session;
-    ASSERT_EQ(session.open(directory.path()), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        const int32_t tracked = session.track("text");
-        const int32_t destroyed = session.destroy();
-        _exit(tracked == RUI_BAD_HANDLE && destroyed == RUI_BAD_HANDLE ? 0 : 1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(session.track("still here"), 0);
-    EXPECT_EQ(storedTexts(directory.path()), std::vector<std::string>{"still here"});
-}
-
 } // namespace

@@ -15,7 +15,7 @@ namespace {
 
 void endSessions()
 {
-    for (const auto &instance : HandleTable::process().all()) {
+    for (const auto &instance : HandleTable::process().close()) {
         instance->shutDown();
     }
 }

@@ -4,8 +4,8 @@
 
 namespace rui {
 
-// Makes sure that at the exit of the program every session is ended before the libraries that its
-// worker uses are torn down; a program may exit with open sessions. Any thread, any number of
+// Makes sure that at the exit of the program every instance is destroyed before the libraries that
+// its worker uses are torn down; a program may exit with open sessions. Any thread, any number of
 // times.
 void endSessionsAtExit();
 

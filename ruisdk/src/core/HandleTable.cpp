@@ -45,7 +45,7 @@ HandleTable::HandleTable()
 ruiInstance HandleTable::add(std::shared_ptr<Instance> instance)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const std::size_t slot = takeSlot();
+    const std::size_t slot = m_isClosed ? noSlot : takeSlot();
     if (slot == noSlot) {
         return nullptr;
     }
@@ -72,13 +72,14 @@ std::shared_ptr<Instance> HandleTable::remove(ruiInstance handle)
     return std::move(m_slots[slot].instance);
 }
 
-std::vector<std::shared_ptr<Instance>> HandleTable::all() const
+std::vector<std::shared_ptr<Instance>> HandleTable::close()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    m_isClosed = true;
     std::vector<std::shared_ptr<Instance>> instances;
-    for (const Slot &slot : m_slots) {
+    for (Slot &slot : m_slots) {
         if (slot.instance) {
-            instances.push_back(slot.instance);
+            instances.push_back(std::move(slot.instance));
         }
     }
     return instances;

@@ -24,7 +24,7 @@ public:
 
     HandleTable();
 
-    // Null when all slots are in use.
+    // Null when all slots are in use, or the table is closed.
     ruiInstance add(std::shared_ptr<Instance> instance);
 
     // Null when the handle is not a live one.
@@ -33,7 +33,8 @@ public:
     // Invalidates the handle and returns its instance, or null.
     std::shared_ptr<Instance> remove(ruiInstance handle);
 
-    std::vector<std::shared_ptr<Instance>> all() const;
+    // Invalidates all handles and returns their instances; none is given out again.
+    std::vector<std::shared_ptr<Instance>> close();
 
 private:
     struct Slot
@@ -47,6 +48,7 @@ private:
     std::size_t slotOf(ruiInstance handle) const;
 
     mutable std::mutex m_mutex;
+    bool m_isClosed = false;
     std::vector<Slot> m_slots;
     std::vector<std::size_t> m_free;
     // Starts anywhere, so that handles of other processes and of a forked parent do not match.

@@ -55,6 +55,7 @@ void Instance::configure(const Config &config)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     require(m_state == State::Created);
+    endSessionsAtExit();
     OpeningOptions opening;
     opening.syncEveryCommit = config.syncEveryCommit;
     m_store.emplace(StorePaths(config.directory), opening, m_limits, m_clock, m_busyLimit);
@@ -115,7 +116,6 @@ void Instance::startWorker()
     if (m_config.server) {
         options.transport = std::make_shared<CurlTransport>(*m_config.server, options.delivery);
     }
-    endSessionsAtExit();
     m_worker = std::make_unique<Worker>(std::move(options));
 }
 

@@ -27,6 +27,8 @@ const char *ruiResultText(int32_t result)
         return "another process keeps the database locked";
     case RUI_INTERNAL:
         return "internal error";
+    case RUI_FORKED:
+        return "the process was forked while the library was in use; execute a program first";
     case RUI_FORBIDDEN:
         return "the administrator or DO_NOT_TRACK forbids it";
     default:

@@ -3,6 +3,7 @@
 #include "delivery/CurlTransport.h"
 
 #include "core/Failure.h"
+#include "delivery/CurlDescriptors.h"
 
 #include <array>
 #include <mutex>
@@ -84,7 +85,7 @@ CurlTransport::CurlTransport(ServerAddress address, DeliveryLimits limits, std::
     , m_caFile(std::move(caFile))
 {
     initialiseCurl();
-    m_multi.reset(curl_multi_init());
+    m_multi.reset(newClosingMulti());
     if (!m_multi) {
         throw Failure(RUI_INTERNAL, "libcurl cannot be used");
     }
@@ -102,6 +103,7 @@ void CurlTransport::configure(CURL *easy, Exchange &exchange) const
     curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, &Exchange::take);
     curl_easy_setopt(easy, CURLOPT_WRITEDATA, &exchange);
     curl_easy_setopt(easy, CURLOPT_ERRORBUFFER, exchange.error.data());
+    curl_easy_setopt(easy, CURLOPT_OPENSOCKETFUNCTION, &openClosingSocket);
     curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
     // Name servers that do not answer must not hold up the end of a session.
     curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);

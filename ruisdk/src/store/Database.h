@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/ProcessUse.h"
 #include "store/Statement.h"
 
 #include <sqlite3.h>
@@ -97,6 +98,7 @@ private:
         const std::shared_ptr<BusyLimit> m_limit;
         std::chrono::steady_clock::time_point m_end;
     };
+    ProcessUse m_use;
     // Stand before the connection, which uses them until it is closed.
     std::unique_ptr<Patience> m_patience;
     std::unique_ptr<int> m_journalPages;

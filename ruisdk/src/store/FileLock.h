@@ -8,8 +8,8 @@
 
 namespace rui {
 
-// A lock between processes that the kernel releases when its holder dies. Two objects exclude
-// each other in one process, too.
+// A lock between processes that the kernel releases when its holder dies, even if a child lives on
+// that the holder has forked. Two objects exclude each other in one process, too.
 class FileLock
 {
 public:
@@ -28,6 +28,7 @@ public:
     void unlock();
 
 private:
+    ProcessUse m_use;
     std::string m_path;
     int m_descriptor;
 };

@@ -124,6 +124,8 @@ Failure noEventsIn(const StorePaths &paths)
 Database openStore(const StorePaths &paths, const OpeningOptions &options,
                    const std::shared_ptr<BusyLimit> &busyLimit)
 {
+    // Before anything is created.
+    const ProcessUse use;
     if (options.create) {
         makePrivateDirectory(paths.directory());
     } else if (!std::filesystem::exists(paths.database())) {
