@@ -155,7 +155,7 @@ TEST(ResultText, EveryResultHasItsWords)
 TEST(ResultText, OtherNumbersAreUnknown)
 {
     EXPECT_STREQ(ruiResultText(-1), "unknown result");
-    EXPECT_STREQ(ruiResultText(11), "unknown result");
+    EXPECT_STREQ(ruiResultText(1000), "unknown result");
 }
 
 } // namespace

@@ -38,7 +38,6 @@ const std::vector<Fault> faults = {
     {"pread64", "EINTR", "error=EINTR", none},
     {"pread64", "ReadsNothing", "retval=0", storage},
     {"fdatasync", "EIO", "error=EIO", storage},
-    {"fsync", "EIO", "error=EIO", none},
     {"ftruncate", "EIO", "error=EIO", storage},
     {"ftruncate", "ENOSPC", "error=ENOSPC", full},
     {"openat", "EIO", "error=EIO", storage},

@@ -13,7 +13,6 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <filesystem>
 #include <string_view>
 
 namespace rui {
@@ -84,17 +83,6 @@ WithdrawalMark::Content readFrom(int descriptor, const std::string &path)
     return {true, {}, {}};
 }
 
-// So that the file is still there after a power cut; not every file system can do it.
-void flushDirectory(const std::string &file)
-{
-    const std::string directory = std::filesystem::path(file).parent_path().string();
-    const int descriptor = ::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor >= 0) {
-        fsync(descriptor);
-        ::close(descriptor);
-    }
-}
-
 bool isPlainFile(int descriptor)
 {
     struct stat status = {};
@@ -160,7 +148,6 @@ std::string WithdrawalMark::create()
         throw SystemError(m_path, errno);
     }
     write({true, token, token});
-    flushDirectory(m_path);
     return token;
 }
 
@@ -169,8 +156,14 @@ void WithdrawalMark::write(const Content &content)
     const std::string text = std::string(heading) + content.requested + ' ' + content.done + '\n';
     errno = ENOSPC;
     const auto all = static_cast<ssize_t>(text.size());
-    if (uninterrupted([&] { return pwrite(m_descriptor, text.data(), text.size(), 0); }) != all
-        || fdatasync(m_descriptor) != 0) {
+    if (uninterrupted([&] { return pwrite(m_descriptor, text.data(), text.size(), 0); }) != all) {
+        throw SystemError(m_path, errno);
+    }
+}
+
+void WithdrawalMark::flush()
+{
+    if (fdatasync(m_descriptor) != 0) {
         throw SystemError(m_path, errno);
     }
 }
@@ -183,6 +176,7 @@ void WithdrawalMark::request()
             return;
         }
         write({true, newToken(), content.done});
+        flush();
     } catch (const Failure &) {
         if (!ruin()) {
             throw;

@@ -39,7 +39,8 @@ public:
     std::string current();
 
     // Makes the file, or repairs it, with nothing that is to be done, and returns its token. The
-    // caller holds the opening lock.
+    // caller holds the opening lock. It is not waited for the device: a power cut in the first
+    // moments of a directory may end its consent.
     std::string create();
 
     // Keeps a new request; returns when it is on the device. Where the file cannot be written it
@@ -53,6 +54,7 @@ private:
     bool open();
     void close() noexcept;
     void write(const Content &content);
+    void flush();
     bool ruin() noexcept;
 
     std::string m_path;

@@ -3,6 +3,7 @@
 #include "TemporaryDirectory.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <fstream>
@@ -13,9 +14,12 @@ namespace rui::test {
 
 namespace fs = std::filesystem;
 
-TemporaryDirectory::TemporaryDirectory()
+TemporaryDirectory::TemporaryDirectory(Where where)
 {
-    std::string name = (fs::temp_directory_path() / "ruisdk-test-XXXXXX").string();
+    const fs::path memory = "/dev/shm";
+    const bool inMemory = where == Where::Memory && access(memory.c_str(), W_OK) == 0;
+    const fs::path base = inMemory ? memory : fs::temp_directory_path();
+    std::string name = (base / "ruisdk-test-XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr) {
         throw std::runtime_error("no temporary directory: " + name);
     }

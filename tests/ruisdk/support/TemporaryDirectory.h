@@ -11,7 +11,10 @@ namespace rui::test {
 class TemporaryDirectory
 {
 public:
-    TemporaryDirectory();
+    // Memory: in a file system without a device, for a test that makes hundreds of them; where
+    // there is none, like the others.
+    enum class Where { Default, Memory };
+    explicit TemporaryDirectory(Where where = Where::Default);
     ~TemporaryDirectory();
     TemporaryDirectory(const TemporaryDirectory &) = delete;
     TemporaryDirectory &operator=(const TemporaryDirectory &) = delete;
