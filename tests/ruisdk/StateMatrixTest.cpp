@@ -161,7 +161,7 @@ TEST_P(StateByCall, GivesTheCodeOfTheTable)
 TEST_P(StateByCall, LeavesAnInstanceOnWhichEveryCallGivesACode)
 {
     for (const Call &first : calls) {
-        for (const std::size_t index : {2, 5, 6, 8}) { // start, optOut, track, destroy
+        for (const std::size_t index : {2U, 5U, 6U, 8U}) { // start, optOut, track, destroy
             const Call &second = calls[index];
             const TemporaryDirectory directory(TemporaryDirectory::Where::Memory);
             Session session;
