@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "Commands.h"
 #include "core/Failure.h"
+#include "core/Limits.h"
 #include "Listing.h"
+#include "store/SqliteError.h"
+#include "store/StoreOpening.h"
 
 #include <csignal>
 #include <iostream>
@@ -68,13 +71,39 @@ void run(const Options &options)
     }
 }
 
+// What only reads leaves a damaged database to those who may write.
+bool writes(const Options &options)
+{
+    return options.command == Command::Send || options.command == Command::Export
+           || options.command == Command::Purge;
+}
+
+// Damage that is come upon is mended as in a session, and the command goes on with what could be
+// saved.
+void runRepairing(const Options &options)
+{
+    try {
+        run(options);
+    } catch (const SqliteError &error) {
+        if (!error.isDamage() || !writes(options)) {
+            throw;
+        }
+        OpeningOptions opening;
+        opening.verify = true;
+        opening.create = false;
+        openStore(StorePaths(options.directory), opening,
+                  std::make_shared<BusyLimit>(Limits().callBusyLimit));
+        run(options);
+    }
+}
+
 } // namespace
 
 // 0: done, 1: it failed, 2: the command line makes no sense.
 int main(int argc, char **argv)
 {
     try {
-        run(parseOptions(std::vector<std::string>(argv + 1, argv + argc)));
+        runRepairing(parseOptions(std::vector<std::string>(argv + 1, argv + argc)));
         requireWritten(std::cout);
         return 0;
     } catch (const UsageError &error) {

@@ -37,7 +37,7 @@ TEST_F(Damage, FileThatIsNoDatabaseIsSetAsideUnderADatedName)
     EXPECT_EQ(m_session.track("text"), 0);
     EXPECT_EQ(readFile(asideFile()), rubbish);
     EXPECT_EQ(said, "ruiSDK: " + databasePath(m_path) + " is not a usable database; set aside as "
-                        + asideFile() + ", a new one is begun\n");
+                        + asideFile() + ", a new one is begun with 0 events that could be read\n");
     EXPECT_EQ(storedTexts(m_path), std::vector<std::string>{"text"});
 }
 

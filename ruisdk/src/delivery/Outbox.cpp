@@ -6,6 +6,7 @@
 #include "store/Consent.h"
 #include "store/LossRecord.h"
 #include "store/Notices.h"
+#include "store/SqliteError.h"
 #include "store/StorePaths.h"
 
 #include <algorithm>
@@ -102,7 +103,9 @@ const Resource &Outbox::resource(std::int64_t id)
     }
     Statement query = m_database.prepare("SELECT client, product, application, edition, language,"
                                          " version, build FROM resource WHERE id = ?1");
-    query.bind(1, id).step();
+    if (!query.bind(1, id).step()) {
+        throw SqliteError(SQLITE_CORRUPT, "the description of a product is missing");
+    }
     return m_resources[id] = resourceOf(query);
 }
 
@@ -116,6 +119,9 @@ Batch Outbox::read(const std::string &sql, std::size_t maxRecords, std::size_t m
     Statement query = m_database.prepare(sql);
     query.bind(1, static_cast<std::int64_t>(maxRecords)).bind(2, after);
     while (query.step()) {
+        if (!query.isSound(8)) {
+            throw SqliteError(SQLITE_CORRUPT, "a text was overwritten");
+        }
         const Record record = recordOf(query);
         if (!payload.add(record, resource(record.resource), maxBytes)) {
             break;

@@ -7,9 +7,11 @@
 #include "store/Policy.h"
 #include "store/Quota.h"
 #include "store/Shrinking.h"
+#include "store/SqliteError.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace rui {
 
@@ -72,10 +74,11 @@ void WorkerLoop::run() noexcept
         try {
             runRounds();
             again = false;
+        } catch (const SqliteError &error) {
+            m_isDamaged = error.isDamage();
+            again = mendAtOnce() || rest();
         } catch (const std::exception &) {
-            // A database that cannot be used now may be usable later, or be another one.
-            m_sleepTime = m_options.lookEvery;
-            again = sleep();
+            again = rest();
         }
     }
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -83,9 +86,27 @@ void WorkerLoop::run() noexcept
     m_done.notify_all();
 }
 
+// Also when the session is being ended: the next one would come upon the same damage. Not without
+// end, should it be none that can be mended.
+bool WorkerLoop::mendAtOnce()
+{
+    constexpr int maxMendings = 3;
+    return m_isDamaged && !m_cancelled && m_mendings++ < maxMendings;
+}
+
+bool WorkerLoop::rest()
+{
+    // A database that cannot be used now may be usable later, or be another one.
+    m_sleepTime = m_isDamaged ? m_options.collectTime : m_options.lookEvery;
+    return sleep();
+}
+
 void WorkerLoop::runRounds()
 {
-    Work work(m_options, m_busyLimit, m_senderMemory);
+    // Looked through, and replaced, once somebody has come upon damage.
+    WorkerOptions options = m_options;
+    options.opening.verify = std::exchange(m_isDamaged, false);
+    Work work(options, m_busyLimit, m_senderMemory);
     do {
         m_sleepTime = m_options.lookEvery;
         if (work.database.hasMoved()) {

@@ -35,6 +35,8 @@ private:
     struct Work;
 
     void runRounds();
+    bool mendAtOnce();
+    bool rest();
     void round(Work &work);
     Step deliver(Work &work);
     void finish(Work &work);
@@ -59,6 +61,9 @@ private:
     bool m_deliverAtStop = false;
     std::chrono::milliseconds m_stopLimit{0};
     bool m_isDone = false;
+    // Touched by the worker's thread alone.
+    bool m_isDamaged = false;
+    int m_mendings = 0;
     std::chrono::milliseconds m_sleepTime{0};
     std::int64_t m_nextExpiry = 0;
 };

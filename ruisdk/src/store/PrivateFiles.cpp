@@ -81,8 +81,9 @@ void giveToOwnerOfDirectory(int descriptor, const std::string &path) noexcept
 void requirePlainFiles(const StorePaths &paths)
 {
     const std::string database = paths.database();
-    for (const std::string &path : {database, database + "-wal", database + "-shm", paths.consent(),
-                                    paths.openingLock(), paths.senderLock()}) {
+    for (const std::string &path :
+         {database, database + "-wal", database + "-shm", paths.replacement(), paths.consent(),
+          paths.openingLock(), paths.senderLock()}) {
         struct stat status = {};
         if (lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode)) {
             throw Failure(RUI_STORAGE, path + ": is a symbolic link; remove it");

@@ -8,7 +8,6 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <ctime>
 #include <filesystem>
 
@@ -40,7 +39,7 @@ std::string freeName(const std::string &path)
 
 } // namespace
 
-void setAside(const StorePaths &paths)
+std::string setAside(const StorePaths &paths)
 {
     const std::string database = paths.database();
     const std::string name = freeName(database);
@@ -51,9 +50,7 @@ void setAside(const StorePaths &paths)
     // exist.
     std::rename((database + "-wal").c_str(), (name + "-wal").c_str());
     std::rename((database + "-shm").c_str(), (name + "-shm").c_str());
-    std::fprintf(stderr,
-                 "ruiSDK: %s is not a usable database; set aside as %s, a new one is begun\n",
-                 database.c_str(), name.c_str());
+    return name;
 }
 
 void removeSetAside(const std::string &database)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/Statement.h"
 
+#include "core/Utf8.h"
 #include "store/SqliteError.h"
 
 namespace rui {
@@ -82,6 +83,29 @@ std::string_view Statement::text(int column) const
 bool Statement::isNull(int column) const
 {
     return sqlite3_column_type(m_statement.get(), column) == SQLITE_NULL;
+}
+
+bool Statement::isSound(int columns) const
+{
+    for (int column = 0; column < columns; ++column) {
+        if (sqlite3_column_type(m_statement.get(), column) != SQLITE_TEXT) {
+            continue;
+        }
+        const std::string_view value = text(column);
+        if (!isUtf8(value) || value.find('\0') != std::string_view::npos) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void Statement::runWith(const Statement &row, int columns)
+{
+    for (int column = 0; column < columns; ++column) {
+        check(sqlite3_bind_value(m_statement.get(), column + 1,
+                                 sqlite3_column_value(row.m_statement.get(), column)));
+    }
+    run();
 }
 
 } // namespace rui

@@ -37,6 +37,12 @@ public:
     std::int64_t integer(int column) const;
     std::string_view text(int column) const;
     bool isNull(int column) const;
+    // The texts among the first columns are UTF-8 without zero bytes, as everything that was
+    // stored. SQLite itself does not notice when others have got into the file.
+    bool isSound(int columns) const;
+
+    // Binds the first columns of another statement's row as this one's parameters, and runs it.
+    void runWith(const Statement &row, int columns);
 
 private:
     void check(int code) const;

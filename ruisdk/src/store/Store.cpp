@@ -25,6 +25,16 @@ void tryErasure(Database &database)
     }
 }
 
+template <typename Action>
+void tolerating(Action action) noexcept
+{
+    try {
+        action();
+    } catch (const std::exception &) {
+        // The caller's event is stored all the same.
+    }
+}
+
 bool mayPass(const Failure &failure)
 {
     return failure.result() == RUI_FULL || failure.result() == RUI_BUSY;
@@ -224,15 +234,18 @@ void Store::keepToQuota(const Occupancy &occupancy) noexcept
     if (!exceeds(occupancy, m_limits)) {
         return;
     }
-    try {
-        enforceQuota(m_connection->database, m_limits);
-    } catch (const std::exception &) {
-        // The event is stored, which is what the caller is told; the next one tries again.
-    }
+    // The event is stored, which is what the caller is told; when this fails, the next one tries
+    // again.
+    tolerating([this] {
+        recovering([this](Connection &current) { enforceQuota(current.database, m_limits); });
+    });
 }
 
 void Store::boundJournal() noexcept
 {
+    if (!m_connection) {
+        return;
+    }
     sqlite3 *database = m_connection->database.handle();
     if (m_connection->database.journalPages() >= m_limits.maxJournalPages) {
         sqlite3_wal_checkpoint_v2(database, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
@@ -244,12 +257,13 @@ void Store::noteUnstored() noexcept
     if (m_unstored == 0) {
         return;
     }
-    try {
-        addLoss(m_connection->database, LossReason::Storage, m_unstored);
+    // When this fails, they are counted with the next event that is stored.
+    tolerating([this] {
+        recovering([this](Connection &current) {
+            addLoss(current.database, LossReason::Storage, m_unstored);
+        });
         m_unstored = 0;
-    } catch (const std::exception &) {
-        // Counted with the next event that is stored.
-    }
+    });
 }
 
 } // namespace rui

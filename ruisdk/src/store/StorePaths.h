@@ -28,6 +28,11 @@ public:
     {
         return m_directory + "/usage-events.sqlite";
     }
+    // Takes the place of a damaged database once it is complete.
+    std::string replacement() const
+    {
+        return database() + ".new";
+    }
     // See WithdrawalMark.
     std::string consent() const
     {
