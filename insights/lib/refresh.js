@@ -8,8 +8,8 @@ import { UserError } from "./user-error.js";
 const rollups = ["activity", "runs", "cameras", "features", "values", "streams", "grabs", "failures",
     "losses"];
 
-// So many weeks are rolled up at once, which bounds the memory that it takes.
-const weeksAtOnce = 8;
+// So many records are rolled up at once, or one week if it has more: that bounds the memory it takes.
+const recordsAtOnce = 2e6;
 
 // What was replaced is removed when it has come to so many parts of tables.
 const partsToSweep = 300;
@@ -22,23 +22,28 @@ async function runAll(engine, file, parameters) {
     }
 }
 
-/** Weeks in groups of neighbours, each of at most weeksAtOnce. */
+/** Weeks ([[week, records], ...], rising) in groups of neighbours, each of at most recordsAtOnce. */
 export function neighbours(weeks) {
     const groups = [];
-    for (const week of weeks) {
+    let sum = 0;
+    for (const [week, records] of weeks) {
         const group = groups.at(-1);
         const follows = group && Date.parse(week) - Date.parse(group.at(-1)) === millisecondsOfWeek;
-        if (follows && group.length < weeksAtOnce) {
+        if (follows && sum + records <= recordsAtOnce) {
             group.push(week);
+            sum += records;
         } else {
             groups.push([week]);
+            sum = records;
         }
     }
     return groups;
 }
 
 async function clearFresh(engine) {
-    for (const table of ["recent", ...rollups.map((name) => `fresh_${name}`)]) {
+    const filled = await column(engine, "SELECT DISTINCT table FROM system.parts WHERE active"
+        + " AND database = currentDatabase() AND (table = 'recent' OR startsWith(table, 'fresh_'))");
+    for (const table of filled) {
         await engine.run(`TRUNCATE TABLE ${table}`);
     }
 }
@@ -56,10 +61,9 @@ async function rollUp(engine, weeks) {
             `REPLACE PARTITION ID '${week.replaceAll("-", "")}' FROM fresh_${name}`).join(", ")}`);
     }
     await clearFresh(engine);
-    for (const [week, upTo] of seen.filter(([week]) => weeks.includes(week))) {
-        await engine.run("INSERT INTO weeks (week, rolled_up)"
-            + " VALUES ({week:Date}, {upTo:DateTime64(3)})", { week, upTo });
-    }
+    await engine.run("INSERT INTO weeks (week, rolled_up) SELECT toDate(entry.1), toDateTime64(entry.2, 3)"
+        + " FROM (SELECT arrayJoin(JSONExtract({seen:String}, 'Array(Tuple(String, String))')) AS entry)",
+    { seen: JSON.stringify(seen.filter(([week]) => weeks.includes(week))) });
 }
 
 async function column(engine, sql) {
@@ -74,7 +78,7 @@ async function column(engine, sql) {
 export async function refresh(engine, progress = () => {}) {
     await endInterrupted(engine);
     await erase(engine);
-    for (const weeks of neighbours(await column(engine, "SELECT week FROM weeks_to_roll_up ORDER BY week"))) {
+    for (const weeks of neighbours(await engine.rows("SELECT week, records FROM weeks_to_roll_up ORDER BY week"))) {
         progress(weeks);
         await rollUp(engine, weeks);
     }

@@ -44,7 +44,7 @@ async function applySchema(engine) {
 
 /**
  * Opens the stored events that the options `data` or `server` name, makes what is missing, and ends
- * what an interrupted command has begun. Returns the engine: rows(), run(), runOnFile(), close().
+ * what an interrupted command has begun. Returns the engine: rows(), run(), loadLines(), sweep(), close().
  */
 export async function openStore(options) {
     const engine = await openEngine(options);

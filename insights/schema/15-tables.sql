@@ -46,8 +46,15 @@ GROUP BY week;
 
 -- Of a grab that began in one week and ended in the next, the next one tells.
 CREATE OR REPLACE VIEW weeks_to_roll_up AS
-SELECT week FROM open_weeks
-WHERE is_stale OR week - 7 IN (SELECT week FROM open_weeks WHERE is_stale);
+SELECT open_weeks.week AS week, stored.records AS records
+FROM open_weeks
+LEFT JOIN
+(
+    SELECT toDate(partition) AS week, sum(rows) AS records FROM system.parts
+    WHERE database = currentDatabase() AND table = 'usage_logs' AND active
+    GROUP BY week
+) AS stored ON open_weeks.week = stored.week
+WHERE is_stale OR open_weeks.week - 7 IN (SELECT week FROM open_weeks WHERE is_stale);
 
 -- Records that arrived, by load (0 from a collector) and what became of them.
 CREATE TABLE IF NOT EXISTS arrivals (load UInt64, what LowCardinality(String), records UInt64)

@@ -137,8 +137,8 @@ FROM judged
 GROUP BY load, what;
 
 CREATE MATERIALIZED VIEW IF NOT EXISTS count_lines TO arrivals AS
-SELECT load, multiIf(JSONType(line) != 'Object', 'not_json',
-        JSONType(line, 'resourceLogs') != 'Array', 'not_otlp', 'lines') AS what, count() AS records
+SELECT load, multiIf(JSONType(line, 'resourceLogs') = 'Array', 'lines',
+        JSONType(line) = 'Object', 'not_otlp', 'not_json') AS what, count() AS records
 FROM incoming
 GROUP BY load, what;
 

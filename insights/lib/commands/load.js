@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
-import { filesOf, loadFile, outcome } from "../load.js";
+import { filesOf } from "../files.js";
+import { batchesOf, loadBatch, outcome } from "../load.js";
 import { refresh } from "../refresh.js";
 import { openStore, storeOptions, storeUsage } from "../store.js";
 import { UserError } from "../user-error.js";
@@ -13,6 +14,21 @@ function describe(counts) {
     return told.length > 0 ? told.join(", ") : "no lines";
 }
 
+// Returns a text for each file that could not be loaded; the others are.
+async function loadAll(engine, files) {
+    const failures = [];
+    let done = 0;
+    for (const batch of batchesOf(files, engine)) {
+        for (const { path, load, error } of await loadBatch(engine, batch)) {
+            done += 1;
+            const result = error ?? (load === null ? "loaded before" : describe(await outcome(engine, load)));
+            console.log(`${done}/${files.length} ${path}: ${result}`);
+            failures.push(...error === undefined ? [] : [`${path}: ${error}`]);
+        }
+    }
+    return failures;
+}
+
 export async function run(values, paths) {
     if (paths.length === 0) {
         throw new UserError(`say what to load; usage: nerix-insights ${usage}`);
@@ -20,12 +36,11 @@ export async function run(values, paths) {
     const files = filesOf(paths);
     const engine = await openStore(values);
     try {
-        for (const [index, file] of files.entries()) {
-            const load = await loadFile(engine, file);
-            const result = load === null ? "loaded before" : describe(await outcome(engine, load));
-            console.log(`${index + 1}/${files.length} ${file}: ${result}`);
-        }
+        const failures = await loadAll(engine, files);
         await refresh(engine, (weeks) => console.log(`rolled up: ${weeks[0]} to ${weeks.at(-1)}`));
+        if (failures.length > 0) {
+            throw new UserError(`not loaded: ${failures.join("; ")}`);
+        }
     } finally {
         await engine.close();
     }

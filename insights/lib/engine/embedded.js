@@ -42,8 +42,8 @@ export class EmbeddedEngine {
     /** How long after its time what others insert may be seen: there are no others here. */
     secondsUntilSeen = 0;
 
-    /** Where statements read the lines of a file from: a parameter `file` gives its path. */
-    lineSource = "file({file:String}, 'LineAsString', 'line String')";
+    /** Whether loadLines() takes many files as well as one. */
+    readsFilesTogether = true;
 
     async query(sql, parameters, format) {
         try {
@@ -62,9 +62,10 @@ export class EmbeddedEngine {
         await this.query(sql, parameters, "Null");
     }
 
-    /** Runs an INSERT that reads lineSource; `path` must have no character with a meaning in globs. */
-    async runOnFile(sql, path, parameters) {
-        await this.run(sql, { ...parameters, file: path });
+    /** Hands the lines of all files in a folder on; their names begin with the number of their load. */
+    async loadLines(folder) {
+        await this.run("INSERT INTO incoming SELECT toUInt64(extract(_file, '^[0-9]+')) AS load, line"
+            + " FROM file({files:String}, 'LineAsString', 'line String')", { files: `${folder}/*.{jsonl,gz}` });
     }
 
     /**

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 import { createReadStream } from "node:fs";
+import { createGunzip } from "node:zlib";
+
 import { UserError } from "../user-error.js";
 import { settings } from "./settings.js";
 
@@ -30,7 +32,7 @@ export class ServerEngine {
 
     secondsUntilSeen = 600;
 
-    lineSource = "input('line String')";
+    readsFilesTogether = false;
 
     async request(sql, parameters, body, inDatabase = environment("DATABASE", "nerix_insights")) {
         const url = new URL(this.url);
@@ -68,8 +70,11 @@ export class ServerEngine {
         await this.request(sql, parameters);
     }
 
-    async runOnFile(sql, path, parameters) {
-        await this.request(`${sql} FORMAT LineAsString`, parameters, createReadStream(path));
+    async loadLines(folder, [{ load, file }]) {
+        const lines = createReadStream(file);
+        await this.request("INSERT INTO incoming SELECT {load:UInt64} AS load, line"
+            + " FROM input('line String') FORMAT LineAsString", { load },
+            file.endsWith(".gz") ? lines.pipe(createGunzip()) : lines);
     }
 
     /** The server removes files that are no longer needed by itself (old_parts_lifetime). */
