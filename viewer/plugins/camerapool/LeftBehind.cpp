@@ -16,8 +16,7 @@ std::atomic<bool> hasLeft{false};
 void noteLeftBehind(const QString &what)
 {
     hasLeft = true;
-    qCWarning(lcCameraPool, "%s does not come to an end; the viewer goes on without it",
-              qUtf8Printable(what));
+    qCInfo(lcCameraPool, "%s does not come to an end and is left to itself", qUtf8Printable(what));
 }
 
 bool isAnythingLeftBehind()
