@@ -12,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJsonDocument>
+#include <QRegularExpression>
 #include <QTest>
 
 // The whole viewer with its windows, as a user has it, and with what is on the network.
@@ -55,7 +56,9 @@ int peakMemory(const CViewerProcess &viewer)
 QString brokenEvent(const QStringList &events)
 {
     for (const QString &event : events) {
-        const QString details = event.section('\t', 2, 2);
+        // What the status bar and the stream counted are objects in quotes.
+        const QString details =
+            event.section('\t', 2, 2).replace(QRegularExpression("\"(\\{[^{}]*\\})\""), "\\1");
         const bool isWhole =
             details.isEmpty() || QJsonDocument::fromJson(details.toUtf8()).isObject();
         if (!isWhole || event.contains("XQZ") || event.contains("secret")) {
