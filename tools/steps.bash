@@ -27,8 +27,10 @@ progress_of() {
 
 # One line that moves on a terminal, or a line now and then.
 show_progress() {
-    local text=$1 log=$2 begin=$SECONDS passed
-    while sleep 1 && kill -0 $$ 2>/dev/null; do
+    local text=$1 log=$2 begin=$SECONDS passed never
+    # A second passes without a program, which would outlive the step.
+    exec {never}<> <(:)
+    while ! read -rt 1 -u "$never" && kill -0 $$ 2>/dev/null; do
         passed=$((SECONDS - begin))
         if [[ -t 2 ]]; then
             printf '\r\033[K%s %s, %s' "$text" "$(say_clock $passed)" "$(progress_of "$log")" >&2

@@ -8,11 +8,9 @@
 #include "application/EndQuestion.h"
 #include "application/LogOutput.h"
 #include "application/ProcessExit.h"
-#include "plugins/camerapool/LeftBehind.h"
 
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 #include <QSessionManager>
@@ -119,10 +117,5 @@ int main(int argc, char **argv)
     std::signal(SIGPIPE, SIG_IGN);
     chooseDisplay();
     scaleForFineScreens();
-    const int status = runViewer(argc, argv, commandLine);
-    if (CameraPool::isAnythingLeftBehind()) {
-        std::fflush(nullptr);
-        std::_Exit(status);
-    }
-    return status;
+    return runViewer(argc, argv, commandLine);
 }

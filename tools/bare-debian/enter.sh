@@ -11,7 +11,7 @@ shift
 
 # Without a network there is still the machine itself.
 ip link set lo up 2>/dev/null || true
-mount --bind "$root" "$root"
+mount --rbind "$root" "$root"
 if [ -n "$CACHE" ]; then
     mkdir -p "$root/var/cache/ccache"
     mount --bind "$CACHE" "$root/var/cache/ccache"

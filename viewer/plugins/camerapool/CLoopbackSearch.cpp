@@ -2,23 +2,29 @@
 // SPDX-License-Identifier: MIT
 #include "CLoopbackSearch.h"
 
-#include "CGvcpSearch.h"
+#include "AskCameras.h"
+
+#include <algorithm>
 
 namespace CameraPool {
 namespace {
 
-constexpr quint32 FirstAddress = 0x7f000001;
-constexpr quint32 LastAddress = 0x7f000005;
+constexpr int LastAddress = 5;
 
 } // namespace
 
 QVector<CFoundCamera> CLoopbackSearch::search()
 {
-    QVector<quint32> addresses;
-    for (quint32 address = FirstAddress; address <= LastAddress; ++address) {
-        addresses.append(address);
+    QVector<CFoundCamera> cameras;
+    for (int i = 1; i <= LastAddress; ++i) {
+        CFoundCamera camera;
+        camera.openId = QStringLiteral("127.0.0.%1").arg(i);
+        cameras.append(camera);
     }
-    return CGvcpSearch::at(addresses);
+    askCameras(&cameras);
+    const auto isSilent = [](const CFoundCamera &camera) { return !camera.isNameKnown; };
+    cameras.erase(std::remove_if(cameras.begin(), cameras.end(), isSilent), cameras.end());
+    return cameras;
 }
 
 } // namespace CameraPool

@@ -4,9 +4,6 @@
 
 #include <algorithm>
 
-#include <QHash>
-#include <QSet>
-
 namespace CameraPool {
 
 using Core::CameraPoolComponents::CameraInfoPtr;
@@ -22,12 +19,6 @@ QString serialNumberOf(const ICameraInfo &camera)
     return identity.startsWith(before) ? identity.mid(before.size()) : identity;
 }
 
-QString nameOf(const ICameraInfo &camera, bool isShared)
-{
-    const QString name = camera.displayName();
-    return isShared ? QStringLiteral("%1 (%2)").arg(name, serialNumberOf(camera)) : name;
-}
-
 } // namespace
 
 QString distinctName(const CameraInfoPtr &camera, const QList<CameraInfoPtr> &all)
@@ -36,20 +27,7 @@ QString distinctName(const CameraInfoPtr &camera, const QList<CameraInfoPtr> &al
     const bool isShared = std::any_of(all.begin(), all.end(), [&](const CameraInfoPtr &other) {
         return other->displayName() == name && other->identity() != camera->identity();
     });
-    return nameOf(*camera, isShared);
-}
-
-QStringList distinctNames(const QList<CameraInfoPtr> &all)
-{
-    QHash<QString, QSet<QString>> identities; // by name
-    for (const CameraInfoPtr &camera : all) {
-        identities[camera->displayName()].insert(camera->identity());
-    }
-    QStringList names;
-    for (const CameraInfoPtr &camera : all) {
-        names.append(nameOf(*camera, identities.value(camera->displayName()).size() > 1));
-    }
-    return names;
+    return isShared ? QStringLiteral("%1 (%2)").arg(name, serialNumberOf(*camera)) : name;
 }
 
 } // namespace CameraPool

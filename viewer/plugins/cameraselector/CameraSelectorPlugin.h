@@ -38,7 +38,6 @@ private:
     void onFirstSearchEnded();
     void showProblem(const QString &message);
     void hint(const QString &text);
-    void refreshSoon();
     void refresh();
 
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
@@ -48,7 +47,6 @@ private:
     std::unique_ptr<CCameraListModel> m_model;   // null without windows
     QPointer<CCameraPanel> m_panel;              // likewise; the window may delete it
     QTimer m_refreshTimer;
-    QTimer m_refreshSoon;
 };
 
 } // namespace CameraSelector
