@@ -67,9 +67,10 @@ async function floorOfLoad() {
 
 async function multiply() {
     for (let copy = 1; copy < Number(copies); copy += 1) {
-        await store.run("INSERT INTO usage_logs SELECT * REPLACE (toUUID(reinterpretAsUUID(sipHash128(client,"
-            + " {copy:UInt32}))) AS client, reinterpretAsFixedString(sipHash128(uid, {copy:UInt32})) AS uid)"
-            + " FROM usage_logs WHERE client IN (SELECT client FROM first_clients)", { copy });
+        await store.run("INSERT INTO usage_logs SELECT * REPLACE ("
+            + "reinterpretAsUUID(sipHash128(client, {copy:UInt32})) AS client, toFixedString(concat("
+            + "substring(uid, 1, 6), substring(sipHash128(uid, {copy:UInt32}), 1, 10)), 16) AS uid)"
+            + " FROM (SELECT * FROM usage_logs WHERE client IN (SELECT client FROM first_clients))", { copy });
     }
     await store.run("INSERT INTO weeks (week, touched) SELECT DISTINCT week, now64(3) FROM weeks");
 }
