@@ -46,6 +46,10 @@
         <source>&amp;End Now</source>
         <translation>今すぐ終了(&amp;E)</translation>
     </message>
+    <message>
+        <source>The script %1</source>
+        <translation>スクリプト %1</translation>
+    </message>
 </context>
 <context>
     <name>Application::Settings</name>
@@ -1060,6 +1064,13 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     <message>
         <source>Usage tracking is switched off: the administrator&apos;s file /etc/ruisdk/policy.json cannot be read. Nothing is recorded or sent.</source>
         <translation>使用状況の追跡は無効です。管理者のファイル /etc/ruisdk/policy.json を読み取れません。何も記録も送信もされません。</translation>
+    </message>
+</context>
+<context>
+    <name>Windows::RegularFile</name>
+    <message>
+        <source>It is not a file of its own</source>
+        <translation>通常のファイルではありません</translation>
     </message>
 </context>
 </TS>

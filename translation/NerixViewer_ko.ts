@@ -46,6 +46,10 @@
         <source>&amp;End Now</source>
         <translation>지금 종료(&amp;E)</translation>
     </message>
+    <message>
+        <source>The script %1</source>
+        <translation>스크립트 %1</translation>
+    </message>
 </context>
 <context>
     <name>Application::Settings</name>
@@ -1060,6 +1064,13 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     <message>
         <source>Usage tracking is switched off: the administrator&apos;s file /etc/ruisdk/policy.json cannot be read. Nothing is recorded or sent.</source>
         <translation>사용 추적이 꺼져 있습니다. 관리자의 파일 /etc/ruisdk/policy.json을 읽을 수 없습니다. 아무것도 기록되거나 전송되지 않습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Windows::RegularFile</name>
+    <message>
+        <source>It is not a file of its own</source>
+        <translation>일반 파일이 아닙니다</translation>
     </message>
 </context>
 </TS>

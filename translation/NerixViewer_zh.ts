@@ -46,6 +46,10 @@
         <source>&amp;End Now</source>
         <translation>立即结束(&amp;E)</translation>
     </message>
+    <message>
+        <source>The script %1</source>
+        <translation>脚本 %1</translation>
+    </message>
 </context>
 <context>
     <name>Application::Settings</name>
@@ -1060,6 +1064,13 @@ Then grab: F5 grabs until you stop, F6 grabs a single image.</source>
     <message>
         <source>Usage tracking is switched off: the administrator&apos;s file /etc/ruisdk/policy.json cannot be read. Nothing is recorded or sent.</source>
         <translation>使用情况跟踪已关闭：无法读取管理员的文件 /etc/ruisdk/policy.json。不会记录或发送任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>Windows::RegularFile</name>
+    <message>
+        <source>It is not a file of its own</source>
+        <translation>它不是普通文件</translation>
     </message>
 </context>
 </TS>

@@ -64,7 +64,8 @@ CHostileCamera::CHostileCamera(Identity identity)
     , m_control(m_identity.address, ControlPort)
     , m_stream(m_identity.address)
     , m_registers(int(RegisterSpace), '\0')
-    , m_description(HostileDescription::text())
+    , m_description(m_identity.description.isEmpty() ? HostileDescription::text()
+                                                     : m_identity.description)
     , m_end(::eventfd(0, EFD_CLOEXEC))
 {
     m_broadcasts.emplace_back("255.255.255.255", ControlPort);

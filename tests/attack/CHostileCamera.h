@@ -26,6 +26,7 @@ public:
         QByteArray mac = "02000000a001"; // in hexadecimal
         QByteArray userName = {};
         QByteArray model = "XQZ-2000";
+        QByteArray description = {}; // of its features; empty: HostileDescription::text()
     };
 
     // What the camera would answer to \a question is \a answer, empty for nothing; it answers what

@@ -17,6 +17,7 @@ class StuckExitTest : public QObject
 private Q_SLOTS:
     void testThirdSignalEndsTheViewer_data();
     void testThirdSignalEndsTheViewer();
+    void testSecondSignalEndsAScriptThatHeedsNothing();
     void testWhoIsStuckIsSaidAfterTenSecondsAndTheUserEndsTheViewer();
     void testExceptionThatLeavesADestructorIsSaidAndTheViewerEndsInOrder();
 
@@ -76,6 +77,20 @@ void StuckExitTest::testThirdSignalEndsTheViewer()
     QCOMPARE(lines.size(), 1);
     QVERIFY2(lines.first().contains("\"Stuck\"") || operation == "slot", qPrintable(lines.first()));
     QCOMPARE(!viewer.storedEvents().filter("SessionEnded").isEmpty(), sessionEnds);
+}
+
+// A single operation of the engine, which takes minutes.
+void StuckExitTest::testSecondSignalEndsAScriptThatHeedsNothing()
+{
+    CViewerProcess viewer;
+    viewer.start("print('begun'); [].indexOf.call({length: 4294967295}, 1);");
+    QVERIFY(viewer.waitForLine("begun"));
+    viewer.send(SIGTERM);
+    QVERIFY(!viewer.endsWithin(2000));
+    viewer.send(SIGTERM);
+    QVERIFY(viewer.endsWithin(longestEnd));
+    QCOMPARE(viewer.finish(), 1);
+    QCOMPARE(viewer.logged().filter("test.js does not end").size(), 1);
 }
 
 // In a window of its own, since those of the viewer hang.

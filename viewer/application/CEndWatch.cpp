@@ -73,6 +73,13 @@ void CEndWatch::rest()
                       text(QT_TRANSLATE_NOOP("Application::EndQuestion", "The viewer itself"))));
 }
 
+void CEndWatch::restWhile(const QString &script)
+{
+    m_guard.rest(
+        step(QStringLiteral("script %1 does not end").arg(script),
+             text(QT_TRANSLATE_NOOP("Application::EndQuestion", "The script %1")).arg(script)));
+}
+
 void CEndWatch::expectCameras()
 {
     m_guard.expect(

@@ -25,6 +25,9 @@ public:
     /// The viewer works, and is not to end.
     void rest();
 
+    /// The same, but \a script runs, which a request ends first.
+    void restWhile(const QString &script);
+
     /// The cameras are closed next.
     void expectCameras();
 

@@ -54,6 +54,10 @@ CViewer::CViewer(const CommandLine &commandLine, QObject *parent)
     connect(&m_askAgain, &QTimer::timeout, this, &CViewer::closeApplication);
     if (!m_commandLine.scriptFile.isEmpty()) {
         m_script = std::make_unique<Scripting::CScriptRunner>(m_plugins);
+        m_script->setOverrunHandler([this] {
+            m_endWatch.guard().request();
+            m_endWatch.guard().insistOnStep();
+        });
     }
 }
 
@@ -200,6 +204,7 @@ void CViewer::onPluginsInitialized()
 
 void CViewer::runScript()
 {
+    m_endWatch.restWhile(m_commandLine.scriptFile);
     const QString failure = m_script->run(m_commandLine.scriptFile);
     if (!failure.isEmpty()) {
         const QString shown = Windows::shownText(failure, failure.size());

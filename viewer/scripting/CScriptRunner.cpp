@@ -3,6 +3,7 @@
 
 #include "scripting/CScriptRunner.h"
 
+#include "scripting/CMemoryWatch.h"
 #include "scripting/CScriptCameras.h"
 #include "scripting/CScriptConsent.h"
 #include "scripting/CScriptFeatures.h"
@@ -21,6 +22,7 @@
 #include <pluginsystem/CPluginManager.h>
 
 #include <cstdio>
+#include <exception>
 #include <utility>
 
 #include <QFile>
@@ -34,6 +36,9 @@ static void initResource()
 namespace Scripting {
 
 namespace {
+
+// Far above what a script needs that saves images or counts events, far below what hurts.
+constexpr qint64 defaultMemoryLimit = qint64(2) << 30;
 
 void printToStandardOutput(const QString &line)
 {
@@ -53,6 +58,7 @@ CScriptRunner::CScriptRunner(PluginSystem::CPluginManager &plugins, QObject *par
     : QObject(parent)
     , m_plugins(plugins)
     , m_printer(printToStandardOutput)
+    , m_memoryLimit(defaultMemoryLimit)
 {}
 
 CScriptRunner::~CScriptRunner() = default;
@@ -67,9 +73,36 @@ void CScriptRunner::setPrinter(Printer printer)
     m_printer = std::move(printer);
 }
 
+void CScriptRunner::setMemoryLimit(qint64 limit)
+{
+    m_memoryLimit = limit;
+}
+
+void CScriptRunner::setOverrunHandler(std::function<void()> handler)
+{
+    m_overrunHandler = std::move(handler);
+}
+
 QString CScriptRunner::run(const QString &file)
 {
     m_isRunning = true;
+    const CMemoryWatch watch(m_memoryLimit, [this] {
+        end(Ending::OutOfMemory);
+        m_overrunHandler();
+    });
+    QString failure;
+    try {
+        failure = evaluate(file);
+    } catch (const std::exception &exception) {
+        failure = QStringLiteral("%1: the engine gave up (%2): let the script take less memory")
+                      .arg(file, QString::fromUtf8(exception.what()));
+    }
+    m_isRunning = false;
+    return failure;
+}
+
+QString CScriptRunner::evaluate(const QString &file)
+{
     evaluateResource(":/scripting/arguments.js");
     addHost();
     evaluateResource(":/scripting/prelude.js");
@@ -78,7 +111,6 @@ QString CScriptRunner::run(const QString &file)
     // comes to its last line has not thrown.
     const QString program = contentOf(file) + QStringLiteral("\n;__nerix.endReached();");
     const QJSValue result = m_engine.evaluate(program, file);
-    m_isRunning = false;
     return failureOf(file, result);
 }
 
@@ -152,6 +184,13 @@ QString CScriptRunner::failureOf(const QString &file, const QJSValue &result) co
     }
     if (m_ending == Ending::Interrupted) {
         return QStringLiteral("%1: ended by a signal").arg(file);
+    }
+    // The engine does not tell where it was.
+    if (m_ending == Ending::OutOfMemory) {
+        return QStringLiteral(
+                   "%1: the script has taken more than %2 MiB of memory: let it keep less")
+            .arg(file)
+            .arg(m_memoryLimit >> 20);
     }
     return m_hasReachedEnd ? QString() : describeError(file, result);
 }

@@ -37,6 +37,13 @@ public:
     /// Takes what the script prints, line by line, instead of standard output. Before `run`.
     void setPrinter(Printer printer);
 
+    /// How much memory a script may take, in bytes. Before `run`.
+    void setMemoryLimit(qint64 limit);
+
+    /// Called in a thread of its own when a script has taken more than that and is to end: a single
+    /// operation of the engine may not heed it. Before `run`.
+    void setOverrunHandler(std::function<void()> handler);
+
     /// Runs the script in \a file and returns when it has ended; while the script waits, an event
     /// loop runs. Once.
     /// @return what made the script fail, as a line "FILE:LINE: message"; empty if it did not.
@@ -49,19 +56,22 @@ public:
     void interrupt();
 
 private:
-    enum class Ending { None, Quit, Interrupted };
+    enum class Ending { None, Quit, Interrupted, OutOfMemory };
 
     void addHost();
     void addObjects();
     void addObject(const char *name, QObject *object);
     void evaluateResource(const char *fileName);
     void end(Ending ending);
+    QString evaluate(const QString &file);
     QString failureOf(const QString &file, const QJSValue &result) const;
 
     PluginSystem::CPluginManager &m_plugins;
     QJSEngine m_engine;
     CScriptWait m_wait;
     Printer m_printer;
+    qint64 m_memoryLimit;
+    std::function<void()> m_overrunHandler = [] {};
     std::atomic<Ending> m_ending{Ending::None};
     std::atomic<bool> m_isRunning{false};
     bool m_hasReachedEnd = false;

@@ -21,6 +21,7 @@ class FeatureStreamTest : public QObject
 private Q_SLOTS:
     void firstLineCountsAndEachFeatureIsALine();
     void controlCharactersAreEscapedAndComeBack();
+    void controlCharactersInANameAreEscapedToo();
     void damagedStreamIsRefused_data();
     void damagedStreamIsRefused();
     void cameraStreamHoldsEveryReadableFeatureInTreeOrder();
@@ -55,6 +56,17 @@ void FeatureStreamTest::controlCharactersAreEscapedAndComeBack()
     const QString stream = FeatureStream::format(lines, 0);
     QCOMPARE(stream, QStringLiteral("# nerix feature stream 1: 1 features, 0 not readable\n"
                                     "Label\ta\\tb\\nc\\rd\\\\e\\\\n\n"));
+    QCOMPARE(FeatureStream::parse(stream), lines);
+}
+
+void FeatureStreamTest::controlCharactersInANameAreEscapedToo()
+{
+    const QVector<FeatureStream::Line> lines{{QStringLiteral("La\nbel\t\\"), QStringLiteral("a")},
+                                             {QStringLiteral("Width"), QStringLiteral("512")}};
+    const QString stream = FeatureStream::format(lines, 0);
+    QCOMPARE(stream, QStringLiteral("# nerix feature stream 1: 2 features, 0 not readable\n"
+                                    "La\\nbel\\t\\\\\ta\n"
+                                    "Width\t512\n"));
     QCOMPARE(FeatureStream::parse(stream), lines);
 }
 

@@ -4,6 +4,8 @@
 #include "CScriptRun.h"
 #include "support/Texts.h"
 
+#include <new>
+
 #include <QTest>
 #include <QTimer>
 
@@ -21,6 +23,9 @@ private Q_SLOTS:
     void testQuitEndsTheScriptAtOnce();
     void testQuitFromOutsideEndsAWait();
     void testInterruptIsAFailure();
+    void testScriptThatTakesAllMemoryEndsInALine_data();
+    void testScriptThatTakesAllMemoryEndsInALine();
+    void testExceptionOfTheEngineIsAFailure();
 };
 
 void ScriptErrorTest::testScriptThatEndsHasNotFailed_data()
@@ -118,6 +123,41 @@ void ScriptErrorTest::testInterruptIsAFailure()
     CScriptRun run;
     QTimer::singleShot(0, &run.runner(), &Scripting::CScriptRunner::interrupt);
     QCOMPARE(run.run("sleep(600000);"), QStringLiteral("test.js: ended by a signal"));
+}
+
+void ScriptErrorTest::testScriptThatTakesAllMemoryEndsInALine_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::newRow("arrays") << QByteArray(
+        "var a = [];\nwhile (true) { a.push(new Array(1000).fill(7)); }");
+    QTest::newRow("chains") << QByteArray("var a = [];\nfor (;;) { a = [a]; }");
+    QTest::newRow("properties") << QByteArray(
+        "var o = {};\nfor (var i = 0;; ++i) { o['k' + i] = i; }");
+    QTest::newRow("texts") << QByteArray(
+        "var a = [];\nfor (var i = 0;; ++i) { a.push('text'.repeat(100000) + i); }");
+}
+
+void ScriptErrorTest::testScriptThatTakesAllMemoryEndsInALine()
+{
+    QFETCH(QByteArray, script);
+    CScriptRun run;
+    bool isTold = false;
+    run.runner().setMemoryLimit(64 << 20);
+    run.runner().setOverrunHandler([&isTold] { isTold = true; });
+    QCOMPARE(run.run(script), QString("test.js: the script has taken more than 64 MiB of memory: "
+                                      "let it keep less"));
+    QVERIFY(isTold);
+    QVERIFY(!run.runner().isRunning());
+}
+
+void ScriptErrorTest::testExceptionOfTheEngineIsAFailure()
+{
+    CScriptRun run;
+    run.runner().setPrinter([](const QString &) { throw std::bad_alloc(); });
+    QCOMPARE(
+        run.run("print('line');"),
+        QString("test.js: the engine gave up (std::bad_alloc): let the script take less memory"));
+    QVERIFY(!run.runner().isRunning());
 }
 
 QTEST_MAIN(ScriptErrorTest)

@@ -3,6 +3,7 @@
 
 #include "plugins/featurefiles/CFeatureFile.h"
 
+#include "windows/RegularFile.h"
 #include "windows/WrittenFile.h"
 
 #include <ParameterCollection/CParameterException.h>
@@ -80,10 +81,10 @@ CLoadReport CFeatureFile::load(const IParameterCollection &parameters,
 QString CFeatureFile::read() const
 {
     QFile file(m_fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw CParameterException(
-            tr("file %1 cannot be read: %2; choose another file")
-                .arg(QDir::toNativeSeparators(m_fileName), file.errorString()));
+    const QString problem = Windows::openRegular(file);
+    if (!problem.isEmpty()) {
+        throw CParameterException(tr("file %1 cannot be read: %2; choose another file")
+                                      .arg(QDir::toNativeSeparators(m_fileName), problem));
     }
     QByteArray text = file.read(largestFile);
     // An editor may have changed the line ends; within a value they are written as letters.

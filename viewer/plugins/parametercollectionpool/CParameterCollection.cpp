@@ -131,7 +131,7 @@ QString CParameterCollection::cameraStream() const
         }
         try {
             lines.append({feature.name(), CFeatureQuestions(feature).readText()});
-        } catch (const CParameterException &) {
+        } catch (const std::exception &) {
             ++notReadable;
         }
     }

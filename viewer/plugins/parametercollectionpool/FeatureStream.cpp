@@ -84,7 +84,7 @@ Line parseLine(const QString &text, int lineNumber)
     if (tab < 1) {
         throwDamaged(lineNumber);
     }
-    return {text.left(tab), unescaped(text.mid(tab + 1), lineNumber)};
+    return {unescaped(text.left(tab), lineNumber), unescaped(text.mid(tab + 1), lineNumber)};
 }
 
 } // namespace
@@ -95,7 +95,8 @@ QString format(const QVector<Line> &lines, int notReadable)
                          .arg(lines.size())
                          .arg(notReadable);
     for (const Line &line : lines) {
-        stream += line.first + QLatin1Char('\t') + escaped(line.second) + QLatin1Char('\n');
+        stream +=
+            escaped(line.first) + QLatin1Char('\t') + escaped(line.second) + QLatin1Char('\n');
     }
     return stream;
 }

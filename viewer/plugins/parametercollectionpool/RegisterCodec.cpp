@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 #include "CValueCodec.h"
+#include "RegisterLength.h"
 #include "ValueText.h"
 
 namespace ParameterCollectionPool {
@@ -11,15 +12,9 @@ ArvGcRegister *asRegister(const CNodeAccess &access)
     return ARV_GC_REGISTER(access.node());
 }
 
-int length(const CNodeAccess &access)
-{
-    return int(access.call(
-        [&](GError **error) { return arv_gc_register_get_length(asRegister(access), error); }));
-}
-
 QString read(const CNodeAccess &access)
 {
-    QByteArray bytes(length(access), '\0');
+    QByteArray bytes(registerLength(access), '\0');
     access.run([&](GError **error) {
         arv_gc_register_get(asRegister(access), bytes.data(), guint64(bytes.size()), error);
     });
@@ -28,7 +23,7 @@ QString read(const CNodeAccess &access)
 
 QString check(const CNodeAccess &access, const QString &text)
 {
-    const int size = length(access);
+    const int size = registerLength(access);
     const auto bytes = ValueText::toBytes(text);
     if (!bytes || bytes->size() != size) {
         access.refuse(QStringLiteral("these are not %1 bytes: give 0x and %2 hexadecimal digits")

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 #include "CValueCodec.h"
+#include "RegisterLength.h"
 
 namespace ParameterCollectionPool {
 namespace {
@@ -26,6 +27,9 @@ QString printed(const QByteArray &bytes)
 // written as other bytes than it was read from is none.
 QString read(const CNodeAccess &access)
 {
+    if (ARV_IS_GC_REGISTER(access.node())) {
+        registerLength(access);
+    }
     const QByteArray bytes = access.call(
         [&](GError **error) { return QByteArray(arv_gc_string_get_value(string(access), error)); });
     const QString text = QString::fromUtf8(bytes);
