@@ -83,7 +83,7 @@ void StuckExitTest::testThirdSignalEndsTheViewer()
 void StuckExitTest::testSecondSignalEndsAScriptThatHeedsNothing()
 {
     CViewerProcess viewer;
-    viewer.start("print('begun'); [].lastIndexOf.call({length: 4294967295, 0: 1}, 2);");
+    viewer.start("print('begun'); [].every.call({length: 4294967295}, isNaN);");
     QVERIFY(viewer.waitForLine("begun"));
     viewer.send(SIGTERM);
     QVERIFY(!viewer.endsWithin(2000));
