@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// Everything that a simulated fleet leaves to chance. Two of the same name give the same numbers for
-// ever; a client has one of its own, so that a larger fleet has the smaller one in it.
+// Everything that a simulated fleet leaves to chance. Two of the same name give the same numbers
+// for ever; a client has one of its own, so that a larger fleet has the smaller one in it.
 
 import { createHash } from "node:crypto";
 

@@ -16,7 +16,8 @@ export const week = 7 * day;
 const languages = [{ name: "US English", weight: 55 }, { name: "German", weight: 18 },
     { name: "Japanese", weight: 12 }, { name: "Korean", weight: 7 }, { name: "Chinese", weight: 8 }];
 
-// Ways to use the viewer: sessions a week, looks at features and changes a session, grabs a session.
+// Ways to use the viewer: sessions a week, looks at features and changes a session, grabs a
+// session.
 const habits = [
     { name: "evaluates", weight: 25, sessions: 3, chosen: 14, changed: 6, grabs: 4, stays: 5 },
     { name: "integrates", weight: 30, sessions: 2.2, chosen: 6, changed: 5, grabs: 5, stays: 40 },

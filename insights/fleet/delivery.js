@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// How events travel: in requests that come at once, late, twice, or by hand from a machine without a
-// network; and which of them are lost on the way. A delivery is one request:
-// {arrival, client, resource, events, handedOver, again}. Arrivals are by the collector's clock.
+// How events travel: in requests that come at once, late, twice, or by hand from a machine without
+// a network; and which of them are lost on the way. A delivery is one request: {arrival, client,
+// resource, events, handedOver, again}. Arrivals are by the collector's clock.
 
 import { day, second, week } from "./client.js";
 

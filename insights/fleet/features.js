@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 //
 // The features of simulated cameras. A feature is of one kind: a number with limits, a switch, an
-// enumeration with its entries, a command, or a text. "chosen" and "changed" say how much users look
-// at it and set it; without them nobody touches it. What is "odd" has no name of the standard, so that
-// nobody knows what its values tell.
+// enumeration with its entries, a command, or a text. "chosen" and "changed" say how much users
+// look at it and set it; without them nobody touches it. What is "odd" has no name of the standard,
+// so that nobody knows what its values tell.
 
 function integer(name, from, to, traits) {
     return { name, kind: "integer", from, to, ...traits };
@@ -97,7 +97,8 @@ export const lineFeatures = [
 ];
 
 export const ownFeatures = [
-    integer("QmzTone", 0, 10, { odd: true, chosen: 1, changed: 0.5 }), text("QmzLabel", { chosen: 0.5, changed: 0.4 }),
+    integer("QmzTone", 0, 10, { odd: true, chosen: 1, changed: 0.5 }),
+    text("QmzLabel", { chosen: 0.5, changed: 0.4 }),
     integer("QmzFrameCounter", 0, 2 ** 40), command("QmzFrameCounterReset", { changed: 0.3 }),
     integer("QmzFilterWheelPosition", 0, 5, { chosen: 0.02 }), toggle("QmzInvert"),
 ];

@@ -84,8 +84,8 @@ class Road {
     }
 }
 
-// options: {clients, weeks, seed, end}; "end" is a midnight in microseconds, the first that is not in
-// the fleet. Yields {day, deliveries} for each day, in the order of arrival.
+// options: {clients, weeks, seed, end}; "end" is a midnight in microseconds, the first that is not
+// in the fleet. Yields {day, deliveries} for each day, in the order of arrival.
 export function* simulateFleet(options) {
     const start = options.end - options.weeks * week;
     const people = makePeople({ ...options, start });

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// The bytes that the analytics library sends: one export request for a list of events of one client.
-// A test compares them with a request of the library itself.
+// The bytes that the analytics library sends: one export request for a list of events of one
+// client. A test compares them with a request of the library itself.
 
 import { recordText } from "./records.js";
 

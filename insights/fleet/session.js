@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 //
 // What happens from the start of the viewer until its end, as the plug-in tells it. An event has
-// {time, run, category, name, record}: the time in microseconds, and the record as an object with the
-// keys of docs/events.md; a feature stream is {names, values, unreadable} there. The event without a
-// record has none.
+// {time, run, category, name, record}: the time in microseconds, and the record as an object with
+// the keys of docs/events.md; a feature stream is {names, values, unreadable} there. The event
+// without a record has none.
 
 import { releaseOf, resourceOf, second } from "./client.js";
 import { grab } from "./grab.js";
@@ -114,7 +114,8 @@ function finish(session, cameras) {
         { FinalCameraCount: cameras.length - gone, TotalUsedCameraCount: cameras.length });
 }
 
-// A session that crashes ends with whatever happened last, and sometimes with nothing but its start.
+// A session that crashes ends with whatever happened last, and sometimes with nothing but its
+// start.
 function crash(session) {
     session.events.length = session.chance.integer(1, session.events.length - 1);
 }

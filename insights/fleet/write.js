@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// A simulated fleet as files: for each week the requests that came over the network, one a line, as a
-// collector's file exporter keeps them, and apart from them what was handed over.
+// A simulated fleet as files: for each week the requests that came over the network, one a line, as
+// a collector's file exporter keeps them, and apart from them what was handed over.
 
 import fs from "node:fs";
 import path from "node:path";
@@ -36,8 +36,9 @@ function writeDay(directory, firstDay, deliveries, gzip) {
         + appendLines(file("handed-over"), deliveries.filter((entry) => entry.handedOver), gzip);
 }
 
-// Returns {clients, requests, records, events, bytes}: "events" are those that differ, "clients" the
-// random numbers that were seen, "bytes" before compression. "onDeliveries" gets each day's list.
+// Returns {clients, requests, records, events, bytes}: "events" are those that differ, "clients"
+// the random numbers that were seen, "bytes" before compression. "onDeliveries" gets each day's
+// list.
 export function writeFleet(directory, options, onDeliveries = () => {}) {
     const seen = new Set();
     const start = options.end - options.weeks * week;

@@ -16,7 +16,8 @@ class Markup {
 const entities = { "&": "&amp;", "<": "&lt;", ">": "&gt;", '"': "&quot;", "'": "&#39;" };
 
 // Characters that a page must not hold, or that turn the order of what is read: shown as a box.
-const unprintable = /[\u0000-\u0008\u000b-\u001f\u007f-\u009f\u200e\u200f\u202a-\u202e\u2066-\u2069\ufffe\uffff]/g;
+const unprintable = new RegExp("[\\u0000-\\u0008\\u000b-\\u001f\\u007f-\\u009f\\u200e\\u200f"
+    + "\\u202a-\\u202e\\u2066-\\u2069\\ufffe\\uffff]", "g");
 
 // Halves of characters become boxes too.
 export function wellFormed(text) {

@@ -75,8 +75,8 @@ texts, serial numbers and addresses are in no answer. Who withdrew is in no answ
 </section>`;
 }
 
-// report: {since, until, made: days, threshold, answers: of lib/answers.js, findings: of the command
-// "check"}. Returns the page.
+// report: {since, until, made: days, threshold, answers: of lib/answers.js, findings: of the
+// command "check"}. Returns the page.
 export function page(report) {
     const list = inChapters(report.answers);
     return `<!DOCTYPE html>\n${html`<html lang="en"><head><meta charset="utf-8">

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// The colours of pictures, for light and for dark pages. Any two of a page can be told apart by people
-// who see no red, no green or no blue, and each stands out from the page; a test measures both.
+// The colours of pictures, for light and for dark pages. Any two of a page can be told apart by
+// people who see no red, no green or no blue, and each stands out from the page; a test measures
+// both.
 
 export const light = {
     page: "#ffffff",

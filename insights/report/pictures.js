@@ -27,7 +27,8 @@ function sumOf(rows, column) {
     return rows.reduce((sum, row) => sum + Number(row[column]), 0);
 }
 
-// The rest of too many series stands together, grey; their numbers may be added where they are parts.
+// The rest of too many series stands together, grey; their numbers may be added where they are
+// parts.
 function withFewSeries(rows, { x, y, by }) {
     const names = seriesNames(rows, by).filter((name) => name !== "others");
     const size = (name) => sumOf(rows.filter((row) => row[by] === name), y);
@@ -85,8 +86,8 @@ function heatPictures({ rows, axes, columns }) {
 
 const kinds = { bars: barPictures, heat: heatPictures, line: linePictures, stacked: stackedPictures };
 
-// {pictures, legend, note, isGrid} of a question and the rows of its answer, as objects; no pictures
-// for a question that is a table, or an answer without rows.
+// {pictures, legend, note, isGrid} of a question and the rows of its answer, as objects; no
+// pictures for a question that is a table, or an answer without rows.
 export function picturesOf(question, rows) {
     const { kind, ...axes } = question.picture;
     const columns = Object.fromEntries(question.columns.map((column) => [column.name, column]));

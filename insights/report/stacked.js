@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// Parts of a whole: bars over the weeks stand, others lie. Parts are told apart by colour and by a gap.
+// Parts of a whole: bars over the weeks stand, others lie. Parts are told apart by colour and by a
+// gap.
 
 import { draw, labelWidth, narrow, Plot } from "./figure.js";
 import { numberText, words } from "./numbers.js";

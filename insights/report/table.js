@@ -20,10 +20,18 @@ function shownColumns(columns) {
     return columns.filter(({ name }) => !["position", "median_seconds"].includes(name));
 }
 
+// Paper has no room for more rows: the style sheet leaves out the others there.
+export const mostPrinted = 30;
+
+function printed(rows) {
+    return rows.length <= mostPrinted ? "" : html`<p class="printed">The first ${mostPrinted} of
+${rows.length} rows are printed.</p>`;
+}
+
 export function table(question, rows) {
     const columns = shownColumns(question.columns);
     return html`<div class="scroll" tabindex="0" role="region" aria-label="${question.title}, table">
 <table><thead><tr>${columns.map((column) => (
     html`<th scope="col"${alignment(column)}>${words(column.name)}</th>`))}</tr></thead>
-<tbody>${rows.map((row) => rowOf(row, columns))}</tbody></table></div>`;
+<tbody>${rows.map((row) => rowOf(row, columns))}</tbody></table></div>${printed(rows)}`;
 }

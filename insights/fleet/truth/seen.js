@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// The events of a simulated fleet that count, taken from the deliveries themselves and not from their
-// bytes. An event keeps {time, uid, run, category, name, record, version, client}; times are
+// The events of a simulated fleet that count, taken from the deliveries themselves and not from
+// their bytes. An event keeps {time, uid, run, category, name, record, version, client}; times are
 // microseconds, and of a feature stream only the names are kept.
 
 const earliest = Date.UTC(2025, 0) * 1000;

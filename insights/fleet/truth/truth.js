@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// Every question, answered by plain code from the events themselves. It knows the definitions of the
-// questions and nothing of the engine: what both agree on is right, or wrongly defined.
+// Every question, answered by plain code from the events themselves. It knows the definitions of
+// the questions and nothing of the engine: what both agree on is right, or wrongly defined.
 
 import { cameraModels, camerasPerClient, packetLoss } from "./cameras.js";
 import { activeClients, consent, eventsLost, notUpdated, returningClients, versions }

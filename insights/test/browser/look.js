@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// look.js REPORT DIRECTORY: opens a report in a real Chromium at three widths, light and dark, and on
-// paper, and keeps what it looks like in DIRECTORY. Fails if the page says something to the console or
-// asks for anything. Needs the program "chromium"; NERIX_CHROMIUM names another one.
+// look.js REPORT DIRECTORY: opens a report in a real Chromium at three widths, light and dark, and
+// on paper, and keeps what it looks like in DIRECTORY. Fails if the page says something to the
+// console or asks for anything. Needs the program "chromium"; NERIX_CHROMIUM names another one.
 
 import { spawnSync } from "node:child_process";
 import { mkdirSync, mkdtempSync, readFileSync, rmSync } from "node:fs";
@@ -37,8 +37,8 @@ function browse(page, ...options) {
     }
 }
 
-// Addresses that the page asked for; what the browser asks for on its own account has no origin. The
-// page itself is a file.
+// Addresses that the page asked for; what the browser asks for on its own account has no origin.
+// The page itself is a file.
 function requestsIn(log) {
     return log.split("\n").filter((line) => line.includes('"initiator":"')
         && !line.includes('"initiator":"not an origin"'))

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// captured/session.jsonl is what the analytics library sent after a session of the real viewer with a
-// simulated camera.
+// captured/session.jsonl is what the analytics library sent after a session of the real viewer with
+// a simulated camera.
 
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// What no library of ours sends, among what one does: counted, kept out or shown as text, and the rest
-// of the file counts.
+// What no library of ours sends, among what one does: counted, kept out or shown as text, and the
+// rest of the file counts.
 
 import assert from "node:assert/strict";
 import { readFileSync, writeFileSync } from "node:fs";

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// A load that is killed at any moment loses nothing and counts nothing twice. NERIX_KILL_ROUNDS gives
-// another number of rounds.
+// A load that is killed at any moment loses nothing and counts nothing twice. NERIX_KILL_ROUNDS
+// gives another number of rounds.
 
 import assert from "node:assert/strict";
 import { spawn } from "node:child_process";

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// Every question against the plain computation, over whole simulated fleets. NERIX_FLEET_CLIENTS and
-// NERIX_FLEET_WEEKS give other sizes ("npm run full-fleets": 2,000 clients, 26 weeks).
+// Every question against the plain computation, over whole simulated fleets. NERIX_FLEET_CLIENTS
+// and NERIX_FLEET_WEEKS give other sizes ("npm run full-fleets": 2,000 clients, 26 weeks).
 
 import path from "node:path";
 import test from "node:test";
@@ -23,7 +23,8 @@ const periods = [
 ];
 
 for (const seed of [1, 2, 3]) {
-    test(`every question is right and tells of nobody over ${clients} clients, ${weeks} weeks, seed ${seed}`, (context) => {
+    const size = `${clients} clients, ${weeks} weeks, seed ${seed}`;
+    test(`every question is right and tells of nobody over ${size}`, (context) => {
         const folder = temporaryFolder(context);
         const [files, data] = ["files", "data"].map((name) => path.join(folder, name));
         const { truth } = writeKnownFleet(files, { clients, weeks, seed });

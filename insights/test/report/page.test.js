@@ -6,6 +6,7 @@ import test from "node:test";
 
 import { questions } from "../../lib/questions.js";
 import { csvOf } from "../../lib/text-table.js";
+import { mostPrinted } from "../../report/table.js";
 import { answerOf, answersWith, documentOf, pageOf } from "./sample.js";
 
 const hostile = {
@@ -47,7 +48,8 @@ for (const [kind, text] of Object.entries(hostile)) {
 }
 
 test("control and bidirectional characters are shown as boxes", () => {
-    const document = documentOf(pageOf([answerOf("camera-models", [["a\u0000b\u202ec\u001bd\ud800", 9, 9]])]));
+    const document = documentOf(pageOf([answerOf("camera-models",
+        [["a\u0000b\u202ec\u001bd\ud800", 9, 9]])]));
     assert.equal(document.querySelector("td").textContent, "a\ufffdb\ufffdc\ufffdd\ufffd");
 });
 
@@ -94,4 +96,14 @@ test("the page tells its period, its clients and what was left out", () => {
 test("a number of clients that may not be told is not", () => {
     const document = documentOf(pageOf([answerOf("active-clients", [], { speaksFor: 0 })]));
     assert.match(document.querySelector("header").textContent, /fewer than 5 clients\. Made/);
+});
+
+test("paper gets the first rows of a long table, and is told so", () => {
+    const rows = Array.from({ length: 31 }, (_, at) => [`feature${at}`, 40, 40]);
+    const text = pageOf([answerOf("features-chosen", rows)]);
+    assert.match(documentOf(text).querySelector(".printed").textContent,
+        /The first 30 of\s+31 rows are printed\./);
+    assert.match(text, new RegExp(`tbody tr:nth-child\\(n \\+ ${mostPrinted + 1}\\) \\{ display: none; \\}`));
+    assert.equal(documentOf(pageOf([answerOf("features-chosen", rows.slice(1))]))
+        .querySelector(".printed"), null);
 });

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// search-tables.js DATA: reads texts, one a line, and prints how many rows of each table hold one of
-// them in any column, as JSON; tables without such a row are left out.
+// search-tables.js DATA: reads texts, one a line, and prints how many rows of each table hold one
+// of them in any column, as JSON; tables without such a row are left out.
 
 import { readFileSync } from "node:fs";
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 //
 // real-events.js BUILD_DIR DIRECTORY: the whole road of real events. The demo's two sessions of the
-// viewer that was built in BUILD_DIR, handed over by rui-events, loaded and reported; what is made goes
-// to DIRECTORY, which must not exist. A single client may not be told of, so the same is done once more
-// with five others who have done the same.
+// viewer that was built in BUILD_DIR, handed over by rui-events, loaded and reported; what is made
+// goes to DIRECTORY, which must not exist. A single client may not be told of, so the same is done
+// once more with five others who have done the same.
 
 import assert from "node:assert/strict";
 import { spawnSync } from "node:child_process";
