@@ -16,6 +16,9 @@ import { temporaryFolder } from "./support/fleets.js";
 const document = readFileSync(new URL("../../docs/insights.md", import.meta.url), "utf8");
 const program = fileURLToPath(new URL("../bin/nerix-insights", import.meta.url));
 
+// Whoever has followed the page has these in the folder already.
+const ignored = readFileSync(new URL("../.gitignore", import.meta.url), "utf8").split("\n");
+
 function run(args, cwd) {
     return spawnSync(process.execPath, [program, ...args], { cwd, encoding: "utf8" });
 }
@@ -27,6 +30,10 @@ test("the first commands of the page lead to a report", (context) => {
         .map((line) => line.replace("--clients 200 --weeks 12", "--clients 20 --weeks 3").split(" ").slice(2));
     assert.deepEqual(commands.map(([name]) => name), ["simulate", "load", "report"]);
     for (const args of commands) {
+        for (const name of args.filter((arg) => /^(simulated|store|report\.html|fleet)$/.test(arg))) {
+            assert.ok(!existsSync(new URL(`../${name}`, import.meta.url))
+                || ignored.includes(`/${name}`), `insights has a "${name}" of its own`);
+        }
         const { status, stderr } = run(args, folder);
         assert.equal(status, 0, stderr);
     }
