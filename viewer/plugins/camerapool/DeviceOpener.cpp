@@ -30,16 +30,46 @@ constexpr std::chrono::milliseconds Suspicion(500);
                              .arg(name));
 }
 
+// Who holds a camera alone keeps others from reading it, too; but so may the camera itself.
+[[noreturn]] void throwDenied(const QString &name, const CGError &error)
+{
+    throw COpenException(COpenException::InUse,
+                         QStringLiteral("%1 denies access (%2): if another program has it open, "
+                                        "close it there, else switch it off and on; then open it "
+                                        "again")
+                             .arg(name, error.message()));
+}
+
+// A camera that refuses something is connected and switched on.
+bool isAnswer(const CGError &error)
+{
+    for (const int code :
+         {ARV_DEVICE_ERROR_PROTOCOL_ERROR, ARV_DEVICE_ERROR_PROTOCOL_ERROR_NOT_IMPLEMENTED,
+          ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_PARAMETER,
+          ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_ADDRESS,
+          ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT,
+          ARV_DEVICE_ERROR_PROTOCOL_ERROR_BAD_ALIGNMENT, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY}) {
+        if (error.is(ARV_DEVICE_ERROR, code)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 [[noreturn]] void throwFailed(const QString &name, const CGError &error)
 {
-    if (error.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED)
-        || error.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_NOT_CONTROLLER)) {
+    if (error.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_NOT_CONTROLLER)) {
         throwInUse(name);
     }
-    throw COpenException(COpenException::Other,
-                         QStringLiteral("%1 cannot be opened: %2; check its cable and power, then "
-                                        "open it again")
-                             .arg(name, error.message()));
+    if (error.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED)) {
+        throwDenied(name, error);
+    }
+    const QString failed = isAnswer(error)
+                               ? QStringLiteral("%1 cannot be opened, since it refuses: %2; switch "
+                                                "it off and on, then open it again")
+                               : QStringLiteral("%1 cannot be opened: %2; check its cable and "
+                                                "power, then open it again");
+    throw COpenException(COpenException::Other, failed.arg(name, error.message()));
 }
 
 // By address and not by id: what Aravis knows of an id may come from an interface that is gone.
