@@ -68,8 +68,8 @@ enum { RUI_PROTOCOL_OTLP_HTTP = 3 };
  * be lost. If none was, the child uses the library as any process does. The parent notices nothing.
  *
  * exit: when a program that has configured an instance ends by exit() or by returning from main,
- * every instance is destroyed, as ruiDestroyInstance does. A call that comes later, of a static object or of a thread that still
- * runs, is RUI_BAD_HANDLE, and ruiCreateInstance returns null.
+ * every instance is destroyed, as ruiDestroyInstance does. A call that comes later, of a static
+ * object or of a thread that still runs, is RUI_BAD_HANDLE, and ruiCreateInstance returns null.
  */
 typedef struct ruiInstance_ *ruiInstance;
 
@@ -104,8 +104,15 @@ RUI_API ruiInstance ruiCreateInstance(int32_t flag);
  * Waits at most 5 seconds for each of two locks: that of another opening, and that of a writer.
  *
  * A file in the place of the database that is not one, or is damaged, is set aside under a dated
- * name, which is said once on standard error; a new database is begun.
- * RUI_STORAGE: the directory or the database cannot be created, read or written.
+ * name, which is said once on standard error; what can be read of it is saved into a new database,
+ * and the rest is counted as lost. The same happens to damage that a later call, the library's
+ * thread or the tool comes upon.
+ * A withdrawal of consent that could not be carried out is carried out first. In a directory that
+ * was set up before, a full disk or a lock is no error here, so that consent can be withdrawn:
+ * ruiStartSDK tries again, and is RUI_FULL or RUI_BUSY then.
+ * configDirectory may be relative to the working directory of this moment.
+ * RUI_STORAGE: the directory or the database cannot be created, read or written, or a symbolic link
+ * stands in the place of one of its files.
  * RUI_UNSUPPORTED also: a database of a newer version; it is left alone.
  * RUI_FORKED: see ruiInstance.
  */
@@ -144,11 +151,18 @@ RUI_API int32_t ruiStartSDK(ruiInstance instance);
 RUI_API int32_t ruiStopSDK(ruiInstance instance, int32_t flag);
 
 /*
- * Withdraws the user's consent for everybody who uses this directory. In one step every event
- * that was not delivered is deleted, the client id is retired, and one record of the opt-out is
- * left for delivery under that id; the record goes out before anything else. Sessions that are
- * open, in this process or another, are RUI_OPTED_OUT from here on. Any time after
- * ruiCreateConfig; an opt-out that is repeated changes nothing and returns RUI_OK.
+ * Withdraws the user's consent for everybody who uses this directory. In one step every event,
+ * delivered or not, is deleted, the client id is retired, and one record of the opt-out is left for
+ * delivery under that id; the record goes out before anything else. No byte of a deleted event
+ * stays in the directory, nor of the client id once the record is delivered; while another program
+ * reads the database, that is finished when it has ended. Sessions that are open, in this process
+ * or another, are RUI_OPTED_OUT from here on. Any time after ruiCreateConfig; an opt-out that is
+ * repeated on the instance changes nothing and returns RUI_OK.
+ *
+ * When it fails, the withdrawal holds all the same: it is kept in a file that needs no room. This
+ * instance stores and sends nothing, whatever is called; its ruiStartSDK, and every opening of the
+ * directory, tries again and fails when that fails; and nobody sends anything from the directory
+ * before it is carried out. A file that is missing or damaged counts as a withdrawal.
  */
 RUI_API int32_t ruiOptOut(ruiInstance instance);
 

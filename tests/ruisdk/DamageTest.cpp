@@ -150,4 +150,31 @@ TEST_F(Damage, DirectoryThatCannotBeCreatedIsAStorageError)
     EXPECT_EQ(m_session.open("/proc/ruisdk"), 5);
 }
 
+TEST_F(Damage, SymbolicLinkInPlaceOfAFileIsAStorageErrorAndItsTargetLeftAlone)
+{
+    for (const char *file :
+         {"usage-events.sqlite", "usage-events.sqlite-wal", "usage-events.consent",
+          "usage-events.opening", "usage-events.sender"}) {
+        const TemporaryDirectory directory;
+        writeFile(directory.path("target"), "somebody else's");
+        std::filesystem::create_symlink(directory.path("target"), directory.path(file));
+        Session session;
+        EXPECT_EQ(session.config(directory.path()), 5) << file;
+        EXPECT_EQ(readFile(directory.path("target")), "somebody else's") << file;
+    }
+}
+
+TEST_F(Damage, RelativeDirectoryStaysTheSameWhenTheProgramGoesElsewhere)
+{
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(m_path);
+    EXPECT_EQ(m_session.open("below"), 0);
+    std::filesystem::current_path("/");
+    moveDatabase(m_path + "/below", m_directory.path("moved"));
+    writeFile(databasePath(m_path + "/below"), "");
+    EXPECT_EQ(m_session.track("text"), 0);
+    std::filesystem::current_path(before);
+    EXPECT_EQ(storedTexts(m_path + "/below"), std::vector<std::string>{"text"});
+}
+
 } // namespace

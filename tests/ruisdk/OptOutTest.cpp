@@ -190,4 +190,65 @@ TEST_F(OptOut, ForgetsLossesThatWereNotToldYet)
     EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM loss"), "0");
 }
 
+TEST_F(OptOut, RepeatedByTheSameInstanceLeavesANewConsentOfSomebodyElseAlone)
+{
+    Session first;
+    first.open(m_path);
+    EXPECT_EQ(first.optOut(), 0);
+    Session renewed;
+    EXPECT_EQ(renewed.open(m_path), 0);
+    EXPECT_EQ(first.optOut(), 0);
+    EXPECT_EQ(renewed.track("kept"), 0);
+    EXPECT_EQ(clientId().size(), 36U);
+}
+
+TEST_F(OptOut, EventThatIsTooLargeIsOptedOutAfterTheOptOutOfAnotherInstance)
+{
+    Session open;
+    open.open(m_path);
+    withdraw();
+    EXPECT_EQ(open.track(std::string(2 * 1024 * 1024, 'x')), 7);
+    EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM loss"), "0");
+}
+
+TEST_F(OptOut, DatabaseThatIsDamagedDoesNotReviveASessionThatIsOut)
+{
+    Session out;
+    out.open(m_path);
+    withdraw();
+    moveDatabase(m_path, m_directory.path("moved"));
+    writeFile(databasePath(m_path), "This is no database, but a letter of some length.\n");
+    EXPECT_EQ(out.track("text"), 7);
+    Session next;
+    EXPECT_EQ(next.open(m_path), 0);
+    EXPECT_EQ(out.track("text"), 7);
+}
+
+TEST_F(OptOut, RecordOfTheConsentThatIsRemovedCountsAsAWithdrawal)
+{
+    Session session;
+    session.open(m_path);
+    session.track("text");
+    session.destroy();
+    const std::string client = clientId();
+    std::filesystem::remove(m_path + "/usage-events.consent");
+    Session next;
+    EXPECT_EQ(next.open(m_path), 0);
+    EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM event"), "0");
+    EXPECT_NE(clientId(), client);
+}
+
+TEST_F(OptOut, RecordOfTheConsentThatIsOverwrittenCountsAsAWithdrawal)
+{
+    Session session;
+    session.open(m_path);
+    session.track("text");
+    session.destroy();
+    writeFile(m_path + "/usage-events.consent", "ruiSDK consent 1 rubbish");
+    Session next;
+    EXPECT_EQ(next.open(m_path), 0);
+    EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM event"), "0");
+    EXPECT_EQ(next.track("new"), 0);
+}
+
 } // namespace

@@ -7,6 +7,8 @@
 #include "delivery/CurlTransport.h"
 #include "store/Policy.h"
 
+#include <filesystem>
+
 namespace rui {
 
 namespace {
@@ -56,10 +58,13 @@ void Instance::configure(const Config &config)
     const std::lock_guard<std::mutex> lock(m_mutex);
     require(m_state == State::Created);
     endSessionsAtExit();
+    // The program may change its working directory later.
+    const std::string directory = std::filesystem::absolute(config.directory).string();
     OpeningOptions opening;
     opening.syncEveryCommit = config.syncEveryCommit;
-    m_store.emplace(StorePaths(config.directory), opening, m_limits, m_clock, m_busyLimit);
+    m_store.emplace(StorePaths(directory), opening, m_limits, m_clock, m_busyLimit);
     m_config = config;
+    m_config.directory = directory;
     m_product.productId = config.productId;
     m_product.application = config.application;
     m_state = State::Configured;
