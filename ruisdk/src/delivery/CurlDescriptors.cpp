@@ -31,7 +31,8 @@ std::set<int> candidates()
     std::error_code error;
     for (const auto &entry : std::filesystem::directory_iterator("/proc/self/fd", error)) {
         const int descriptor = std::stoi(entry.path().filename().string());
-        if (isCandidate(descriptor)) {
+        const std::string target = std::filesystem::read_symlink(entry.path(), error).string();
+        if (target.rfind("socket:", 0) == 0 && isCandidate(descriptor)) {
             found.insert(descriptor);
         }
     }

@@ -13,7 +13,6 @@
 #include <array>
 #include <atomic>
 #include <cstdio>
-#include <memory>
 #include <string>
 #include <thread>
 
@@ -60,23 +59,19 @@ struct LateCaller
 };
 LateCaller lateCaller;
 
-// Never destroyed, as those of a program that does not tidy up.
-ruiInstance keep(Session *session)
-{
-    return session->handle();
-}
-
 void prepareStatic(const std::string &directory)
 {
+    // Never destroyed, as those of a program that does not tidy up.
+    static auto *kept = new std::array<Session, 5>;
     std::array<Session *, 5> sessions{};
-    for (Session *&session : sessions) {
-        session = new Session;
+    for (std::size_t i = 0; i < sessions.size(); ++i) {
+        sessions[i] = &(*kept)[i];
     }
-    lateCaller.instances = {{{"created", keep(sessions[0])},
-                             {"configured", keep(sessions[1])},
-                             {"running", keep(sessions[2])},
-                             {"stopped", keep(sessions[3])},
-                             {"optedOut", keep(sessions[4])}}};
+    lateCaller.instances = {{{"created", sessions[0]->handle()},
+                             {"configured", sessions[1]->handle()},
+                             {"running", sessions[2]->handle()},
+                             {"stopped", sessions[3]->handle()},
+                             {"optedOut", sessions[4]->handle()}}};
     sessions[1]->config(directory);
     sessions[4]->config(directory);
     sessions[4]->product();
