@@ -3,8 +3,9 @@
 
 #include "application/CEndGuard.h"
 
+#include <mutex>
+
 #include <QElapsedTimer>
-#include <QMutex>
 #include <QSemaphore>
 #include <QTest>
 
@@ -36,11 +37,23 @@ struct Record
 {
     QSemaphore questions;
     QSemaphore ends;
-    QMutex mutex;
+    std::mutex mutex;
     QStringList asked;
     QStringList ended;
     bool answer = false;
 };
+
+QStringList askedOf(Record &record)
+{
+    const std::lock_guard<std::mutex> lock(record.mutex);
+    return record.asked;
+}
+
+QStringList endedOf(Record &record)
+{
+    const std::lock_guard<std::mutex> lock(record.mutex);
+    return record.ended;
+}
 
 constexpr CEndGuard::Limits shortLimits{30ms, 30ms, 30ms};
 constexpr CEndGuard::Limits onlyGrace{1h, 1h, 50ms};
@@ -54,7 +67,7 @@ EndStep step(const char *line)
 CEndGuard::Asker askerOf(const std::shared_ptr<Record> &record)
 {
     return [record](const EndStep &stuck) {
-        const QMutexLocker lock(&record->mutex);
+        const std::lock_guard<std::mutex> lock(record->mutex);
         record->asked.append(stuck.line);
         record->questions.release();
         return record->answer;
@@ -64,7 +77,7 @@ CEndGuard::Asker askerOf(const std::shared_ptr<Record> &record)
 CEndGuard::Ender enderOf(const std::shared_ptr<Record> &record)
 {
     return [record](const EndStep &stuck) {
-        const QMutexLocker lock(&record->mutex);
+        const std::lock_guard<std::mutex> lock(record->mutex);
         record->ended.append(stuck.line);
         record->ends.release();
     };
@@ -79,7 +92,7 @@ void EndGuardTest::testStepThatHangsIsAskedAboutAndNotEnded()
     guard.expect(step("a"));
     QVERIFY(record->questions.tryAcquire(1, limit));
     QVERIFY(!record->ends.tryAcquire(1, 200));
-    QCOMPARE(record->asked, QStringList("a"));
+    QCOMPARE(askedOf(*record), QStringList("a"));
 }
 
 void EndGuardTest::testAnswerToEndEndsTheStepThatHangs()
@@ -89,7 +102,7 @@ void EndGuardTest::testAnswerToEndEndsTheStepThatHangs()
     CEndGuard guard(askerOf(record), enderOf(record), shortLimits);
     guard.expect(step("a"));
     QVERIFY(record->ends.tryAcquire(1, limit));
-    QCOMPARE(record->ended, QStringList("a"));
+    QCOMPARE(endedOf(*record), QStringList("a"));
     QVERIFY(guard.isInsistedOn());
 }
 
@@ -123,7 +136,7 @@ void EndGuardTest::testInsistingLeavesEachStepItsGrace()
     guard.expect(step("b"));
     guard.expect(step("c"));
     QVERIFY(record->ends.tryAcquire(1, limit));
-    QCOMPARE(record->ended, QStringList("c"));
+    QCOMPARE(endedOf(*record), QStringList("c"));
 }
 
 void EndGuardTest::testInsistingOnAStepIsOverWithIt()
@@ -136,7 +149,7 @@ void EndGuardTest::testInsistingOnAStepIsOverWithIt()
     QVERIFY(!record->ends.tryAcquire(1, 500));
     guard.insistOnStep();
     QVERIFY(record->ends.tryAcquire(1, limit));
-    QCOMPARE(record->ended, QStringList("b"));
+    QCOMPARE(endedOf(*record), QStringList("b"));
 }
 
 void EndGuardTest::testRequestThatIsNotHeededIsTheIdleStep()
@@ -146,7 +159,7 @@ void EndGuardTest::testRequestThatIsNotHeededIsTheIdleStep()
     guard.rest(step("idle"));
     guard.request();
     QVERIFY(record->questions.tryAcquire(1, limit));
-    QCOMPARE(record->asked.first(), QString("idle"));
+    QCOMPARE(askedOf(*record).first(), QString("idle"));
 }
 
 void EndGuardTest::testRequestDuringAStepChangesNothing()
@@ -157,7 +170,7 @@ void EndGuardTest::testRequestDuringAStepChangesNothing()
     guard.expect(step("a"));
     guard.request();
     QVERIFY(record->questions.tryAcquire(1, limit));
-    QCOMPARE(record->asked.first(), QString("a"));
+    QCOMPARE(askedOf(*record).first(), QString("a"));
 }
 
 void EndGuardTest::testNothingIsAskedAtRest()

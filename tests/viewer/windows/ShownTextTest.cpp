@@ -154,10 +154,11 @@ void ShownTextTest::testSourcesShowTextsByTheseMeansOnly_data()
         << "\\bnew QMessageBox\\b|QMessageBox::(about|critical|information|question|warning)\\("
            "|\\bQMessageBox [a-z]\\w*[;({]|setInformativeText|QErrorMessage|QInputDialog"
         << QStringList{"windows/MessageBox.cpp"};
-    QTest::newRow("tool tips") << "(setToolTip|setWhatsThis|setStatusTip)\\("
-                                  "(?!(\\d, )?(tr\\(\"[^\"]*\"\\)\\)|Windows::toolTipText\\(|"
-                                  "index\\.data\\(Qt::ToolTipRole\\)))"
-                               << QStringList();
+    QTest::newRow("tool tips")
+        << "(setToolTip|setWhatsThis|setStatusTip)\\("
+           "(?!\\s*(\\d, )?(tr\\((\\s*\"[^\"]*\")+\\)\\)|Windows::toolTipText\\(|"
+           "index\\.data\\(Qt::ToolTipRole\\)))"
+        << QStringList();
     QTest::newRow("tool tips at once") << "QToolTip::showText" << QStringList();
     QTest::newRow("labels of dialogs that wait")
         << "new QProgressDialog\\((?!QString\\(\\))|setLabelText" << QStringList();
