@@ -78,16 +78,19 @@ step() {
     fail "this failed, the whole log is $log: $*"
 }
 
-# Whoever built here before, the folder "build" can be written now.
+# Whoever built here before, what a build makes can be written now.
 require_build_folder() {
-    local foreign
+    local folder foreign
     if ! mkdir -p build 2>/dev/null; then
         fail "$PWD cannot be written by $(id -un): copy it to a folder of your own, or run this as its owner"
     fi
-    foreign=$(find build -maxdepth 4 ! -writable -print -quit)
-    if [[ -n $foreign ]]; then
-        fail "$foreign belongs to $(stat -c %U "$foreign"), who built here before: run this as that user, or remove the build with: sudo rm -rf build"
-    fi
+    for folder in build insights/node_modules; do
+        [[ -e $folder ]] || continue
+        foreign=$(find "$folder" -maxdepth 4 ! -type l ! -writable -print -quit)
+        if [[ -n $foreign ]]; then
+            fail "$foreign belongs to $(stat -c %U "$foreign"), who built here before: run this as that user, or remove the build with: sudo rm -rf $folder"
+        fi
+    done
 }
 
 # A compiler cache that cannot be written would stop the compiler.
