@@ -68,8 +68,8 @@ async function floorOfLoad() {
 async function multiply() {
     for (let copy = 1; copy < Number(copies); copy += 1) {
         await store.run("INSERT INTO usage_logs SELECT * REPLACE ("
-            + "reinterpretAsUUID(sipHash128(client, {copy:UInt32})) AS client, toFixedString(concat("
-            + "substring(uid, 1, 6), substring(sipHash128(uid, {copy:UInt32}), 1, 10)), 16) AS uid)"
+            + "reinterpretAsUUID(sipHash128(client, {copy:UInt32})) AS client, toFixedString("
+            + "substring(sipHash128(uid_random, {copy:UInt32}), 1, 10), 10) AS uid_random)"
             + " FROM (SELECT * FROM usage_logs WHERE client IN (SELECT client FROM first_clients))", { copy });
     }
     await store.run("INSERT INTO weeks (week, touched) SELECT DISTINCT week, now64(3) FROM weeks");

@@ -5,24 +5,26 @@
 
 -- Events that count, whole: what every record has in columns of its own, the rest in the two maps.
 -- Rows of one event are equal, lie in one partition, and become one when parts are merged; until then
--- FINAL makes one of them. `uid` is the ULID as its 16 bytes, which sort by time.
+-- FINAL makes one of them. A ULID is milliseconds, mostly those of Timestamp (uid_lag is how much they
+-- differ), and ten random bytes.
 CREATE TABLE IF NOT EXISTS usage_logs
 (
     client UUID CODEC(ZSTD(1)),
-    uid FixedString(16) CODEC(ZSTD(1)),
+    uid_lag Int64 CODEC(ZSTD(1)),
+    uid_random FixedString(10) CODEC(NONE),
     Timestamp DateTime64(9, 'UTC') CODEC(Delta, ZSTD(1)),
     run LowCardinality(String) CODEC(ZSTD(1)),
     category LowCardinality(String) CODEC(ZSTD(1)),
     name LowCardinality(String) CODEC(ZSTD(1)),
     SeverityNumber UInt8,
     ScopeVersion LowCardinality(String),
-    Body String CODEC(ZSTD(3)),
+    Body String CODEC(ZSTD(6)),
     ResourceAttributes Map(LowCardinality(String), LowCardinality(String)) CODEC(ZSTD(1)),
     LogAttributes Map(LowCardinality(String), String) CODEC(ZSTD(1))
 )
 ENGINE = ReplacingMergeTree
 PARTITION BY toMonday(Timestamp)
-ORDER BY (client, uid);
+ORDER BY (client, toUnixTimestamp64Milli(Timestamp) + uid_lag, uid_random);
 
 -- When the first event of a week came, when the last one did, and up to which arrival it is rolled up.
 CREATE TABLE IF NOT EXISTS weeks

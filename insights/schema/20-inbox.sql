@@ -117,7 +117,10 @@ SELECT Load AS load,
 FROM otel_logs;
 
 CREATE MATERIALIZED VIEW IF NOT EXISTS keep_events TO usage_logs AS
-SELECT client, ulid_bytes(uid) AS uid, Timestamp, run, category, name, SeverityNumber, ScopeVersion,
+WITH ulid_bytes(uid) AS bytes
+SELECT client,
+    reinterpretAsInt64(reverse(substring(bytes, 1, 6))) - toUnixTimestamp64Milli(Timestamp) AS uid_lag,
+    toFixedString(substring(bytes, 7, 10), 10) AS uid_random, Timestamp, run, category, name, SeverityNumber, ScopeVersion,
     Body, mapFilter((key, value) -> key != 'rui.client.id', ResourceAttributes) AS ResourceAttributes,
     mapFilter((key, value) -> key NOT IN ('log.record.uid', 'rui.event.category', 'rui.event.name',
         'rui.run.id', 'rui.session.id') OR (key = 'rui.session.id' AND value != ''),

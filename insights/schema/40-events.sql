@@ -16,7 +16,10 @@ CREATE OR REPLACE FUNCTION stream_features AS (stream) -> arraySort(arrayDistinc
         arraySlice(splitByChar('\n', stream), 2, if(endsWith(stream, '[...cut]'), -1, NULL))))));
 
 CREATE OR REPLACE VIEW events AS
-SELECT client, uid, Timestamp AS time, toUnixTimestamp64Milli(Timestamp) AS milliseconds,
+SELECT client,
+    toFixedString(concat(reverse(substring(reinterpretAsFixedString(
+        toUnixTimestamp64Milli(Timestamp) + uid_lag), 1, 6)), uid_random), 16) AS uid,
+    Timestamp AS time, toUnixTimestamp64Milli(Timestamp) AS milliseconds,
     toDate(Timestamp) AS day, toMonday(Timestamp) AS week, run,
     or_unknown(ResourceAttributes['service.version']) AS version,
     ResourceAttributes['rui.product.edition'] AS edition,
