@@ -8,9 +8,11 @@
 #include "application/EndQuestion.h"
 #include "application/LogOutput.h"
 #include "application/ProcessExit.h"
+#include "plugins/camerapool/LeftBehind.h"
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include <QSessionManager>
@@ -117,5 +119,10 @@ int main(int argc, char **argv)
     std::signal(SIGPIPE, SIG_IGN);
     chooseDisplay();
     scaleForFineScreens();
-    return runViewer(argc, argv, commandLine);
+    const int status = runViewer(argc, argv, commandLine);
+    if (CameraPool::isAnythingLeftBehind()) {
+        std::fflush(nullptr);
+        std::_Exit(status);
+    }
+    return status;
 }

@@ -3,6 +3,7 @@
 #include "CAttackRig.h"
 #include "GvspPackets.h"
 #include "HostileDescription.h"
+#include "plugins/camerapool/CCameraControl.h"
 
 #include <QtEndian>
 #include <QTest>
@@ -21,6 +22,8 @@ private Q_SLOTS:
     void strangersPacketsDoNotCount_data();
     void strangersPacketsDoNotCount();
     void strangersAnswersAreNotBelieved();
+    void sizesThatCannotBeAreRefusedWithASentence_data();
+    void sizesThatCannotBeAreRefusedWithASentence();
     void camerasOwnPacketsEndNothing_data();
     void camerasOwnPacketsEndNothing();
 };
@@ -141,6 +144,49 @@ void StreamAttackTest::strangersAnswersAreNotBelieved()
     QVERIFY(rig.open());
     QVERIFY(rig.startGrab());
     QVERIFY(rig.sendUntilItArrives('a'));
+    QVERIFY(rig.stopGrab());
+}
+
+void StreamAttackTest::sizesThatCannotBeAreRefusedWithASentence_data()
+{
+    QTest::addColumn<QByteArray>("payloadSize"); // the register, in hexadecimal
+    QTest::addColumn<quint32>("width");
+    QTest::addColumn<QString>("message");
+    const QString wrong(
+        "Ostrand-XQZ-2000-H1 cannot grab: it announces images of %1 bytes, which does "
+        "not fit their format: set the image format anew, or switch the camera off "
+        "and on");
+    const QString tooLarge("Ostrand-XQZ-2000-H1 cannot grab: it has images of %1 bytes, for which "
+                           "this computer has too little memory: make the images smaller, or close "
+                           "other programs");
+    QTest::newRow("nothing") << QByteArray("0000000000000000") << 64U << wrong.arg("0");
+    QTest::newRow("-1") << QByteArray("ffffffffffffffff") << 64U << wrong.arg("-1");
+    QTest::newRow("the least number")
+        << QByteArray("8000000000000000") << 64U << wrong.arg("-9223372036854775808");
+    QTest::newRow("1 TiB") << QByteArray("0000010000000000") << 64U << wrong.arg("1099511627776");
+    QTest::newRow("1 TiB, and images of an unknown size")
+        << QByteArray("0000010000000000") << 0xffffffffU << tooLarge.arg("1099511627776");
+    QTest::newRow("the greatest number, and images of an unknown size")
+        << QByteArray("7fffffffffffffff") << 0U << tooLarge.arg("9223372036854775807");
+}
+
+void StreamAttackTest::sizesThatCannotBeAreRefusedWithASentence()
+{
+    QFETCH(QByteArray, payloadSize);
+    QFETCH(quint32, width);
+    QFETCH(QString, message);
+    CAttackRig rig;
+    rig.camera().setRegister(HostileDescription::PayloadSize, QByteArray::fromHex(payloadSize));
+    rig.camera().setNumber(HostileDescription::Width, width);
+    QVERIFY(rig.open());
+    rig.pool().pool().control()->grabContinuous(rig.info());
+    QVERIFY(rig.pool().waitFor("grabFailed H1"));
+    QCOMPARE(rig.pool().lastFailure(), message);
+    rig.camera().setNumber(HostileDescription::Width, 64);
+    rig.camera().setRegister(HostileDescription::PayloadSize, QByteArray(8, '\0'));
+    rig.camera().setHeight(100);
+    QVERIFY(rig.startGrab());
+    QVERIFY(rig.sendUntilItArrives('b'));
     QVERIFY(rig.stopGrab());
 }
 

@@ -165,6 +165,11 @@ bool CViewerProcess::waitForLog(const QString &text, int milliseconds)
     return QTest::qWaitFor([&] { return !logged().filter(text).isEmpty(); }, milliseconds);
 }
 
+qint64 CViewerProcess::processId() const
+{
+    return m_process->processId();
+}
+
 QStringList CViewerProcess::printed() const
 {
     return m_printed;

@@ -60,6 +60,9 @@ public:
     // Whether a line that contains \a text is in the log before \a milliseconds have passed.
     bool waitForLog(const QString &text, int milliseconds);
 
+    // Of the program that runs; 0 if none does.
+    qint64 processId() const;
+
     // What the script printed, and what the viewer logged, in the last run.
     QStringList printed() const;
     QStringList logged() const;

@@ -30,7 +30,7 @@ private Q_SLOTS:
     void camerasAreAskedAllAtOnce();
     void questionThatIsLostIsAskedASecondTime_data();
     void questionThatIsLostIsAskedASecondTime();
-    void cameraThatAnswersNobodyAloneIsFoundWithoutItsName();
+    void cameraThatAnswersTheBroadcastAloneIsFoundWithItsName();
     void environmentChoosesTheSearch_data();
     void environmentChoosesTheSearch();
 };
@@ -219,7 +219,7 @@ void SearchTest::questionThatIsLostIsAskedASecondTime()
     QVERIFY(found.first().isControlled);
 }
 
-void SearchTest::cameraThatAnswersNobodyAloneIsFoundWithoutItsName()
+void SearchTest::cameraThatAnswersTheBroadcastAloneIsFoundWithItsName()
 {
     if (!isIsolated()) {
         QSKIP("broadcasts only in a network of its own");
@@ -230,7 +230,8 @@ void SearchTest::cameraThatAnswersNobodyAloneIsFoundWithoutItsName()
     const auto found = CNetworkSearch().search();
     QCOMPARE(found.size(), 1);
     QCOMPARE(found.first().openId, QStringLiteral("127.0.0.1"));
-    QVERIFY(!found.first().isNameKnown && !found.first().isControlKnown);
+    QCOMPARE(found.first().userName, QStringLiteral("Left of belt"));
+    QVERIFY(found.first().isNameKnown && !found.first().isControlKnown);
 }
 
 void SearchTest::environmentChoosesTheSearch_data()

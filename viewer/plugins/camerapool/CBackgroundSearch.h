@@ -6,7 +6,6 @@
 
 #include <functional>
 #include <memory>
-#include <thread>
 
 namespace CameraPool {
 
@@ -28,14 +27,14 @@ public:
     /// Searches once. The search before must have told what it found.
     void begin();
 
-    /// Waits for the end of a search that is under way. A program must not end before: what it
-    /// tidies up at its end, Aravis is still using.
+    /// Waits for the end of a search that is under way, though no longer than five seconds; then it
+    /// is left to itself and tells nothing any more.
     void wait();
 
 private:
-    const std::unique_ptr<ICameraSearch> m_search;
-    const std::function<void(const QVector<CFoundCamera> &)> m_onFound;
-    std::thread m_thread;
+    struct State;
+
+    const std::shared_ptr<State> m_state; // the thread may live longer
 };
 
 } // namespace CameraPool

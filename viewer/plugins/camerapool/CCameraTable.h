@@ -6,9 +6,13 @@
 
 #include <Core/CameraPoolComponents/ICameraInfo.h>
 
+#include <vector>
+
+#include <QHash>
 #include <QList>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace CameraPool {
@@ -35,11 +39,17 @@ public:
         QList<CameraInfoPtr> gone;
         QList<CameraInfoPtr> lost;    ///< open, and missed as often as that; still in the table
         QList<CameraInfoPtr> renamed; ///< have another display name than when they were found last
+        QStringList conflicts; ///< a line for each device that looks like another, told once each
     };
+
+    /// How many cameras are remembered that are gone. Those seen first are forgotten first: a
+    /// device can say that it is another one each time that it is asked.
+    static constexpr int MostGone = 2000;
 
     /// Takes the result of a search. A camera that was renamed keeps its place and gets a new
     /// description; it is neither connected nor gone by that. What a camera did not tell this time
-    /// stays as it was told before.
+    /// stays as it was told before. Of several devices that say that they are the same camera the
+    /// first one is it, and the others are cameras of their own.
     Changes update(const QVector<CFoundCamera> &found, const QSet<QString> &openIdentities);
 
     /// Forgets that the camera is there, as if it had been missed often enough.
@@ -69,12 +79,19 @@ private:
         bool wasFound = false;
     };
 
-    Entry &entry(const QString &identity);
     static CFoundCamera withWhatWasKnown(CFoundCamera found, const CFoundCamera &before);
+    QVector<CFoundCamera> knownFirst(QVector<CFoundCamera> found) const;
+    CFoundCamera distinguished(CFoundCamera found, Changes *changes);
+    bool isTaken(const CFoundCamera &found) const;
+    void tell(const QString &conflict, Changes *changes);
+    Entry *entryOf(const QString &identity);
     void take(const CFoundCamera &answer, Changes *changes);
     static void miss(Entry *entry, bool isOpen, Changes *changes);
+    void forgetSome();
 
-    QVector<Entry> m_entries;
+    std::vector<Entry> m_entries;
+    QHash<QString, std::size_t> m_places; // in m_entries, by identity
+    QSet<QString> m_told;
 };
 
 } // namespace CameraPool

@@ -98,13 +98,20 @@ void CDevice::waitFor(const std::function<bool(std::chrono::milliseconds)> &isDo
     Clock::time_point asked = begin;
     do {
         throwIfUnusable();
-        if (Clock::now() - asked > Suspicion) {
+        if (Clock::now() > m_end.load()) {
+            markLost();
+        } else if (Clock::now() - asked > Suspicion) {
             if (Clock::now() - begin > Patience || !m_isAnswering()) {
                 markLost();
             }
             asked = Clock::now();
         }
     } while (!isDone(LookInterval));
+}
+
+void CDevice::limitPatience(std::chrono::milliseconds patience)
+{
+    m_end = std::chrono::steady_clock::now() + patience;
 }
 
 void CDevice::keepUntilClosed(std::shared_ptr<void> object)

@@ -80,6 +80,10 @@ public:
     template <class Work>
     auto call(Work work);
 
+    /// From now on, whoever is kept waiting longer than \a patience in all finds the device lost:
+    /// it is about to be closed. Callable in any thread.
+    void limitPatience(std::chrono::milliseconds patience);
+
     /// Keeps something alive that uses the connection, until that is given back.
     void keepUntilClosed(std::shared_ptr<void> object);
 
@@ -107,6 +111,9 @@ private:
     const std::function<bool()> m_isAnswering;
     std::atomic<bool> m_isOpen{true};
     std::atomic<bool> m_isLost{false};
+    // When patience ends with everybody, whoever waits.
+    std::atomic<std::chrono::steady_clock::time_point> m_end{
+        std::chrono::steady_clock::time_point::max()};
     CDeviceLock m_lock;
     GObjectPtr<ArvDevice> m_device; // guarded by m_lock; null once closed
     std::mutex m_keptMutex;

@@ -3,6 +3,7 @@
 #include "CDeviceReleaser.h"
 
 #include "CDevice.h"
+#include "LeftBehind.h"
 
 #include <chrono>
 #include <condition_variable>
@@ -45,12 +46,17 @@ CDeviceReleaser::CDeviceReleaser(std::function<void(const QString &)> onReleased
     m_state->onReleased = std::move(onReleased);
 }
 
-CDeviceReleaser::~CDeviceReleaser()
+CDeviceReleaser::~CDeviceReleaser() = default;
+
+void CDeviceReleaser::finish()
 {
     std::unique_lock<std::mutex> lock(m_state->mutex);
     m_state->onReleased = nullptr;
     m_state->changed.wait_for(lock, PatienceAtTheEnd,
                               [this] { return m_state->underWay.isEmpty(); });
+    for (const QString &identity : qAsConst(m_state->underWay)) {
+        noteLeftBehind(identity);
+    }
 }
 
 void CDeviceReleaser::release(const QSharedPointer<CDevice> &device)

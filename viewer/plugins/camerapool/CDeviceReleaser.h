@@ -15,7 +15,7 @@ class CDevice;
 
 /// Closes devices, each in a thread of its own: a device that does not answer any more takes Aravis
 /// about six seconds, for which neither the other cameras nor the viewer's end shall wait. Used in
-/// one thread.
+/// one thread but for `await`.
 class CDeviceReleaser
 {
 public:
@@ -23,8 +23,6 @@ public:
     /// waited. It is called in another thread and must do no more than post an event.
     explicit CDeviceReleaser(std::function<void(const QString &identity)> onReleased);
 
-    /// Waits for what is still being closed, though no longer than three seconds; the rest is left
-    /// to itself.
     ~CDeviceReleaser();
 
     Q_DISABLE_COPY_MOVE(CDeviceReleaser)
@@ -34,8 +32,12 @@ public:
     /// under way.
     void release(const QSharedPointer<CDevice> &device);
 
+    /// Waits for what is still being closed, though no longer than three seconds; the rest is left
+    /// to itself. Nothing is told any more.
+    void finish();
+
     /// Does \a work, the end of a connection to the camera \a identity, in a thread of its own.
-    /// Returns at once.
+    /// Returns at once. Callable in any thread.
     void await(const QString &identity, std::function<void()> work);
 
     /// True while a device of this camera is still being closed. It should not be opened then: the

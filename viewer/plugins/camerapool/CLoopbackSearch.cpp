@@ -2,29 +2,23 @@
 // SPDX-License-Identifier: MIT
 #include "CLoopbackSearch.h"
 
-#include "AskCameras.h"
-
-#include <algorithm>
+#include "CGvcpSearch.h"
 
 namespace CameraPool {
 namespace {
 
-constexpr int LastAddress = 5;
+constexpr quint32 FirstAddress = 0x7f000001;
+constexpr quint32 LastAddress = 0x7f000005;
 
 } // namespace
 
 QVector<CFoundCamera> CLoopbackSearch::search()
 {
-    QVector<CFoundCamera> cameras;
-    for (int i = 1; i <= LastAddress; ++i) {
-        CFoundCamera camera;
-        camera.openId = QStringLiteral("127.0.0.%1").arg(i);
-        cameras.append(camera);
+    QVector<quint32> addresses;
+    for (quint32 address = FirstAddress; address <= LastAddress; ++address) {
+        addresses.append(address);
     }
-    askCameras(&cameras);
-    const auto isSilent = [](const CFoundCamera &camera) { return !camera.isNameKnown; };
-    cameras.erase(std::remove_if(cameras.begin(), cameras.end(), isSilent), cameras.end());
-    return cameras;
+    return CGvcpSearch::at(addresses);
 }
 
 } // namespace CameraPool

@@ -2,16 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CUsbSearch.h"
 #include "ICameraSearch.h"
 
 namespace CameraPool {
 
-/// Finds the cameras on every network and on USB with Aravis, by broadcast. GigE Vision cameras are
-/// asked for their user-defined name and for who controls them in addition.
+/// Finds the cameras on every network, by broadcast, and at USB.
 class CNetworkSearch : public ICameraSearch
 {
 public:
     QVector<CFoundCamera> search() override;
+
+private:
+    CUsbSearch m_usb;
 };
 
 } // namespace CameraPool

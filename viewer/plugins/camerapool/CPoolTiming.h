@@ -15,6 +15,13 @@ struct CPoolTiming
     /// Between two searches, so that the network is not searched all the time, and that an opening,
     /// for which Aravis waits until it has searched, is not held up for long.
     int searchPause = 500;
+
+    /// How long a camera that answers may take until it is open: longer than one takes that tells
+    /// all of its features over a slow line, and shorter than a script waits.
+    int openingLimit = 25000;
+
+    /// How long a camera that is being closed may keep those waiting who still read it.
+    int closingLimit = 3000;
 };
 
 } // namespace CameraPool

@@ -5,40 +5,38 @@
 #include "CCameraControl.h"
 #include "CCameraStatus.h"
 #include "CDeviceStore.h"
-#include "DeviceOpener.h"
 #include "Logging.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace CameraPool {
-namespace {
-
-// How long an opening waits for the end of the camera's last connection.
-constexpr std::chrono::milliseconds ReleasePatience(400);
-
-} // namespace
-
 CPoolWorker::CPoolWorker(const Outlets &outlets, std::unique_ptr<ICameraSearch> search,
                          const CPoolTiming &timing)
     : m_outlets(outlets)
     , m_timing(timing)
-    , m_search(std::move(search),
-               [this](const QVector<CFoundCamera> &found) {
-                   QMetaObject::invokeMethod(
-                       this, [=] { onFound(found); }, Qt::QueuedConnection);
-               })
+    , m_postBox(this)
+    , m_search(
+          std::move(search),
+          [this](const QVector<CFoundCamera> &found) { m_postBox.post([=] { onFound(found); }); })
     , m_searchTimer(this) // a child, so that it moves to the pool's thread too
-    , m_releaser([this](const QString &identity) {
-        QMetaObject::invokeMethod(
-            this, [=] { onDeviceReleased(identity); }, Qt::QueuedConnection);
-    })
+    , m_releaser(
+          std::make_shared<CDeviceReleaser>([this, postBox = m_postBox](const QString &identity) {
+              postBox.post([=] { onDeviceReleased(identity); });
+          }))
+    , m_openings(m_postBox, m_releaser, std::chrono::milliseconds(timing.openingLimit),
+                 {[this](const COpenings::Result &result) { onOpeningEnded(result); },
+                  [this](const QString &identity) { onDeviceReleased(identity); }})
 {
     m_searchTimer.setSingleShot(true);
     connect(&m_searchTimer, &QTimer::timeout, this, &CPoolWorker::searchOnce);
 }
 
-CPoolWorker::~CPoolWorker() = default;
+CPoolWorker::~CPoolWorker()
+{
+    m_postBox.close();
+    m_releaser->finish();
+}
 
 void CPoolWorker::beginSearching()
 {
@@ -65,8 +63,7 @@ void CPoolWorker::onFound(QVector<CFoundCamera> found)
         return;
     }
     dropOutdated(&found);
-    const QList<QString> open = m_open.keys();
-    const auto changes = m_table.update(found, QSet<QString>(open.begin(), open.end()));
+    const auto changes = m_table.update(found, identitiesInUse());
     publish();
     report(changes);
     reportEnumeration();
@@ -81,7 +78,7 @@ void CPoolWorker::dropOutdated(QVector<CFoundCamera> *found) const
     const auto isOutdated = [this](const CFoundCamera &camera) {
         const QString identity = camera.identity();
         return m_lostMeanwhile.contains(identity)
-               || (!m_table.find(identity) && m_releaser.isReleasing(identity));
+               || (!m_table.find(identity) && m_releaser->isReleasing(identity));
     };
     found->erase(std::remove_if(found->begin(), found->end(), isOutdated), found->end());
     for (CFoundCamera &camera : *found) {
@@ -110,7 +107,12 @@ void CPoolWorker::report(const CCameraTable::Changes &changes)
         Q_EMIT m_outlets.status->deviceConnected(camera);
     }
     for (const CameraInfoPtr &camera : changes.lost) {
-        m_open.value(camera->identity())->markLost(); // onDeviceLost follows
+        if (const auto device = m_open.value(camera->identity())) {
+            device->markLost(); // onDeviceLost follows
+        }
+    }
+    for (const QString &conflict : changes.conflicts) {
+        qCWarning(lcCameraPool, "%s", qUtf8Printable(conflict));
     }
 }
 
@@ -128,85 +130,11 @@ void CPoolWorker::reportEnumeration()
     Q_EMIT m_outlets.enumeration->enumerationChanged();
 }
 
-void CPoolWorker::open(const CameraInfoPtr &camera)
-{
-    if (!camera) {
-        return fail(camera, QStringLiteral("no camera is chosen: choose one, then open it"));
-    }
-    const QString identity = camera->identity();
-    if (m_open.contains(identity)) {
-        return;
-    }
-    const CFoundCamera *found = m_table.find(identity);
-    if (m_isEnding) {
-        fail(camera, QStringLiteral("%1 is not opened: the viewer is closing; start it again")
-                         .arg(m_table.nameOf(camera)));
-    } else if (!found) {
-        fail(camera, QStringLiteral("%1 is not connected: check its cable and power, then open it")
-                         .arg(m_table.nameOf(camera)));
-    } else if (m_releaser.isReleasing(identity)) {
-        waitForRelease(camera);
-    } else {
-        connectDevice(*found, camera);
-    }
-}
-
-void CPoolWorker::waitForRelease(const CameraInfoPtr &camera)
-{
-    const QString identity = camera->identity();
-    const quint64 request = ++m_lastSession;
-    m_waiting.insert(identity, {camera, request});
-    QTimer::singleShot(ReleasePatience, this, [this, identity, request] {
-        if (m_waiting.value(identity).second == request) {
-            failWaiting(identity, QStringLiteral("is still being closed, since it has not answered "
-                                                 "for a while: open it again in some seconds"));
-        }
-    });
-}
-
-void CPoolWorker::failWaiting(const QString &identity, const QString &reason)
-{
-    if (const CameraInfoPtr camera = m_waiting.take(identity).first) {
-        fail(camera, QStringLiteral("%1 %2").arg(m_table.nameOf(camera), reason));
-    }
-}
-
-void CPoolWorker::connectDevice(const CFoundCamera &found, const CameraInfoPtr &camera)
-{
-    const QString identity = camera->identity();
-    const quint64 session = ++m_lastSession;
-    m_usedMeanwhile.insert(identity);
-    const auto postLoss = [this, identity, session] {
-        QMetaObject::invokeMethod(
-            this, [=] { onDeviceLost(identity, session); }, Qt::QueuedConnection);
-    };
-    try {
-        const auto device = openDevice(found, camera, postLoss, m_releaser);
-        device->setName(found.displayName());
-        m_open.insert(identity, device);
-        m_sessions.insert(identity, session);
-        m_outlets.devices->put(device);
-    } catch (const COpenException &exception) {
-        m_table.setControlled(identity, exception.reason() == COpenException::InUse);
-        publish();
-        return fail(camera, QString::fromUtf8(exception.what()));
-    }
-    const CameraInfoPtr news = m_outlets.control->noteOpening(camera);
-    publish();
-    qCInfo(lcCameraPool, "%s is open", qUtf8Printable(identity));
-    Q_EMIT m_outlets.status->deviceOpened(news);
-}
-
-void CPoolWorker::fail(const CameraInfoPtr &camera, const QString &message)
-{
-    qCWarning(lcCameraPool, "%s", qUtf8Printable(message));
-    Q_EMIT m_outlets.control->openFailed(camera, message);
-}
-
 void CPoolWorker::close(const CameraInfoPtr &camera)
 {
     if (camera) {
         m_waiting.remove(camera->identity());
+        giveUpOpening(camera, QStringLiteral("was closed before it was open: open it again"));
         shut(camera->identity());
         Q_EMIT m_outlets.control->closed(camera);
     }
@@ -214,6 +142,10 @@ void CPoolWorker::close(const CameraInfoPtr &camera)
 
 void CPoolWorker::startGrab(const CameraInfoPtr &camera, GrabMode mode)
 {
+    if (isOpening(camera)) {
+        m_afterOpening[camera->identity()].append([=] { startGrab(camera, mode); });
+        return;
+    }
     const auto device = camera ? m_open.value(camera->identity()) : nullptr;
     if (!device) {
         const QString name = camera ? m_table.nameOf(camera) : QStringLiteral("no camera");
@@ -243,6 +175,10 @@ void CPoolWorker::startGrab(const CameraInfoPtr &camera, GrabMode mode)
 
 void CPoolWorker::stopGrab(const CameraInfoPtr &camera)
 {
+    if (isOpening(camera)) {
+        m_afterOpening[camera->identity()].append([=] { stopGrab(camera); });
+        return;
+    }
     const auto grab = camera ? m_grabs.value(camera->identity()) : nullptr;
     if (grab) {
         grab->stop();
@@ -273,6 +209,10 @@ void CPoolWorker::closeAll()
     m_isEnding = true;
     m_searchTimer.stop();
     const auto devices = m_open.values();
+    for (const CameraInfoPtr &camera : m_openings.cameras()) {
+        giveUpOpening(camera,
+                      QStringLiteral("is not opened: the viewer is closing; start it again"));
+    }
     for (const QSharedPointer<CDevice> &device : devices) {
         close(device->info());
     }
@@ -299,13 +239,6 @@ void CPoolWorker::onDeviceLost(const QString &identity, quint64 session)
     Q_EMIT m_outlets.status->deviceDisconnected(device->info());
 }
 
-void CPoolWorker::onDeviceReleased(const QString &identity)
-{
-    if (const CameraInfoPtr camera = m_waiting.take(identity).first) {
-        open(camera);
-    }
-}
-
 // The signal comes while the camera is still in m_open, that is, while it can be read.
 void CPoolWorker::shut(const QString &identity)
 {
@@ -313,9 +246,10 @@ void CPoolWorker::shut(const QString &identity)
     if (!device) {
         return;
     }
+    device->limitPatience(std::chrono::milliseconds(m_timing.closingLimit));
     m_grabs.remove(identity); // waits for its end
     Q_EMIT m_outlets.status->deviceClosing(device->info());
-    m_releaser.release(device);
+    m_releaser->release(device);
     m_open.remove(identity);
     m_table.setControlled(identity, false);
     m_usedMeanwhile.insert(identity);
@@ -326,17 +260,19 @@ void CPoolWorker::shut(const QString &identity)
 void CPoolWorker::publish()
 {
     QHash<QString, ICameraControlService::CameraState> states;
-    for (const CameraInfoPtr &camera : m_table.cameras()) {
-        const bool isControlled = m_table.find(camera->identity())->isControlled;
-        states.insert(camera->identity(), isControlled ? ICameraControlService::InUseElsewhere
-                                                       : ICameraControlService::Free);
+    const QList<CameraInfoPtr> cameras = m_table.cameras();
+    for (const CameraInfoPtr &camera : cameras) {
+        const QString identity = camera->identity();
+        states.insert(identity, m_table.find(identity)->isControlled
+                                    ? ICameraControlService::InUseElsewhere
+                                    : ICameraControlService::Free);
     }
     for (const QString &identity : m_open.keys()) {
         const auto grab = m_grabs.value(identity);
         states.insert(identity, grab && !grab->hasEnded() ? ICameraControlService::Grabbing
                                                           : ICameraControlService::Open);
     }
-    m_outlets.control->publish(m_table.cameras(), states);
+    m_outlets.control->publish(cameras, states);
 }
 
 } // namespace CameraPool

@@ -6,6 +6,7 @@
 #include "CCameraTable.h"
 #include "CDeviceReleaser.h"
 #include "CGrab.h"
+#include "COpenings.h"
 #include "CPoolTiming.h"
 #include "ICameraControlService.h"
 #include "ICameraSearch.h"
@@ -71,7 +72,11 @@ private:
     void failWaiting(const QString &identity, const QString &reason);
     void report(const CCameraTable::Changes &changes);
     void reportEnumeration();
-    void connectDevice(const CFoundCamera &found, const CameraInfoPtr &camera);
+    void beginOpening(const CFoundCamera &found, const CameraInfoPtr &camera);
+    void onOpeningEnded(const COpenings::Result &result);
+    bool isOpening(const CameraInfoPtr &camera) const;
+    void giveUpOpening(const CameraInfoPtr &camera, const QString &reason);
+    QSet<QString> identitiesInUse() const;
     void fail(const CameraInfoPtr &camera, const QString &message);
     void onDeviceLost(const QString &identity, quint64 session);
     void onGrabEnded(const CameraInfoPtr &camera, const QString &reason);
@@ -82,6 +87,7 @@ private:
 
     const Outlets m_outlets;
     const CPoolTiming m_timing;
+    const CPostBox m_postBox;
     CBackgroundSearch m_search;
     bool m_isSearching = false;
     QSet<QString> m_lostMeanwhile; // identities, since the search began
@@ -94,7 +100,10 @@ private:
     QMap<QString, QSharedPointer<CGrab>> m_grabs; // by identity; some may have ended
     // To be opened when their last device is released, by identity, with the number of the request.
     QHash<QString, QPair<CameraInfoPtr, quint64>> m_waiting;
-    CDeviceReleaser m_releaser;
+    const std::shared_ptr<CDeviceReleaser> m_releaser;
+    COpenings m_openings;
+    // Grabs that were asked for before their camera was open, by identity.
+    QHash<QString, QList<std::function<void()>>> m_afterOpening;
     QSet<QString> m_reported; // identities at the last enumerationChanged
     bool m_hasReported = false;
     bool m_isEnding = false;

@@ -5,6 +5,7 @@
 #include "CDeviceAccess.h"
 #include "GrabErrors.h"
 #include "GuardedStream.h"
+#include "ImageBuffers.h"
 #include "Logging.h"
 
 #include <ParameterCollection/CParameterException.h>
@@ -16,9 +17,6 @@ namespace CameraPool {
 namespace {
 
 using namespace std::chrono_literals;
-
-// Enough for the frames of a fast camera while the grab's thread waits for its turn.
-constexpr int BufferCount = 16;
 
 // The system's default lost 97 of 100 frames of 512 x 512 at 25 fps where Aravis may not use raw
 // sockets; with this size none was lost.
@@ -83,10 +81,32 @@ bool waitsForTrigger(ArvDevice *device)
                   == 0;
 }
 
-void fillWithBuffers(ArvStream *stream, std::size_t size)
+// 0 where the camera does not tell.
+qint64 number(ArvDevice *device, const char *name)
 {
-    for (int i = 0; i < BufferCount; ++i) {
-        arv_stream_push_buffer(stream, arv_buffer_new_allocate(size));
+    CGError error;
+    const gint64 value = hasFeature(device, name)
+                             ? arv_device_get_integer_feature_value(device, name, error.out())
+                             : 0;
+    return error ? 0 : value;
+}
+
+// 0 also for what is too large for an image.
+qint64 pixelBytes(ArvDevice *device)
+{
+    const qint64 width = number(device, "Width");
+    const qint64 height = number(device, "Height");
+    const auto format = ArvPixelFormat(number(device, "PixelFormat"));
+    constexpr qint64 mostInARow = 0xffffff;
+    return width > mostInARow || height > mostInARow
+               ? 0
+               : width * height * ARV_PIXEL_FORMAT_BIT_PER_PIXEL(format) / 8;
+}
+
+void fillWithBuffers(ArvStream *stream, const ImageBuffers::Sizes &sizes)
+{
+    for (int i = 0; i < ImageBuffers::count(sizes); ++i) {
+        arv_stream_push_buffer(stream, arv_buffer_new_allocate(std::size_t(sizes.payload)));
     }
 }
 
@@ -103,6 +123,23 @@ QString cannotGrab(const QString &name, const char *why)
         .arg(name, QLatin1String(why));
 }
 
+ImageBuffers::Sizes checkedSizes(const CDeviceAccess &access, const QString &name)
+{
+    CGError error;
+    ImageBuffers::Sizes sizes;
+    sizes.payload =
+        arv_device_get_integer_feature_value(access.device(), "PayloadSize", error.out());
+    access.check(error, cannotGrab(name, "the size of an image is unknown"));
+    sizes.pixels = pixelBytes(access.device());
+    sizes.available = availableMemory();
+    const QString refusal = ImageBuffers::refusal(sizes);
+    if (!refusal.isEmpty()) {
+        throw ParameterCollection::CParameterException(
+            QStringLiteral("%1 cannot grab: it %2").arg(name, refusal));
+    }
+    return sizes;
+}
+
 std::shared_ptr<Started> start(const CDeviceAccess &access, const QString &name, GrabMode mode)
 {
     ArvDevice *device = access.device();
@@ -112,6 +149,7 @@ std::shared_ptr<Started> start(const CDeviceAccess &access, const QString &name,
         started->singlePatience = exposure(device) + framePeriod(device) + TransferPatience;
     }
 
+    const ImageBuffers::Sizes sizes = checkedSizes(access, name);
     CGError error;
     started->stream = createGuardedStream(device, SocketBufferSize, error.out());
     access.check(error, cannotGrab(name, "the stream cannot be made"));
@@ -119,9 +157,7 @@ std::shared_ptr<Started> start(const CDeviceAccess &access, const QString &name,
         g_object_set(started->stream.get(), "socket-buffer", ARV_GV_STREAM_SOCKET_BUFFER_FIXED,
                      "socket-buffer-size", SocketBufferSize, nullptr);
     }
-    const gint64 size = arv_device_get_integer_feature_value(device, "PayloadSize", error.out());
-    access.check(error, cannotGrab(name, "the size of an image is unknown"));
-    fillWithBuffers(started->stream.get(), std::size_t(size));
+    fillWithBuffers(started->stream.get(), sizes);
     arv_device_execute_command(device, "AcquisitionStart", error.out());
     access.check(error, cannotGrab(name, "the camera does not start"));
     return started;

@@ -8,10 +8,9 @@
 #include "GvcpMessage.h"
 #include "IpAddress.h"
 
-#include <chrono>
+#include <algorithm>
 #include <future>
 #include <memory>
-#include <string>
 #include <thread>
 #include <utility>
 
@@ -73,23 +72,28 @@ bool isAnswer(const CGError &error)
 }
 
 // By address and not by id: what Aravis knows of an id may come from an interface that is gone.
-// Directly, without Aravis' own search, which would broadcast. What is not on loopback waits for a
-// broadcast that is under way, a second at most: Aravis (0.8.26) holds one lock for both.
-ArvDevice *openGigEAt(const std::string &address, GError **error)
+// Directly, without Aravis' own search.
+ArvDevice *openGigEAt(quint32 host, quint32 camera, GError **error)
 {
-    const GObjectPtr<GInetAddress> target(g_inet_address_new_from_string(address.c_str()));
-    if (target && g_inet_address_get_is_loopback(target.get())) {
-        return arv_gv_device_new(target.get(), target.get(), error);
-    }
-    return arv_open_device(address.c_str(), error);
+    const GObjectPtr<GInetAddress> from(
+        g_inet_address_new_from_string(qUtf8Printable(ipText(host))));
+    const GObjectPtr<GInetAddress> to(
+        g_inet_address_new_from_string(qUtf8Printable(ipText(camera))));
+    return arv_gv_device_new(from.get(), to.get(), error);
+}
+
+bool isLoopback(quint32 address)
+{
+    return address >> 24 == 127;
 }
 
 // Nobody but the camera is believed, from the first answer on.
-ArvDevice *openGigE(const std::string &address, GError **error)
+ArvDevice *openGigE(const CFoundCamera &found, GError **error)
 {
-    const quint32 number = ipNumber(QString::fromStdString(address));
-    const CSocketGuard guard(SocketFilter::from({number, GvcpMessage::Port}));
-    GObjectPtr<ArvDevice> device(openGigEAt(address, error));
+    const quint32 camera = ipNumber(found.openId);
+    const quint32 host = isLoopback(camera) ? camera : found.hostAddress;
+    const CSocketGuard guard(SocketFilter::from({camera, GvcpMessage::Port}));
+    GObjectPtr<ArvDevice> device(openGigEAt(host, camera, error));
     if (device && guard.sockets().empty()) {
         g_set_error_literal(error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_UNKNOWN,
                             "strangers cannot be kept from its connection");
@@ -98,9 +102,10 @@ ArvDevice *openGigE(const std::string &address, GError **error)
     return device.release();
 }
 
-ArvDevice *openAny(bool isGigE, const std::string &id, GError **error)
+ArvDevice *openAny(const CFoundCamera &found, GError **error)
 {
-    return isGigE ? openGigE(id, error) : arv_open_device(id.c_str(), error);
+    return found.isGigE ? openGigE(found, error)
+                        : arv_open_device(qUtf8Printable(found.openId), error);
 }
 
 struct Outcome
@@ -113,12 +118,11 @@ using Opening = std::shared_future<std::shared_ptr<Outcome>>;
 
 Opening beginOpening(const CFoundCamera &found)
 {
-    std::packaged_task<std::shared_ptr<Outcome>()> task(
-        [isGigE = found.isGigE, id = found.openId.toStdString()] {
-            auto outcome = std::make_shared<Outcome>();
-            outcome->device.reset(openAny(isGigE, id, outcome->error.out()));
-            return outcome;
-        });
+    std::packaged_task<std::shared_ptr<Outcome>()> task([found] {
+        auto outcome = std::make_shared<Outcome>();
+        outcome->device.reset(openAny(found, outcome->error.out()));
+        return outcome;
+    });
     const Opening opening = task.get_future().share();
     std::thread(std::move(task)).detach();
     return opening;
@@ -133,24 +137,45 @@ std::function<bool()> questionTo(const CFoundCamera &found)
     return [address = found.openId] { return CGvcpProbe(address).isAnswering(); };
 }
 
+// What Aravis goes on trying is waited for elsewhere.
+[[noreturn]] void giveUp(const CFoundCamera &found, const Opening &opening,
+                         CDeviceReleaser &releaser, const QString &why)
+{
+    releaser.await(found.identity(), [opening] { opening.get()->device.reset(); });
+    throw COpenException(COpenException::Other, why.arg(found.displayName()));
+}
+
+GObjectPtr<ArvDevice> waitFor(const Opening &opening, const CFoundCamera &found,
+                              const std::function<bool()> &isAnswering, CDeviceReleaser &releaser,
+                              std::chrono::milliseconds limit)
+{
+    const auto end = std::chrono::steady_clock::now() + limit;
+    while (opening.wait_for(std::min(Suspicion, limit)) != std::future_status::ready) {
+        if (!isAnswering()) {
+            giveUp(found, opening, releaser,
+                   QStringLiteral("%1 does not answer: check its cable and power, then open it "
+                                  "again"));
+        }
+        if (std::chrono::steady_clock::now() > end) {
+            giveUp(
+                found, opening, releaser,
+                QStringLiteral("%1 cannot be opened: it answers, but does not come to the end of "
+                               "its description; switch it off and on, then open it again"));
+        }
+    }
+    return std::move(opening.get()->device);
+}
+
 } // namespace
 
 QSharedPointer<CDevice> openDevice(const CFoundCamera &found,
                                    const Core::CameraPoolComponents::CameraInfoPtr &info,
-                                   std::function<void()> onLost, CDeviceReleaser &releaser)
+                                   std::function<void()> onLost, CDeviceReleaser &releaser,
+                                   std::chrono::milliseconds limit)
 {
     const Opening opening = beginOpening(found);
     const auto isAnswering = questionTo(found);
-    while (opening.wait_for(Suspicion) != std::future_status::ready) {
-        if (!isAnswering()) {
-            releaser.await(found.identity(), [opening] { opening.get()->device.reset(); });
-            throw COpenException(COpenException::Other,
-                                 QStringLiteral("%1 does not answer: check its cable and power, "
-                                                "then open it again")
-                                     .arg(found.displayName()));
-        }
-    }
-    GObjectPtr<ArvDevice> device = std::move(opening.get()->device);
+    GObjectPtr<ArvDevice> device = waitFor(opening, found, isAnswering, releaser, limit);
     if (!device) {
         throwFailed(found.displayName(), opening.get()->error);
     }

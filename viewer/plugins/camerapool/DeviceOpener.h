@@ -5,6 +5,7 @@
 #include "CDevice.h"
 #include "CFoundCamera.h"
 
+#include <chrono>
 #include <functional>
 #include <stdexcept>
 
@@ -36,14 +37,15 @@ private:
 };
 
 /// Opens the camera that was found as \a found, takes control of it and switches the checks on that
-/// refuse values out of range and writes to what is read-only. In the camera pool's thread; takes
-/// some milliseconds. A camera that stops answering meanwhile is given up, which is noticed after
-/// half a second, or two and a half where the network does not say that nobody listens; \a releaser
-/// then waits for what Aravis goes on trying.
+/// refuse values out of range and writes to what is read-only. Takes some milliseconds. A camera
+/// that stops answering meanwhile is given up, which is noticed after half a second, or two and a
+/// half where the network does not say that nobody listens; so is one that answers but is not open
+/// after \a limit. \a releaser then waits for what Aravis goes on trying. Callable in any thread.
 /// @param onLost see `CDevice`.
 /// @throws COpenException
 QSharedPointer<CDevice> openDevice(const CFoundCamera &found,
                                    const Core::CameraPoolComponents::CameraInfoPtr &info,
-                                   std::function<void()> onLost, CDeviceReleaser &releaser);
+                                   std::function<void()> onLost, CDeviceReleaser &releaser,
+                                   std::chrono::milliseconds limit);
 
 } // namespace CameraPool

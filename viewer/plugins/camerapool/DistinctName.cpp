@@ -4,6 +4,9 @@
 
 #include <algorithm>
 
+#include <QHash>
+#include <QSet>
+
 namespace CameraPool {
 
 using Core::CameraPoolComponents::CameraInfoPtr;
@@ -19,6 +22,12 @@ QString serialNumberOf(const ICameraInfo &camera)
     return identity.startsWith(before) ? identity.mid(before.size()) : identity;
 }
 
+QString nameOf(const ICameraInfo &camera, bool isShared)
+{
+    const QString name = camera.displayName();
+    return isShared ? QStringLiteral("%1 (%2)").arg(name, serialNumberOf(camera)) : name;
+}
+
 } // namespace
 
 QString distinctName(const CameraInfoPtr &camera, const QList<CameraInfoPtr> &all)
@@ -27,7 +36,20 @@ QString distinctName(const CameraInfoPtr &camera, const QList<CameraInfoPtr> &al
     const bool isShared = std::any_of(all.begin(), all.end(), [&](const CameraInfoPtr &other) {
         return other->displayName() == name && other->identity() != camera->identity();
     });
-    return isShared ? QStringLiteral("%1 (%2)").arg(name, serialNumberOf(*camera)) : name;
+    return nameOf(*camera, isShared);
+}
+
+QStringList distinctNames(const QList<CameraInfoPtr> &all)
+{
+    QHash<QString, QSet<QString>> identities; // by name
+    for (const CameraInfoPtr &camera : all) {
+        identities[camera->displayName()].insert(camera->identity());
+    }
+    QStringList names;
+    for (const CameraInfoPtr &camera : all) {
+        names.append(nameOf(*camera, identities.value(camera->displayName()).size() > 1));
+    }
+    return names;
 }
 
 } // namespace CameraPool

@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace CameraPool {
 
@@ -13,5 +14,8 @@ namespace CameraPool {
 /// "Line3", or "Line3 (127000000001)". \a camera is not null.
 QString distinctName(const Core::CameraPoolComponents::CameraInfoPtr &camera,
                      const QList<Core::CameraPoolComponents::CameraInfoPtr> &all);
+
+/// The same for each of \a all, in their order, in time that grows with their number alone.
+QStringList distinctNames(const QList<Core::CameraPoolComponents::CameraInfoPtr> &all);
 
 } // namespace CameraPool

@@ -27,6 +27,7 @@ struct Field
     int size;
 };
 constexpr Field MacAddress{0x0a, 6};
+constexpr int IpAddress = 0x24;
 constexpr Field Vendor{0x48, 32};
 constexpr Field Model{0x68, 32};
 constexpr Field Serial{0xd8, 16};
@@ -107,6 +108,12 @@ bool parseDiscoveryAnswer(const QByteArray &datagram, quint16 requestId, CFoundC
     camera->mac = hexDigits(datagram, MacAddress);
     camera->userName = text(datagram, UserName);
     return true;
+}
+
+quint32 toldAddress(const QByteArray &datagram)
+{
+    return datagram.size() < DiscoveryAnswerSize ? 0
+                                                 : at<quint32>(datagram, HeaderSize + IpAddress);
 }
 
 bool parsePrivilegeAnswer(const QByteArray &datagram, quint16 requestId, CFoundCamera *camera)

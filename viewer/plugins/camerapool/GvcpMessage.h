@@ -33,6 +33,10 @@ quint16 requestId(const QByteArray &datagram);
 /// @return false, with \a camera unchanged, if \a datagram is not that answer.
 bool parseDiscoveryAnswer(const QByteArray &datagram, quint16 requestId, CFoundCamera *camera);
 
+/// The IPv4 address that the device says it has in \a datagram, the answer to `discovery`; 0 if
+/// that is too short to be one.
+quint32 toldAddress(const QByteArray &datagram);
+
 /// Fills `isControlled` of \a camera from the answer to `readControlPrivilege`.
 /// @return false, with \a camera unchanged, if \a datagram is not that answer.
 bool parsePrivilegeAnswer(const QByteArray &datagram, quint16 requestId, CFoundCamera *camera);

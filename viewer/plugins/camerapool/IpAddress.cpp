@@ -22,6 +22,15 @@ quint32 ipNumber(GSocketAddress *address)
     return isIPv4 ? ntohl(native.sin_addr.s_addr) : 0;
 }
 
+QString ipText(quint32 number)
+{
+    return QStringLiteral("%1.%2.%3.%4")
+        .arg(number >> 24)
+        .arg(number >> 16 & 0xffU)
+        .arg(number >> 8 & 0xffU)
+        .arg(number & 0xffU);
+}
+
 quint16 localPort(int socket)
 {
     sockaddr_in own = {};

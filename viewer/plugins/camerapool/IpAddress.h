@@ -11,6 +11,7 @@ namespace CameraPool {
 /// IPv4 addresses as numbers: 0x7f000001 is 127.0.0.1; 0 for what is none.
 quint32 ipNumber(const QString &address);
 quint32 ipNumber(GSocketAddress *address);
+QString ipText(quint32 number);
 
 /// The port that the UDP socket \a socket has; 0 for what is none, or has none any more.
 quint16 localPort(int socket);

@@ -40,21 +40,27 @@ CCameraListModel::~CCameraListModel() = default;
 void CCameraListModel::refresh()
 {
     addNew();
-    updateNames();
     updateStates();
+    removeSurplus();
+    updateNames();
 }
 
 void CCameraListModel::addNew()
 {
+    QList<CRow> added;
     const auto cameras = m_control->cameras();
     for (const CameraInfoPtr &camera : cameras) {
         const int row = rowOf(camera->identity());
         if (row >= 0) {
             m_rows[row].camera = camera; // its name may be another one now
-            continue;
+        } else {
+            added.append({camera, m_control->state(camera), camera->displayName()});
         }
-        beginInsertRows({}, m_rows.size(), m_rows.size());
-        m_rows.append({camera, m_control->state(camera), camera->displayName()});
+    }
+    if (!added.isEmpty()) {
+        beginInsertRows({}, m_rows.size(), m_rows.size() + added.size() - 1);
+        m_rows.append(added);
+        findRows();
         endInsertRows();
     }
 }
@@ -65,12 +71,40 @@ void CCameraListModel::updateNames()
     for (const CRow &row : qAsConst(m_rows)) {
         all.append(row.camera);
     }
+    const QStringList names = CameraPool::distinctNames(all);
     for (int row = 0; row < m_rows.size(); ++row) {
-        const QString name = CameraPool::distinctName(m_rows.at(row).camera, all);
-        if (name != m_rows.at(row).name) {
-            m_rows[row].name = name;
+        if (names.at(row) != m_rows.at(row).name) {
+            m_rows[row].name = names.at(row);
             Q_EMIT dataChanged(index(row, CameraColumn), index(row, CameraColumn));
         }
+    }
+}
+
+// A device can say that it is another camera each time that it is asked.
+void CCameraListModel::removeSurplus()
+{
+    const auto isGone = [](const CRow &row) {
+        return row.state == CameraPool::ICameraControlService::Gone;
+    };
+    auto surplus = std::count_if(m_rows.begin(), m_rows.end(), isGone) - MostGone;
+    for (int row = 0; surplus > 0 && row < m_rows.size();) {
+        if (isGone(m_rows.at(row))) {
+            beginRemoveRows({}, row, row);
+            m_rows.removeAt(row);
+            findRows();
+            endRemoveRows();
+            --surplus;
+        } else {
+            ++row;
+        }
+    }
+}
+
+void CCameraListModel::findRows()
+{
+    m_places.clear();
+    for (int row = 0; row < m_rows.size(); ++row) {
+        m_places.insert(m_rows.at(row).camera->identity(), row);
     }
 }
 
@@ -87,10 +121,7 @@ void CCameraListModel::updateStates()
 
 int CCameraListModel::rowOf(const QString &identity) const
 {
-    const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](const CRow &row) {
-        return row.camera->identity() == identity;
-    });
-    return found == m_rows.end() ? -1 : int(found - m_rows.begin());
+    return m_places.value(identity, -1);
 }
 
 void CCameraListModel::retranslate()

@@ -5,14 +5,15 @@
 #include "plugins/camerapool/ICameraControlService.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QList>
 #include <QSharedPointer>
 
 namespace CameraSelector {
 
 /// The cameras that were seen in this run, with what each is doing. One that is gone stays, so that
-/// the user sees what happened to it. Cameras with the same name are told apart by their serial
-/// numbers. GUI thread.
+/// the user sees what happened to it, as long as there are not too many. Cameras with the same name
+/// are told apart by their serial numbers. GUI thread.
 class CCameraListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,6 +21,9 @@ class CCameraListModel : public QAbstractTableModel
 public:
     using CameraInfoPtr = Core::CameraPoolComponents::CameraInfoPtr;
     using CameraState = CameraPool::ICameraControlService::CameraState;
+
+    /// How many cameras that are gone stay in the list; the first ones leave it first.
+    static constexpr int MostGone = 1000;
 
     enum Column { CameraColumn, StateColumn, ColumnCount };
 
@@ -57,10 +61,13 @@ private:
     void addNew();
     void updateNames();
     void updateStates();
+    void removeSurplus();
+    void findRows();
     int rowOf(const QString &identity) const;
 
     QSharedPointer<CameraPool::ICameraControlService> m_control;
     QList<CRow> m_rows;
+    QHash<QString, int> m_places; // in m_rows, by identity
 };
 
 } // namespace CameraSelector

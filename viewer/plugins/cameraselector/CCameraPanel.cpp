@@ -62,6 +62,7 @@ void CCameraPanel::buildView(CCameraCommands &commands)
     m_view->setUniformRowHeights(true);
     m_view->setAllColumnsShowFocus(true);
     m_view->header()->setStretchLastSection(false);
+    m_view->header()->setResizeContentsPrecision(0); // what is visible: there may be many
     m_view->header()->setSectionResizeMode(CCameraListModel::CameraColumn, QHeaderView::Stretch);
     m_view->header()->setSectionResizeMode(CCameraListModel::StateColumn,
                                            QHeaderView::ResizeToContents);

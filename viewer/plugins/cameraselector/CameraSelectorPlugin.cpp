@@ -34,7 +34,10 @@ constexpr std::chrono::seconds refreshInterval(1);
 CCameraSelectorPlugin::CCameraSelectorPlugin(QObject *parent)
     : IPlugin(parent)
     , m_service(QSharedPointer<CDeviceSelectionService>::create())
-{}
+{
+    m_refreshSoon.setSingleShot(true);
+    connect(&m_refreshSoon, &QTimer::timeout, this, &CCameraSelectorPlugin::refresh);
+}
 
 CCameraSelectorPlugin::~CCameraSelectorPlugin() = default;
 
@@ -61,6 +64,7 @@ bool CCameraSelectorPlugin::uninitialize(
     const QPointer<Core::Plugin::IPluginInitializer> &initializer)
 {
     m_refreshTimer.stop();
+    m_refreshSoon.stop();
     delete m_panel;
     m_model.reset();
     m_commands.reset();
@@ -110,7 +114,7 @@ void CCameraSelectorPlugin::connectNews()
     using CameraPool::ICameraStatusService;
     const auto refreshOn = [this](const auto &service, auto... signal) {
         if (service) {
-            (connect(service.data(), signal, this, &CCameraSelectorPlugin::refresh), ...);
+            (connect(service.data(), signal, this, &CCameraSelectorPlugin::refreshSoon), ...);
         }
     };
     refreshOn(Core::Plugin::findService<ICameraStatusService>(m_initializer),
@@ -124,6 +128,14 @@ void CCameraSelectorPlugin::connectNews()
     if (const auto status = Core::Plugin::findService<ICameraStatusService>(m_initializer)) {
         connect(status.data(), &ICameraStatusService::deviceOpened, this,
                 [this] { showProblem({}); });
+    }
+}
+
+// Once for all news that are there: many cameras may come at once.
+void CCameraSelectorPlugin::refreshSoon()
+{
+    if (!m_refreshSoon.isActive()) {
+        m_refreshSoon.start(0);
     }
 }
 

@@ -38,6 +38,7 @@ private:
     void onFirstSearchEnded();
     void showProblem(const QString &message);
     void hint(const QString &text);
+    void refreshSoon();
     void refresh();
 
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
@@ -47,6 +48,7 @@ private:
     std::unique_ptr<CCameraListModel> m_model;   // null without windows
     QPointer<CCameraPanel> m_panel;              // likewise; the window may delete it
     QTimer m_refreshTimer;
+    QTimer m_refreshSoon;
 };
 
 } // namespace CameraSelector
