@@ -15,7 +15,7 @@ cd "$(dirname "$0")"
 source tools/steps.bash
 
 # Which tests are worth their time in a second build. The names of tests are those of their targets.
-asan_tests='^(UsageTracking(Session|Tracking|EventRecord|ConsentController|HelpMenu|Request|PluginLifecycle|PluginLibrary|PluginComponent|.*Events|Parameter.*|GrabFailures|StreamCounters)Test|test_ruisdk_(core|store|delivery|api|sessions|processes|tool)|PluginShutDownTest|(Vanishing|Lost)CameraTest|TwoCamerasTest|CameraPool(GvcpMessage|Busy)Test|StreamAttackTest|DiscoveryAttackTest)$'
+asan_tests='^(UsageTracking(Session|Tracking|EventRecord|ConsentController|HelpMenu|Request|PluginLifecycle|PluginLibrary|PluginComponent|.*Events|Parameter.*|GrabFailures|StreamCounters)Test|test_ruisdk_(core|store|delivery|api|sessions|processes|tool)|PluginShutDownTest|(Vanishing|Lost)CameraTest|TwoCamerasTest|CameraPool(GvcpMessage|Busy)Test|StreamAttackTest|(Discovery|Control)AttackTest)$'
 tsan_tests='^(test_ruisdk_(core|store|delivery|api|sessions|processes|tool)|ServiceRegistryThreadsTest|CameraPool(Grab|Busy)Test|UsageTracking(Session|Tracking|Subscriptions|QueuedBehindStop|PluginLifecycle)Test)$'
 
 # What the thread sanitizer cannot follow: threads of libraries that are not built for it (Aravis,

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "DeviceOpener.h"
 
+#include "AravisParser.h"
 #include "CDeviceReleaser.h"
 #include "CGvcpProbe.h"
 #include "CSocketGuard.h"
@@ -104,8 +105,15 @@ ArvDevice *openGigE(const CFoundCamera &found, GError **error)
 
 ArvDevice *openAny(const CFoundCamera &found, GError **error)
 {
-    return found.isGigE ? openGigE(found, error)
-                        : arv_open_device(qUtf8Printable(found.openId), error);
+    GObjectPtr<ArvDevice> device(found.isGigE
+                                     ? openGigE(found, error)
+                                     : arv_open_device(qUtf8Printable(found.openId), error));
+    if (device && arv_device_get_genicam(device.get()) && !isParsedOneAtATime()) {
+        g_set_error_literal(error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_UNKNOWN,
+                            "its description cannot be kept apart from those of other cameras");
+        return nullptr;
+    }
+    return device.release();
 }
 
 struct Outcome
