@@ -184,9 +184,10 @@ void PeopleErrorsTest::testDatabaseThatIsNotOne()
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), content);
     const QString database = viewer.libraryFolder() + "/usage-events.sqlite";
-    QCOMPARE(viewer.logged().filter("ruiSDK:"),
-             QStringList({"ruiSDK: " + database + " is not a usable database; set aside as "
-                          + file.fileName() + ", a new one is begun"}));
+    QCOMPARE(
+        viewer.logged().filter("ruiSDK:"),
+        QStringList({"ruiSDK: " + database + " is not a usable database; set aside as "
+                     + file.fileName() + ", a new one is begun with 0 events that could be read"}));
 }
 
 QTEST_GUILESS_MAIN(PeopleErrorsTest)
