@@ -46,6 +46,36 @@ TEST_F(Consent, SameProductUnderTheSameClientIsOneResource)
     EXPECT_EQ(queryValue(m_directory.path(), "SELECT count(DISTINCT client) FROM resource"), "1");
 }
 
+// Two programs that start at once: the second one tries in the middle of the first one.
+TEST_F(Consent, SessionsThatBeginAtOnceShareOneClient)
+{
+    struct Second
+    {
+        std::string directory;
+        bool isRefused = false;
+    } second{m_directory.path()};
+    const auto tryToJoin = [](unsigned, void *data, void *, void *sql) {
+        auto &self = *static_cast<Second *>(data);
+        if (std::string_view(static_cast<const char *>(sql)).rfind("UPDATE state SET client", 0)
+            == 0) {
+            try {
+                const auto noWait = std::make_shared<BusyLimit>(std::chrono::milliseconds(0));
+                const StorePaths paths(self.directory);
+                Database database(paths.database(), Database::Access::ReadWrite, noWait);
+                WithdrawalMark mark{paths.consent()};
+                joinConsent(database, mark, product, 0);
+            } catch (const Failure &failure) {
+                self.isRefused = failure.result() == RUI_BUSY;
+            }
+        }
+        return 0;
+    };
+    sqlite3_trace_v2(m_database.handle(), SQLITE_TRACE_STMT, tryToJoin, &second);
+    join(product);
+    EXPECT_TRUE(second.isRefused);
+    EXPECT_EQ(queryValue(m_directory.path(), "SELECT count(DISTINCT client) FROM resource"), "1");
+}
+
 TEST_F(Consent, WithdrawalRaisesTheEpochByOne)
 {
     join(product);

@@ -98,6 +98,16 @@ TEST_F(LossRecord, ServerThatRefusesEverythingIsNotToldOfEachRefusal)
     EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM notice"), "1");
 }
 
+TEST_F(LossRecord, WaitsForAnEventToTravelWith)
+{
+    loseTwo();
+    change(m_path, "DELETE FROM event");
+    EXPECT_EQ(deliver().kind, Step::Kind::Idle);
+    EXPECT_TRUE(Outbox(*m_database, m_limits).next(100, 1000000, m_clock.time).keys.empty());
+    EXPECT_EQ(m_server.requests().size(), 0U);
+    EXPECT_EQ(counters(), (Rows{{"maxEvents", "2", "0"}}));
+}
+
 TEST_F(LossRecord, IsNeverPushedOut)
 {
     loseTwo();

@@ -184,6 +184,41 @@ TEST(QuotaCost, OfAnEventThatIsPushedOutIsTheSameWithGapsInTheNumbersAsWithout)
     EXPECT_LE(without, 1000);
 }
 
+TEST_F(Quota, NumbersGoOnWhenEverythingWasTooOld)
+{
+    add("1");
+    add("2");
+    m_clock.time = 1000 * day;
+    drop();
+    EXPECT_EQ(texts(), Texts{});
+    m_store.reset();
+    add("3");
+    EXPECT_EQ(queryValue(m_directory.path(), "SELECT seq FROM event"), "3");
+}
+
+TEST_F(Quota, LossesAreCountedOnlyWithTheDeletion)
+{
+    add("1");
+    m_clock.time = 1000 * day;
+    change(m_directory.path(), "CREATE TRIGGER refuse BEFORE DELETE ON event"
+                               " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    EXPECT_THROW(drop(), Failure);
+    EXPECT_EQ(losses(), Rows{});
+    EXPECT_EQ(texts(), Texts{"1"});
+}
+
+TEST_F(Quota, EventsAfterAnOptOutAreNoLosses)
+{
+    add("1");
+    // In the moment between the look at the consent and the storing.
+    change(m_directory.path(), "UPDATE state SET epoch = epoch + 1");
+    EXPECT_THROW(add("2"), Failure);
+    EXPECT_THROW(add("3"), Failure);
+    store().join({"1", "app", "", "", "", ""});
+    add("4");
+    EXPECT_EQ(losses(), Rows{});
+}
+
 TEST_F(Quota, OptOutRecordsAreNeverPushedOutAndNotCounted)
 {
     add("1");

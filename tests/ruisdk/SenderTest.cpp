@@ -236,6 +236,19 @@ TEST_F(Sending, RedirectWithinTheServerIsFollowedWithTheBody)
     EXPECT_EQ(sentTexts(), (Requests{{"1"}, {"1"}}));
 }
 
+TEST_F(Sending, RedirectToAnotherServerIsNotFollowed)
+{
+    const TestServer other;
+    track("1");
+    for (const int status : {301, 302, 303, 307, 308}) {
+        m_server.add({status, "Location: " + other.url() + "/v1/logs\r\n", {}, Manner::Reply});
+        EXPECT_EQ(deliver().kind, Step::Kind::Failed);
+        waitForNextTry();
+    }
+    EXPECT_EQ(other.requests().size(), 0U);
+    EXPECT_EQ(pendingTexts(), Texts{"1"});
+}
+
 TEST_F(Sending, EndlessRedirectsAreGivenUpForNow)
 {
     track("1");
@@ -260,6 +273,28 @@ TEST_F(Sending, AnotherSenderIsLeftToItsWork)
     other.unlock();
     EXPECT_EQ(deliver().kind, Step::Kind::Idle);
     EXPECT_EQ(deliveredTexts(), Texts{"1"});
+}
+
+TEST_F(Sending, LockIsGivenBackAfterEveryStep)
+{
+    FileLock other(StorePaths(m_path).senderLock());
+    for (const int status : {200, 503, 404}) {
+        track("1");
+        m_server.add({status, {}, {}, Manner::Reply});
+        sender().step();
+        EXPECT_TRUE(other.tryLock()) << status;
+        other.unlock();
+    }
+}
+
+TEST_F(Sending, DefaultTimesAreThePublishedOnes)
+{
+    const DeliveryLimits limits;
+    EXPECT_EQ(limits.connectTimeout, std::chrono::seconds(10));
+    EXPECT_EQ(limits.transferTimeout, std::chrono::seconds(60));
+    EXPECT_EQ(limits.maxRetryAfter, std::chrono::hours(24));
+    EXPECT_EQ(limits.backoff.max, std::chrono::minutes(5));
+    EXPECT_EQ(limits.slowBackoff.max, std::chrono::hours(1));
 }
 
 TEST_F(Sending, CancelledRequestSaysNothingAboutTheServer)

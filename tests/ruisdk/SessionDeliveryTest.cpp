@@ -10,8 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
 #include <csignal>
+#include <thread>
 
 namespace {
 
@@ -184,6 +186,38 @@ TEST_F(SessionDelivery, ProgramMayExitDuringASession)
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output, "w 1\nw 2\nw 3\n");
     EXPECT_EQ(pending(), "3");
+}
+
+TEST_F(SessionDelivery, PlainHttpIsNotSentThroughAProxy)
+{
+    const TestServer proxy;
+    const Outcome outcome =
+        runProgram({RUI_WRITER_PROGRAM, m_path, "w", "1", m_server.url()},
+                   {{"http_proxy", proxy.url()}, {"ALL_PROXY", proxy.url()}, {"no_proxy", ""}});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(proxy.requests().size(), 0U);
+    EXPECT_EQ(m_server.requests().size(), 1U);
+}
+
+TEST_F(SessionDelivery, CallsDoNotWaitForASessionThatIsBeingEnded)
+{
+    m_server.add({200, {}, {}, Manner::Hang});
+    m_session.open(m_path, m_server.url());
+    m_session.track("first");
+    ASSERT_TRUE(m_server.waitForRequests(1));
+    std::atomic<bool> isEnded{false};
+    std::thread stopping([&] {
+        m_session.stop();
+        isEnded = true;
+    });
+    int32_t result = RUI_OK;
+    while (result == RUI_OK) {
+        result = m_session.track("more");
+    }
+    // The server hangs, so that the end takes nearly two seconds.
+    EXPECT_FALSE(isEnded);
+    EXPECT_EQ(result, RUI_WRONG_STATE);
+    stopping.join();
 }
 
 TEST_F(SessionDelivery, SenderThatIsKilledIsReplacedByAnotherProcess)

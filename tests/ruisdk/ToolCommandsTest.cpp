@@ -195,6 +195,16 @@ TEST_F(ToolCommands, PurgeDeletesEventsAndTheirBytes)
     EXPECT_EQ(query(m_path, "SELECT reason, lost FROM loss"), (std::vector<Row>{{"purged", "3"}}));
 }
 
+TEST_F(ToolCommands, PurgeThatFailsInItsMiddleDeletesAndCountsNothing)
+{
+    track(3);
+    change(m_path, "CREATE TRIGGER refuse BEFORE UPDATE OF erase ON state"
+                   " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    EXPECT_EQ(run({"purge"}).status, 1);
+    EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM event"), "3");
+    EXPECT_EQ(queryValue(m_path, "SELECT count(*) FROM loss"), "0");
+}
+
 TEST_F(ToolCommands, PurgeKeepsAnOptOutAndTheNumbers)
 {
     track(2);
