@@ -27,7 +27,17 @@
 
 #include <stdint.h>
 
-#if defined(RUISDK_BUILD)
+/*
+ * RUISDK_BUILD: for the library itself. RUISDK_STATIC: for a program that links it statically,
+ * which only a Windows compiler has to know.
+ */
+#if defined(_WIN32) && defined(RUISDK_STATIC)
+#define RUI_API
+#elif defined(_WIN32) && defined(RUISDK_BUILD)
+#define RUI_API __declspec(dllexport)
+#elif defined(_WIN32)
+#define RUI_API __declspec(dllimport)
+#elif defined(RUISDK_BUILD)
 #define RUI_API __attribute__((visibility("default")))
 #else
 #define RUI_API
@@ -51,7 +61,8 @@ enum ruiResult {
     RUI_BUSY = 9,         /* another process kept the database locked; the call may be repeated */
     RUI_INTERNAL = 10,    /* out of memory, or a defect of the library */
     RUI_FORKED = 11,      /* the process was forked while the library was in use */
-    RUI_FORBIDDEN = 12    /* the machine's administrator or DO_NOT_TRACK forbids it */
+    RUI_FORBIDDEN = 12,   /* the machine's administrator or DO_NOT_TRACK forbids it */
+    RUI_TIMEOUT = 13      /* the time was over first */
 };
 
 /* OTLP over HTTP, the one protocol that ruiCreateConfig accepts. */

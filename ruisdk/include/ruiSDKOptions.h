@@ -48,6 +48,60 @@ enum ruiPolicy {
  */
 RUI_API int32_t ruiGetPolicy(const char *productId, int32_t *policy);
 
+/*
+ * How the server is reached. Each holds for the sessions of this instance that are started later;
+ * RUI_WRONG_STATE while one is open. Nothing of it is written to disk.
+ *
+ * Without these calls, the environment is asked: the proxy variables that libcurl knows
+ * (https_proxy, ALL_PROXY, NO_PROXY ...), and SSL_CERT_FILE. Neither counts for a server on the
+ * loopback over plain http.
+ */
+
+/*
+ * Sends a header with each request, as in "Authorization", "Bearer 5f2c". The same name again
+ * replaces it, whatever its case; an empty value takes it away. It goes to the server alone, not
+ * to a proxy, and not to where another server redirects.
+ *
+ * RUI_BAD_ARGUMENT also: what HTTP does not allow in a name or a value, a line break for example,
+ * and the names that the library sets itself.
+ */
+RUI_API int32_t ruiSetRequestHeader(ruiInstance instance, const char *name, const char *value);
+
+/*
+ * Trusts the certificates in this PEM file instead of the system's. Empty: the system's.
+ * RUI_BAD_ARGUMENT also: the file cannot be read now.
+ */
+RUI_API int32_t ruiSetCaFile(ruiInstance instance, const char *path);
+
+/*
+ * Goes through this proxy, as in "http://proxy.example.com:3128" or "socks5h://10.0.0.1". Empty:
+ * through none, whatever the environment says.
+ */
+RUI_API int32_t ruiSetProxy(ruiInstance instance, const char *url);
+
+/*
+ * Lets the delivery rest, and go on again: on a metered connection, or in an offline mode. Holds
+ * for the directory, so for every session in any process, and over restarts. Events are stored as
+ * before; the delivery of an opt-out rests, too. A request that is under way is not cut off. Any
+ * time after ruiCreateConfig.
+ */
+RUI_API int32_t ruiPauseDelivery(ruiInstance instance);
+RUI_API int32_t ruiResumeDelivery(ruiInstance instance);
+
+/* Sets `paused` to 1 while the delivery rests, and to 0 otherwise. */
+RUI_API int32_t ruiIsDeliveryPaused(ruiInstance instance, int32_t *paused);
+
+/*
+ * Waits until nothing in the directory is left to deliver, at most this many milliseconds; with 0
+ * it only looks. Other calls, from other threads, need not wait meanwhile. What the delivery
+ * itself waits for, a pause that a server has asked for, is kept to.
+ *
+ * RUI_TIMEOUT: something is left; it is delivered as if nothing had been asked.
+ * RUI_WRONG_STATE: no session is open, it was ended meanwhile, it has no server, or the delivery
+ *     rests.
+ */
+RUI_API int32_t ruiFlush(ruiInstance instance, int32_t milliseconds);
+
 #ifdef __cplusplus
 }
 #endif

@@ -20,10 +20,12 @@ TEST(Exports, AreTheFunctionsOfTheHeaderAndNothingElse)
         names.insert(line);
     }
     EXPECT_EQ(names,
-              (std::set<std::string>{"ruiCreateConfig", "ruiCreateInstance", "ruiDestroyInstance",
-                                     "ruiGetClientId", "ruiGetPolicy", "ruiOptOut", "ruiResultText",
-                                     "ruiSetProductData", "ruiStartSDK", "ruiStopSDK",
-                                     "ruiTrackEvent", "ruiTrackEventText", "ruiVersion"}));
+              (std::set<std::string>{
+                  "ruiCreateConfig",   "ruiCreateInstance", "ruiDestroyInstance",  "ruiFlush",
+                  "ruiGetClientId",    "ruiGetPolicy",      "ruiIsDeliveryPaused", "ruiOptOut",
+                  "ruiPauseDelivery",  "ruiResultText",     "ruiResumeDelivery",   "ruiSetCaFile",
+                  "ruiSetProductData", "ruiSetProxy",       "ruiSetRequestHeader", "ruiStartSDK",
+                  "ruiStopSDK",        "ruiTrackEvent",     "ruiTrackEventText",   "ruiVersion"}));
 }
 
 } // namespace

@@ -35,8 +35,10 @@ protected:
 
     Response post(const std::string &caFile)
     {
+        TransportOptions options;
+        options.caFile = caFile;
         CurlTransport transport(parseServerAddress("https://127.0.0.1:" + m_port), m_limits,
-                                caFile);
+                                options);
         return transport.post(gzip("{}"));
     }
 

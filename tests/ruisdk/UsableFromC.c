@@ -46,6 +46,32 @@ static void runSession(const char *directory)
     expect(ruiDestroyInstance(instance), RUI_BAD_HANDLE);
 }
 
+/* What a program may set and ask beside the calls of a session. */
+static void runEmbedded(const char *directory)
+{
+    char client[RUI_CLIENT_ID_SIZE];
+    int32_t policy = 0;
+    int32_t paused = 0;
+    expect(ruiGetPolicy("2026110001", &policy), RUI_OK);
+    if ((policy & RUI_POLICY_NO_STORING) != 0) {
+        printf("usage tracking is switched off on this machine\n");
+        return;
+    }
+    ruiInstance instance = configured(directory);
+    expect(ruiSetRequestHeader(instance, "Authorization", "Bearer 5f2c"), RUI_OK);
+    expect(ruiSetCaFile(instance, ""), RUI_OK);
+    expect(ruiSetProxy(instance, "http://proxy.example.com:3128"), RUI_OK);
+    expect(ruiPauseDelivery(instance), RUI_OK);
+    expect(ruiIsDeliveryPaused(instance, &paused), RUI_OK);
+    expect(ruiResumeDelivery(instance), RUI_OK);
+    expect(ruiStartSDK(instance), RUI_OK);
+    expect(ruiGetClientId(instance, client, sizeof client), RUI_OK);
+    printf("ruiSDK %s, client %s, paused %d\n", ruiVersion(), client, (int)paused);
+    /* There is no server in this program. */
+    expect(ruiFlush(instance, 1000), RUI_WRONG_STATE);
+    expect(ruiDestroyInstance(instance), RUI_OK);
+}
+
 static void runOptOut(const char *directory)
 {
     ruiInstance instance = configured(directory);
@@ -63,6 +89,7 @@ int main(void)
         return 100;
     }
     runSession(directory);
+    runEmbedded(directory);
     runOptOut(directory);
     return system(strcat(command, directory)) == 0 ? 0 : 101;
 }

@@ -44,3 +44,59 @@ int32_t ruiGetPolicy(const char *productId, int32_t *policy)
                   | (read.problem ? RUI_POLICY_UNREADABLE : 0);
     });
 }
+
+int32_t ruiSetRequestHeader(ruiInstance instance, const char *name, const char *value)
+{
+    return withInstance(instance, [=](Instance &target) {
+        const std::string header = descriptionArgument(name);
+        const std::string content(textArgument(value));
+        target.setTransport(
+            [&](TransportOptions &options) { setHeader(options, header, content); });
+    });
+}
+
+int32_t ruiSetCaFile(ruiInstance instance, const char *path)
+{
+    return withInstance(instance, [=](Instance &target) {
+        const std::string file(textArgument(path));
+        target.setTransport([&](TransportOptions &options) { setCaFile(options, file); });
+    });
+}
+
+int32_t ruiSetProxy(ruiInstance instance, const char *url)
+{
+    return withInstance(instance, [=](Instance &target) {
+        const std::string proxy = descriptionArgument(url);
+        target.setTransport([&](TransportOptions &options) { setProxy(options, proxy); });
+    });
+}
+
+int32_t ruiPauseDelivery(ruiInstance instance)
+{
+    return withInstance(instance, [](Instance &target) { target.setPaused(true); });
+}
+
+int32_t ruiResumeDelivery(ruiInstance instance)
+{
+    return withInstance(instance, [](Instance &target) { target.setPaused(false); });
+}
+
+int32_t ruiIsDeliveryPaused(ruiInstance instance, int32_t *paused)
+{
+    return withInstance(instance, [=](Instance &target) {
+        if (paused == nullptr) {
+            throw Failure(RUI_BAD_ARGUMENT, "the place for the answer is null");
+        }
+        *paused = target.isPaused() ? 1 : 0;
+    });
+}
+
+int32_t ruiFlush(ruiInstance instance, int32_t milliseconds)
+{
+    return withInstance(instance, [=](Instance &target) {
+        if (milliseconds < 0) {
+            throw Failure(RUI_BAD_ARGUMENT, "a time is negative");
+        }
+        target.flush(std::chrono::milliseconds(milliseconds));
+    });
+}

@@ -8,6 +8,7 @@
 #include "store/Policy.h"
 
 #include <filesystem>
+#include <thread>
 
 namespace rui {
 
@@ -119,7 +120,8 @@ void Instance::startWorker()
     options.limits = m_limits;
     options.clock = &m_clock;
     if (m_config.server) {
-        options.transport = std::make_shared<CurlTransport>(*m_config.server, options.delivery);
+        options.transport = std::make_shared<CurlTransport>(*m_config.server, options.delivery,
+                                                            withEnvironment(m_transport));
     }
     m_worker = std::make_unique<Worker>(std::move(options));
 }
@@ -198,6 +200,53 @@ std::string Instance::clientId()
     const std::lock_guard<std::mutex> lock(m_mutex);
     require(m_state != State::Created);
     return m_store->clientId();
+}
+
+void Instance::setTransport(const std::function<void(TransportOptions &)> &change)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    require(m_state != State::Running);
+    change(m_transport);
+}
+
+void Instance::setPaused(bool paused)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    require(m_state != State::Created);
+    m_store->setPaused(paused);
+    if (m_worker) {
+        m_worker->notify(true);
+    }
+}
+
+bool Instance::isPaused()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    require(m_state != State::Created);
+    return m_store->isPaused();
+}
+
+bool Instance::isDelivered()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    require(m_state == State::Running && m_config.server && !m_store->isPaused());
+    if (!m_store->hasRecords()) {
+        return true;
+    }
+    m_worker->notify(true);
+    return false;
+}
+
+void Instance::flush(std::chrono::milliseconds limit)
+{
+    constexpr std::chrono::milliseconds lookEvery{10};
+    const auto end = std::chrono::steady_clock::now() + limit;
+    while (!isDelivered()) {
+        if (std::chrono::steady_clock::now() >= end) {
+            throw Failure(RUI_TIMEOUT, "not everything was delivered in time");
+        }
+        std::this_thread::sleep_for(lookEvery);
+    }
 }
 
 void Instance::shutDown() noexcept

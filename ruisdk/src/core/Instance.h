@@ -5,9 +5,11 @@
 #include "core/Clock.h"
 #include "core/Limits.h"
 #include "delivery/ServerAddress.h"
+#include "delivery/TransportOptions.h"
 #include "delivery/Worker.h"
 #include "store/Store.h"
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -46,6 +48,16 @@ public:
     // Empty when there is none.
     std::string clientId();
 
+    // Changes how the server is reached, for the next session. Not while one is open.
+    void setTransport(const std::function<void(TransportOptions &)> &change);
+
+    // For everybody who uses the directory, until it is changed again.
+    void setPaused(bool paused);
+    bool isPaused();
+
+    // Waits until nothing is left in the directory to deliver. RUI_TIMEOUT when the time is over.
+    void flush(std::chrono::milliseconds limit);
+
     // Ends the session if one is open, without delivering anything, and the instance with it: every
     // later call is RUI_BAD_HANDLE.
     void shutDown() noexcept;
@@ -61,6 +73,7 @@ private:
     void requirePermission();
     void startWorker();
     std::unique_ptr<Worker> endSession(State next);
+    bool isDelivered();
     std::chrono::milliseconds stopLimit() noexcept;
 
     const Limits m_limits;
@@ -70,6 +83,7 @@ private:
     State m_state = State::Created;
     Withdrawal m_withdrawal = Withdrawal::None;
     Config m_config;
+    TransportOptions m_transport;
     Product m_product;
     std::optional<Store> m_store;
     std::unique_ptr<Worker> m_worker;

@@ -31,6 +31,8 @@ const char *ruiResultText(int32_t result)
         return "the process was forked while the library was in use; execute a program first";
     case RUI_FORBIDDEN:
         return "the administrator or DO_NOT_TRACK forbids it";
+    case RUI_TIMEOUT:
+        return "the time was over first";
     default:
         return "unknown result";
     }

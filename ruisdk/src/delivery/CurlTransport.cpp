@@ -29,19 +29,27 @@ struct ListFree
 };
 using Headers = std::unique_ptr<curl_slist, ListFree>;
 
-Headers requestHeaders()
+void append(Headers &headers, const std::string &line)
 {
-    curl_slist *list = nullptr;
+    curl_slist *longer = curl_slist_append(headers.get(), line.c_str());
+    if (longer == nullptr) {
+        throw Failure(RUI_INTERNAL, "memory is short");
+    }
+    static_cast<void>(headers.release());
+    headers.reset(longer);
+}
+
+Headers requestHeaders(const TransportOptions &options)
+{
+    Headers headers;
     for (const char *line : {"Content-Type: application/json", "Content-Encoding: gzip",
                              "Accept: application/json", "Expect:"}) {
-        curl_slist *longer = curl_slist_append(list, line);
-        if (longer == nullptr) {
-            curl_slist_free_all(list);
-            throw Failure(RUI_INTERNAL, "memory is short");
-        }
-        list = longer;
+        append(headers, line);
     }
-    return Headers(list);
+    for (const auto &[name, value] : options.headers) {
+        append(headers, name + ": " + value);
+    }
+    return headers;
 }
 
 std::string headerOf(CURL *easy, const char *name)
@@ -57,7 +65,7 @@ std::string headerOf(CURL *easy, const char *name)
 struct CurlTransport::Exchange
 {
     std::unique_ptr<CURL, EasyFree> easy{curl_easy_init()};
-    Headers headers = requestHeaders();
+    Headers headers;
     std::string body;
     std::size_t bodyLimit = 0;
     std::array<char, CURL_ERROR_SIZE> error{};
@@ -79,10 +87,10 @@ void initialiseCurl()
     std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
 }
 
-CurlTransport::CurlTransport(ServerAddress address, DeliveryLimits limits, std::string caFile)
+CurlTransport::CurlTransport(ServerAddress address, DeliveryLimits limits, TransportOptions options)
     : m_address(std::move(address))
     , m_limits(limits)
-    , m_caFile(std::move(caFile))
+    , m_options(std::move(options))
 {
     initialiseCurl();
     m_multi.reset(newClosingMulti());
@@ -110,9 +118,11 @@ void CurlTransport::configure(CURL *easy, Exchange &exchange) const
     if (m_address.isPlain) {
         // A proxy would carry the plain text off this machine.
         curl_easy_setopt(easy, CURLOPT_PROXY, "");
+    } else if (m_options.proxy) {
+        curl_easy_setopt(easy, CURLOPT_PROXY, m_options.proxy->c_str());
     }
-    if (!m_caFile.empty()) {
-        curl_easy_setopt(easy, CURLOPT_CAINFO, m_caFile.c_str());
+    if (!m_options.caFile.empty()) {
+        curl_easy_setopt(easy, CURLOPT_CAINFO, m_options.caFile.c_str());
     }
 }
 
@@ -145,6 +155,7 @@ Response CurlTransport::exchangeOnce(const std::string &url, const std::string &
                                      std::string &redirect)
 {
     Exchange exchange;
+    exchange.headers = requestHeaders(m_options);
     exchange.bodyLimit = m_limits.responseBytes;
     CURL *easy = exchange.easy.get();
     configure(easy, exchange);

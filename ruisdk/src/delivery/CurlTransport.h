@@ -5,6 +5,7 @@
 #include "delivery/DeliveryLimits.h"
 #include "delivery/ServerAddress.h"
 #include "delivery/Transport.h"
+#include "delivery/TransportOptions.h"
 
 #include <curl/curl.h>
 
@@ -18,8 +19,7 @@ namespace rui {
 class CurlTransport : public Transport
 {
 public:
-    // caFile: certificates to trust instead of the system's; empty for the system's.
-    CurlTransport(ServerAddress address, DeliveryLimits limits, std::string caFile = {});
+    CurlTransport(ServerAddress address, DeliveryLimits limits, TransportOptions options = {});
 
     Response post(const std::string &body) override;
     void cancel() override;
@@ -42,7 +42,7 @@ private:
 
     const ServerAddress m_address;
     const DeliveryLimits m_limits;
-    const std::string m_caFile;
+    const TransportOptions m_options;
     std::unique_ptr<CURLM, MultiFree> m_multi;
     std::atomic<bool> m_cancelled{false};
 };

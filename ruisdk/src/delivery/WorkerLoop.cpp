@@ -149,7 +149,8 @@ void WorkerLoop::shrink(Database &database)
 Step WorkerLoop::deliver(Work &work)
 {
     Step step;
-    while (work.sender && !m_deliveryEnded && !isDeliveryForbidden(work.database)) {
+    while (work.sender && !m_deliveryEnded && !isDeliveryForbidden(work.database)
+           && !isDeliveryPaused(work.database)) {
         step = work.sender->step();
         if (step.kind == Step::Kind::NoLock) {
             sayOnce(step.reason);

@@ -66,10 +66,14 @@ constexpr const char *keepTheHandOver =
 // server: where the last session that was started delivers to; empty: nowhere; null: none was yet
 constexpr const char *keepTheServer = "ALTER TABLE state ADD COLUMN server TEXT;";
 
+// paused: 1 while delivery rests, by ruiPauseDelivery
+constexpr const char *keepThePause =
+    "ALTER TABLE state ADD COLUMN paused INTEGER NOT NULL DEFAULT 0;";
+
 // Each leads from one version to the next; the first one to version 2. What stands here has run
 // on users' machines: add to its end only.
-constexpr std::array migrations = {countWhatIsGone, keepTheRun, rememberWithdrawals,
-                                   keepTheHandOver, keepTheServer};
+constexpr std::array migrations = {countWhatIsGone, keepTheRun,    rememberWithdrawals,
+                                   keepTheHandOver, keepTheServer, keepThePause};
 
 constexpr std::int64_t firstVersion = 1;
 

@@ -65,6 +65,11 @@ bool isDeliveryForbidden(const Database &database)
     return false;
 }
 
+bool isDeliveryPaused(const Database &database)
+{
+    return database.integer("SELECT paused FROM state") != 0;
+}
+
 void requireDelivery(const Database &database)
 {
     if (isDoNotTrackSet()) {

@@ -44,6 +44,9 @@ Policy readPolicy(const std::string &productId);
 // SqliteError.
 bool isDeliveryForbidden(const Database &database);
 
+// Somebody has paused delivery in this directory, see ruiPauseDelivery. Throws SqliteError.
+bool isDeliveryPaused(const Database &database);
+
 // Throws Failure with RUI_FORBIDDEN and the reason in one line when isDeliveryForbidden(), or when
 // the environment says so.
 void requireDelivery(const Database &database);

@@ -5,6 +5,7 @@
 #include "core/Random.h"
 #include "store/Erasure.h"
 #include "store/Losses.h"
+#include "store/Policy.h"
 #include "store/Quota.h"
 #include "store/SqliteError.h"
 
@@ -133,6 +134,25 @@ void Store::forget()
         endConsent(current.database);
         tryErasure(current.database);
     });
+}
+
+void Store::setPaused(bool paused)
+{
+    recovering([=](const Connection &current) {
+        current.database.prepare("UPDATE state SET paused = ?1").bind(1, paused ? 1 : 0).run();
+    });
+}
+
+bool Store::isPaused()
+{
+    return isDeliveryPaused(connection().database);
+}
+
+bool Store::hasRecords()
+{
+    return connection().database.integer("SELECT EXISTS(SELECT 1 FROM event)"
+                                         " OR EXISTS(SELECT 1 FROM notice)")
+           != 0;
 }
 
 std::string Store::clientId()

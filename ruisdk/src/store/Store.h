@@ -48,6 +48,13 @@ public:
     // RUI_OPTED_OUT from here on.
     void forget();
 
+    // Whether delivery rests, for everybody who uses the directory.
+    void setPaused(bool paused);
+    bool isPaused();
+
+    // Anything waits for delivery.
+    bool hasRecords();
+
     // An opt-out waits for delivery.
     bool hasOptOut();
 
