@@ -51,10 +51,8 @@ work=$(mktemp -d --tmpdir bare-debian-XXXXXX)
 trap 'rm -rf --one-file-system "$work"' EXIT
 mkdir -p "$logs"
 
-# The first source of Debian 12 here, and what apt must know to reach it.
-mirror=$(apt-get indextargets --format '$(SITE) $(CODENAME) $(LABEL)' 2>/dev/null \
-    | awk '$2 == "bookworm" && $3 == "Debian" { print $1; exit }')
-[[ -n $mirror ]] || fail "no source of Debian 12 is known here: name one in /etc/apt/sources.list and run apt-get update"
+mirror=$("$project/tools/debian-mirror.sh")
+# What apt must know to reach it.
 apt_settings() {
     apt-config dump | grep -E '^Acquire::(https?::Proxy|https?::No-Proxy|https::CaInfo|Check-Valid-Until|Check-Date|Retries) '
 }

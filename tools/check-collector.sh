@@ -18,11 +18,12 @@ collector=$cache/otelcol
 sources=tests/ruisdk/collector
 
 build_collector() {
-    local root=$cache/root package=golang-opentelemetry-collector-dev
+    local root=$cache/root package=golang-opentelemetry-collector-dev mirror
+    mirror=$(tools/debian-mirror.sh)
     mkdir -p "$cache"
     [[ -e $root/etc/debian_version ]] || debootstrap --variant=minbase \
         --include="golang-go,golang-github-coreos-bbolt-dev,$package" \
-        sid "$root" http://deb.debian.org/debian
+        sid "$root" "$mirror"
     mkdir -p "$root/build"
     cp "$sources"/*.go "$root/build"
     local version

@@ -13,7 +13,7 @@ set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 package=$(realpath "$1")
 root=${2:-$(mktemp -d)}
-mirror=http://deb.debian.org/debian
+mirror=$("$here/../../tools/debian-mirror.sh")
 
 [[ -e $root/etc/debian_version ]] || debootstrap --variant=minbase bookworm "$root" "$mirror"
 mountpoint -q "$root/proc" || mount -t proc proc "$root/proc"
