@@ -122,8 +122,11 @@ TEST_F(OwnFileSystem, ThatFillsUpBeforeConsentIsWithdrawnInAnOpenDirectoryDelive
                   "head -c 3000000 /dev/zero > \"$place/filler\" || true\n"
                   "\"$withdrawer\" \"$data\" \"$server\"\n"
                   "kill -9 $!");
-    EXPECT_NE(outcome.output.find("start 6\ntrack 3\nstop 3\n"), std::string::npos)
-        << outcome.output;
+    // A journal that was just emptied has room for the withdrawal; else it stays requested.
+    const bool isRequested = outcome.output.find("start 6\ntrack 3\nstop 3\n") != std::string::npos;
+    const bool isDone =
+        outcome.output.find("optOut 0\nstart 0\ntrack 7\nstop 0\n") != std::string::npos;
+    EXPECT_TRUE(isRequested || isDone) << outcome.output;
     EXPECT_EQ(receivedTexts(m_server), Texts{});
 }
 
