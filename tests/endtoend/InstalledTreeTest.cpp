@@ -55,7 +55,7 @@ void InstalledTreeTest::testTreeHas_data()
     QTest::addColumn<QString>("file");
     for (const char *file :
          {"bin/nerix-viewer", "bin/nerix-camera-simulator", "bin/rui-events", "lib/libNerixCore.so",
-          "lib/libruiSDK.so", "lib/nerix/plugins/libUsageTracking.so",
+          "lib/libruiSDK.so", "lib/libruiSDK.so.7", "lib/nerix/plugins/libUsageTracking.so",
           "include/nerix/Core/Plugin/IPlugin.h", "include/ruiSDK.h",
           "share/doc/nerix-viewer/README.md", "share/doc/nerix-viewer/collector.yaml",
           "share/doc/nerix-viewer/examples/hello/CMakeLists.txt",

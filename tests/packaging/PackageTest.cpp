@@ -106,7 +106,7 @@ void PackageTest::testPackageHas_data()
     QTest::addColumn<QString>("file");
     for (const char *file :
          {"usr/bin/nerix-viewer", "usr/bin/rui-events", "usr/bin/nerix-camera-simulator",
-          "usr/lib/libNerixCore.so", "usr/lib/libruiSDK.so",
+          "usr/lib/libNerixCore.so", "usr/lib/libruiSDK.so", "usr/lib/libruiSDK.so.7",
           "usr/lib/nerix/plugins/libUsageTracking.so",
           "usr/share/applications/example.ostrand.NerixViewer.desktop",
           "usr/share/metainfo/example.ostrand.NerixViewer.metainfo.xml",

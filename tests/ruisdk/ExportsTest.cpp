@@ -28,4 +28,12 @@ TEST(Exports, AreTheFunctionsOfTheHeaderAndNothingElse)
                   "ruiStopSDK",        "ruiTrackEvent",     "ruiTrackEventText",   "ruiVersion"}));
 }
 
+TEST(Exports, AreBoundToTheMajorVersionByTheNameThatProgramsLoad)
+{
+    const auto outcome = rui::test::runProgram({"objdump", "-p", RUI_SDK_LIBRARY});
+    ASSERT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_NE(outcome.output.find("SONAME               libruiSDK.so.7\n"), std::string::npos)
+        << outcome.output;
+}
+
 } // namespace
