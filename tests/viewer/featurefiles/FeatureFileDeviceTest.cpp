@@ -145,7 +145,7 @@ void FeatureFileDeviceTest::testNameComesBackToItsCameraAndGoesToNoOther()
 
 void FeatureFileDeviceTest::testCameraThatVanishesIsToldForEachFeature()
 {
-    COpenCamera lost({"--address", "127.0.0.2"});
+    COpenCamera lost({"--address", "127.0.0.2"}, "B2");
     QVERIFY(lost.isOpen());
     QCOMPARE(lost.simulator().command("vanish"), QString("vanished"));
     const QString path = m_folder.write("in", {"Width\t256", "Height\t256", "DeviceModelName\tx"});
@@ -157,7 +157,7 @@ void FeatureFileDeviceTest::testCameraThatVanishesIsToldForEachFeature()
 
 void FeatureFileDeviceTest::testSavingACameraThatVanishedLeavesTheFileAndSaysWhy()
 {
-    COpenCamera lost({"--address", "127.0.0.2"});
+    COpenCamera lost({"--address", "127.0.0.2"}, "B2");
     QVERIFY(lost.isOpen());
     const QString path = m_folder.write("kept", {"Width\t256"});
     const QByteArray before = m_folder.read("kept");
@@ -168,7 +168,7 @@ void FeatureFileDeviceTest::testSavingACameraThatVanishedLeavesTheFileAndSaysWhy
     } catch (const ParameterCollection::CParameterException &exception) {
         QCOMPARE(
             exception.message(),
-            QString("Ostrand-XQZ-2000-A1 is gone: check its cable and power, then open it again"));
+            QString("Ostrand-XQZ-2000-B2 is gone: check its cable and power, then open it again"));
     }
     QCOMPARE(m_folder.read("kept"), before);
 }

@@ -45,7 +45,8 @@ void ParametersTest::cleanupTestCase()
 
 void ParametersTest::theSameCollectionIsHandedOutUntilTheCameraIsOpenedAnew()
 {
-    COpenCamera camera({QStringLiteral("--address"), QStringLiteral("127.0.0.3")});
+    COpenCamera camera({QStringLiteral("--address"), QStringLiteral("127.0.0.3")},
+                       QStringLiteral("B2"));
     QVERIFY(camera.isOpen());
     const auto first = camera.service().parameterCollection(camera.info());
     QVERIFY(camera.rig().close(camera.info()));

@@ -164,7 +164,8 @@ void ScriptConsentTest::testWithoutAConsentPage()
     QCOMPARE(
         m_run->run("consent.state();"),
         QStringLiteral("test.js:1: the welcome screen has no consent page: plugins.list() says "
-                       "whether UsageTracking is running"));
+                       "whether UsageTracking is running, and Help > Data Privacy whether usage "
+                       "tracking is switched off on this computer"));
 }
 
 void ScriptConsentTest::testWithoutAWelcomeScreen()
