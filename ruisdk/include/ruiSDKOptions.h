@@ -102,6 +102,44 @@ RUI_API int32_t ruiIsDeliveryPaused(ruiInstance instance, int32_t *paused);
  */
 RUI_API int32_t ruiFlush(ruiInstance instance, int32_t milliseconds);
 
+/* How grave it is what a log hook is told. New ones are added at the end. */
+enum ruiLogLevel {
+    RUI_LOG_ERROR = 1,   /* somebody has to mend it: the directory cannot be used, for example */
+    RUI_LOG_WARNING = 2, /* a request failed, or the server refused something */
+    RUI_LOG_INFO = 3     /* events were delivered */
+};
+
+/*
+ * Is told what becomes of the delivery, in English, for a log. The text is one line of UTF-8
+ * without control characters, and the library's: valid until the hook returns. It names the server
+ * or the directory, and never what an event says.
+ *
+ * level: one of ruiLogLevel.
+ * context: as it was given to ruiSetLogHook.
+ */
+typedef void (*ruiLogHook)(int32_t level, const char *text, void *context);
+
+/*
+ * Sets the hook of this instance, which replaces the earlier one; null: none, as at the beginning.
+ * In any state; it holds for the sessions of the instance, the one that is open, too.
+ *
+ * Thread: the hook is called in the library's thread of a session, never in a thread that calls the
+ * library, and once at a time. All signals are blocked there. The delivery waits for the hook;
+ * ruiStopSDK keeps to its time and does not.
+ *
+ * Ownership: context is the caller's. The hook is not called any more once this call has replaced
+ * it, or ruiDestroyInstance has returned: both wait for a hook that runs, however long. So does the
+ * end of the program, see exit at ruiInstance. After ruiStopSDK one that runs already may go on.
+ *
+ * Reentrancy: a hook must not use the library. Called from within one, each function with a live
+ * instance is RUI_WRONG_STATE, and ruiCreateInstance returns null; ruiVersion, ruiResultText and
+ * ruiGetPolicy work. It must not wait for a thread that replaces the hook or destroys the instance.
+ * It may end the program by exit().
+ *
+ * A hook that throws: the exception ends in the library and changes nothing; the hook stays set.
+ */
+RUI_API int32_t ruiSetLogHook(ruiInstance instance, ruiLogHook hook, void *context);
+
 #ifdef __cplusplus
 }
 #endif

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Commands.h"
 #include "core/JsonWriter.h"
+#include "core/TimeText.h"
 #include "Printable.h"
 #include "store/Statistics.h"
 #include "TextTable.h"
@@ -28,12 +29,31 @@ std::string shownServer(const Statistics &statistics)
     return statistics.server->empty() ? "none: nothing is sent" : printable(*statistics.server);
 }
 
+std::string shownFailure(const Statistics &statistics)
+{
+    return statistics.lastFailure ? timeText(statistics.lastFailure->time) + " "
+                                        + printable(statistics.lastFailure->reason)
+                                  : "none";
+}
+
+void writeFailure(JsonWriter &json, const Statistics &statistics)
+{
+    json.key("lastFailure");
+    if (!statistics.lastFailure) {
+        json.null();
+        return;
+    }
+    json.beginObject().key("time").string(timeText(statistics.lastFailure->time));
+    json.key("reason").string(statistics.lastFailure->reason).endObject();
+}
+
 std::string jsonOf(const Statistics &statistics)
 {
     JsonWriter json;
     json.beginObject();
     writeOptional(json, "client", statistics.client);
     writeOptional(json, "server", statistics.server);
+    writeFailure(json, statistics);
     json.key("pending").integer(statistics.pending);
     json.key("delivered").integer(statistics.delivered);
     json.key("exported").integer(statistics.exported).key("lost").beginObject();
@@ -55,6 +75,7 @@ void printTables(const Statistics &statistics, std::ostream &out)
     TextTable totals;
     totals.add({"client", printable(statistics.client.value_or("none"))});
     totals.add({"server", shownServer(statistics)});
+    totals.add({"last failure", shownFailure(statistics)});
     totals.add({"pending", std::to_string(statistics.pending)});
     totals.add({"delivered", std::to_string(statistics.delivered)});
     totals.add({"exported", std::to_string(statistics.exported)});

@@ -207,8 +207,8 @@ TEST(Header, MarksItsFunctionsForAWindowsCompiler)
                                + (definition == "-DRUISDK_BUILD" ? "export" : "import") + ")'"})
             .output;
     };
-    EXPECT_EQ(marks(""), "20\n");
-    EXPECT_EQ(marks("-DRUISDK_BUILD"), "20\n");
+    EXPECT_EQ(marks(""), "21\n");
+    EXPECT_EQ(marks("-DRUISDK_BUILD"), "21\n");
     EXPECT_EQ(marks("-DRUISDK_STATIC"), "0\n");
 }
 

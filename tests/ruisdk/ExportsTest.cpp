@@ -19,13 +19,15 @@ TEST(Exports, AreTheFunctionsOfTheHeaderAndNothingElse)
     for (std::string line; lines >> line;) {
         names.insert(line);
     }
-    EXPECT_EQ(names,
-              (std::set<std::string>{
-                  "ruiCreateConfig",   "ruiCreateInstance", "ruiDestroyInstance",  "ruiFlush",
-                  "ruiGetClientId",    "ruiGetPolicy",      "ruiIsDeliveryPaused", "ruiOptOut",
-                  "ruiPauseDelivery",  "ruiResultText",     "ruiResumeDelivery",   "ruiSetCaFile",
-                  "ruiSetProductData", "ruiSetProxy",       "ruiSetRequestHeader", "ruiStartSDK",
-                  "ruiStopSDK",        "ruiTrackEvent",     "ruiTrackEventText",   "ruiVersion"}));
+    EXPECT_EQ(
+        names,
+        (std::set<std::string>{
+            "ruiCreateConfig",  "ruiCreateInstance", "ruiDestroyInstance",  "ruiFlush",
+            "ruiGetClientId",   "ruiGetPolicy",      "ruiIsDeliveryPaused", "ruiOptOut",
+            "ruiPauseDelivery", "ruiResultText",     "ruiResumeDelivery",   "ruiSetCaFile",
+            "ruiSetLogHook",    "ruiSetProductData", "ruiSetProxy",         "ruiSetRequestHeader",
+            "ruiStartSDK",      "ruiStopSDK",        "ruiTrackEvent",       "ruiTrackEventText",
+            "ruiVersion"}));
 }
 
 TEST(Exports, AreBoundToTheMajorVersionByTheNameThatProgramsLoad)

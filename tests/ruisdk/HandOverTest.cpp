@@ -110,10 +110,10 @@ TEST_F(HandOver, MarksTheEventsSoThatTheyAreNeverSent)
     EXPECT_EQ(server.requests().size(), 0U);
     const Outcome statistics = runProgram({RUI_EVENTS_PROGRAM, "--stats", m_path});
     const std::string counts = statistics.output.substr(statistics.output.find("pending"));
-    EXPECT_EQ(counts, "pending    0\n"
-                      "delivered  0\n"
-                      "exported   3\n"
-                      "lost       0\n"
+    EXPECT_EQ(counts, "pending       0\n"
+                      "delivered     0\n"
+                      "exported      3\n"
+                      "lost          0\n"
                       "\n"
                       "CATEGORY  NAME  PENDING  DELIVERED  EXPORTED\n"
                       "Category  Name  0        0          3\n");

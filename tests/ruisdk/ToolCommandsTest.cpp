@@ -49,23 +49,25 @@ TEST_F(ToolCommands, StatisticsCountByStateReasonAndEvent)
     session.open(m_path);
     session.track(std::string(2000000, 'x'));
     change(m_path, "UPDATE state SET client = 'f81d4fae-7dec-41d0-a765-00a0c91e6bf6'");
-    EXPECT_EQ(run({"--stats"}).output, "client       f81d4fae-7dec-41d0-a765-00a0c91e6bf6\n"
-                                       "server       none: nothing is sent\n"
-                                       "pending      4\n"
-                                       "delivered    2\n"
-                                       "exported     0\n"
-                                       "lost         1\n"
-                                       "  eventSize  1\n"
+    EXPECT_EQ(run({"--stats"}).output, "client        f81d4fae-7dec-41d0-a765-00a0c91e6bf6\n"
+                                       "server        none: nothing is sent\n"
+                                       "last failure  none\n"
+                                       "pending       4\n"
+                                       "delivered     2\n"
+                                       "exported      0\n"
+                                       "lost          1\n"
+                                       "  eventSize   1\n"
                                        "\n"
                                        "CATEGORY  NAME    PENDING  DELIVERED  EXPORTED\n"
                                        "Camera    Closed  1        2          0\n"
                                        "Camera    Opened  3        0          0\n");
-    EXPECT_EQ(run({"--stats", "--json"}).output,
-              R"({"client":"f81d4fae-7dec-41d0-a765-00a0c91e6bf6","server":"",)"
-              R"("pending":4,"delivered":2,"exported":0,"lost":{"eventSize":1},"events":[)"
-              R"({"category":"Camera","name":"Closed","pending":1,"delivered":2,"exported":0},)"
-              R"({"category":"Camera","name":"Opened","pending":3,"delivered":0,"exported":0}]})"
-              "\n");
+    EXPECT_EQ(
+        run({"--stats", "--json"}).output,
+        R"({"client":"f81d4fae-7dec-41d0-a765-00a0c91e6bf6","server":"",)"
+        R"("lastFailure":null,"pending":4,"delivered":2,"exported":0,"lost":{"eventSize":1},"events":[)"
+        R"({"category":"Camera","name":"Closed","pending":1,"delivered":2,"exported":0},)"
+        R"({"category":"Camera","name":"Opened","pending":3,"delivered":0,"exported":0}]})"
+        "\n");
 }
 
 TEST_F(ToolCommands, StatisticsNameTheServerOfTheLastSession)
@@ -75,7 +77,7 @@ TEST_F(ToolCommands, StatisticsNameTheServerOfTheLastSession)
     session.open(m_path, "collector.example.com:4318");
     session.destroy();
     const std::string server = "https://collector.example.com:4318/v1/logs";
-    EXPECT_NE(run({"--stats"}).output.find("server     " + server + "\n"), std::string::npos);
+    EXPECT_NE(run({"--stats"}).output.find("server        " + server + "\n"), std::string::npos);
     EXPECT_NE(run({"--stats", "--json"}).output.find("\"server\":\"" + server + "\""),
               std::string::npos);
 }
@@ -86,8 +88,25 @@ TEST_F(ToolCommands, StatisticsSayThatThereIsNoClientIdAfterAnOptOut)
     Session session;
     session.config(m_path);
     session.optOut();
-    EXPECT_EQ(run({"--stats"}).output.rfind("client     none\n", 0), 0U);
+    EXPECT_EQ(run({"--stats"}).output.rfind("client        none\n", 0), 0U);
     EXPECT_EQ(run({"--stats", "--json"}).output.rfind(R"({"client":null,)", 0), 0U);
+}
+
+TEST_F(ToolCommands, StatisticsTellTheLastFailureAndWhen)
+{
+    track(1);
+    query(m_path, "UPDATE state SET failed_at = 1795199937042000000,"
+                  " failure = 'the server answered 503' || char(27)");
+    EXPECT_NE(
+        run({"--stats"})
+            .output.find("last failure  2026-11-20T18:38:57.042Z the server answered 503\\x1b\n"),
+        std::string::npos)
+        << run({"--stats"}).output;
+    EXPECT_NE(run({"--stats", "--json"})
+                  .output.find(R"("lastFailure":{"time":"2026-11-20T18:38:57.042Z",)"
+                               R"("reason":"the server answered 503\u001b"})"),
+              std::string::npos)
+        << run({"--stats", "--json"}).output;
 }
 
 TEST_F(ToolCommands, SendDeliversEverythingWithProgress)

@@ -46,6 +46,12 @@ static void runSession(const char *directory)
     expect(ruiDestroyInstance(instance), RUI_BAD_HANDLE);
 }
 
+/* Without a server it is never called in this program. */
+static void writeLog(int32_t level, const char *text, void *context)
+{
+    fprintf((FILE *)context, "ruiSDK, level %d: %s\n", (int)level, text);
+}
+
 /* What a program may set and ask beside the calls of a session. */
 static void runEmbedded(const char *directory)
 {
@@ -61,6 +67,7 @@ static void runEmbedded(const char *directory)
     expect(ruiSetRequestHeader(instance, "Authorization", "Bearer 5f2c"), RUI_OK);
     expect(ruiSetCaFile(instance, ""), RUI_OK);
     expect(ruiSetProxy(instance, "http://proxy.example.com:3128"), RUI_OK);
+    expect(ruiSetLogHook(instance, writeLog, stderr), RUI_OK);
     expect(ruiPauseDelivery(instance), RUI_OK);
     expect(ruiIsDeliveryPaused(instance, &paused), RUI_OK);
     expect(ruiResumeDelivery(instance), RUI_OK);

@@ -60,4 +60,10 @@ TEST_P(Utf8, IsChecked)
 INSTANTIATE_TEST_SUITE_P(Rules, Utf8, testing::ValuesIn(cases),
                          [](const auto &row) { return std::string(row.param.rule); });
 
+TEST(OneLine, HasNoControlCharacterAndNoByteThatIsNotUtf8)
+{
+    EXPECT_EQ(rui::oneLine("a\r\nb\x1b\x7f\xff\xe2\x82|\xe2\x82\xac"), "a??b?????|\xe2\x82\xac");
+    EXPECT_EQ(rui::oneLine(""), "");
+}
+
 } // namespace

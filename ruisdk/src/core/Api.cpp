@@ -33,7 +33,9 @@ void requireSupported(int32_t protocol, const char *encryptionKey)
 ruiInstance ruiCreateInstance(int32_t flag)
 {
     try {
-        return flag == 0 ? HandleTable::process().add(std::make_shared<Instance>()) : nullptr;
+        return flag == 0 && !isInsideHook()
+                   ? HandleTable::process().add(std::make_shared<Instance>())
+                   : nullptr;
     } catch (...) {
         return nullptr;
     }
@@ -103,6 +105,9 @@ int32_t ruiTrackEventText(ruiInstance instance, const char *category, const char
 int32_t ruiDestroyInstance(ruiInstance instance)
 {
     try {
+        if (isInsideHook() && HandleTable::process().find(instance)) {
+            return RUI_WRONG_STATE;
+        }
         const std::shared_ptr<Instance> removed = HandleTable::process().remove(instance);
         if (!removed) {
             return RUI_BAD_HANDLE;

@@ -5,6 +5,7 @@
 #include "core/Failure.h"
 #include "core/HandleTable.h"
 #include "core/Instance.h"
+#include "core/Log.h"
 #include "store/SystemError.h"
 
 #include <filesystem>
@@ -28,6 +29,14 @@ int32_t resultOf(Call call) noexcept
     }
 }
 
+// A hook that changed the library's state while the library runs would wait for itself.
+inline void requireNoHook()
+{
+    if (isInsideHook()) {
+        throw Failure(RUI_WRONG_STATE, "a hook calls the library");
+    }
+}
+
 template <typename Call>
 int32_t withInstance(ruiInstance handle, Call call) noexcept
 {
@@ -36,6 +45,7 @@ int32_t withInstance(ruiInstance handle, Call call) noexcept
         if (!instance) {
             throw Failure(RUI_BAD_HANDLE, "the instance is null, destroyed or not an instance");
         }
+        requireNoHook();
         call(*instance);
     });
 }

@@ -71,6 +71,11 @@ int32_t ruiSetProxy(ruiInstance instance, const char *url)
     });
 }
 
+int32_t ruiSetLogHook(ruiInstance instance, ruiLogHook hook, void *context)
+{
+    return withInstance(instance, [=](Instance &target) { target.setLogHook(hook, context); });
+}
+
 int32_t ruiPauseDelivery(ruiInstance instance)
 {
     return withInstance(instance, [](Instance &target) { target.setPaused(true); });

@@ -119,6 +119,7 @@ void Instance::startWorker()
     options.opening.create = false;
     options.limits = m_limits;
     options.clock = &m_clock;
+    options.log = m_log;
     if (m_config.server) {
         options.transport = std::make_shared<CurlTransport>(*m_config.server, options.delivery,
                                                             withEnvironment(m_transport));
@@ -209,6 +210,16 @@ void Instance::setTransport(const std::function<void(TransportOptions &)> &chang
     change(m_transport);
 }
 
+void Instance::setLogHook(ruiLogHook hook, void *context)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        require(true);
+    }
+    // Without the lock: a hook that runs may wait for a thread that needs it.
+    m_log->setHook(hook, context);
+}
+
 void Instance::setPaused(bool paused)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -258,6 +269,7 @@ void Instance::shutDown() noexcept
     if (worker) {
         worker->stop(false, m_limits.stopLimit);
     }
+    m_log->close();
     lock.lock();
     m_store.reset();
 }

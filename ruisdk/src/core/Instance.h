@@ -4,6 +4,7 @@
 
 #include "core/Clock.h"
 #include "core/Limits.h"
+#include "core/Log.h"
 #include "delivery/ServerAddress.h"
 #include "delivery/TransportOptions.h"
 #include "delivery/Worker.h"
@@ -51,6 +52,9 @@ public:
     // Changes how the server is reached, for the next session. Not while one is open.
     void setTransport(const std::function<void(TransportOptions &)> &change);
 
+    // Null: off. Waits for a hook that runs.
+    void setLogHook(ruiLogHook hook, void *context);
+
     // For everybody who uses the directory, until it is changed again.
     void setPaused(bool paused);
     bool isPaused();
@@ -79,6 +83,7 @@ private:
     const Limits m_limits;
     const Clock &m_clock;
     const std::shared_ptr<BusyLimit> m_busyLimit;
+    const std::shared_ptr<Log> m_log = std::make_shared<Log>();
     std::mutex m_mutex;
     State m_state = State::Created;
     Withdrawal m_withdrawal = Withdrawal::None;

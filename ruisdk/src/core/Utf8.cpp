@@ -93,4 +93,20 @@ bool isUtf8(std::string_view text) noexcept
     return true;
 }
 
+std::string oneLine(std::string_view text)
+{
+    std::string line;
+    while (!text.empty()) {
+        const std::size_t length = characterLength(text);
+        const auto first = static_cast<unsigned char>(text[0]);
+        if (length == 0 || first < 0x20 || first == 0x7F) {
+            line += '?';
+        } else {
+            line += text.substr(0, length);
+        }
+        text.remove_prefix(length == 0 ? 1 : length);
+    }
+    return line;
+}
+
 } // namespace rui

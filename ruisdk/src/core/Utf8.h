@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace rui {
@@ -14,5 +15,9 @@ bool isUtf8(std::string_view text) noexcept;
 // How many bytes the first character of a text takes that is not empty; 0 when it does not begin
 // with a well-formed one.
 std::size_t characterLength(std::string_view text) noexcept;
+
+// The text with a question mark for each control character of ASCII, and for each byte that is not
+// UTF-8.
+std::string oneLine(std::string_view text);
 
 } // namespace rui

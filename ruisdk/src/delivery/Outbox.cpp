@@ -95,6 +95,14 @@ void Outbox::setSchedule(const Schedule &schedule)
         .run();
 }
 
+void Outbox::noteFailure(const std::string &reason, std::int64_t now)
+{
+    m_database.prepare("UPDATE state SET failed_at = ?1, failure = ?2")
+        .bind(1, now)
+        .bind(2, reason)
+        .run();
+}
+
 const Resource &Outbox::resource(std::int64_t id)
 {
     const auto known = m_resources.find(id);

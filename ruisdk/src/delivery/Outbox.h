@@ -57,6 +57,9 @@ public:
     Schedule schedule() const;
     void setSchedule(const Schedule &schedule);
 
+    // Keeps why a request failed, for who asks later.
+    void noteFailure(const std::string &reason, std::int64_t now);
+
     // The batch arrived, but for so many of its records. Clears the schedule.
     void settle(const Batch &batch, std::int64_t rejected, std::int64_t now);
 

@@ -3,6 +3,7 @@
 #include "delivery/Sender.h"
 
 #include "core/Failure.h"
+#include "core/Utf8.h"
 #include "delivery/Gzip.h"
 #include "delivery/RetryAfter.h"
 #include "delivery/Verdict.h"
@@ -35,13 +36,19 @@ private:
 
 std::string describe(const Response &response)
 {
-    return response.status == 0 ? response.error
+    return response.status == 0 ? oneLine(response.error)
                                 : "the server answered " + std::to_string(response.status);
 }
 
 std::string describeRejected(std::int64_t count)
 {
     return count == 0 ? std::string() : "the server rejected " + std::to_string(count);
+}
+
+std::string describeDropped(std::size_t count, const std::string &reason)
+{
+    return "dropped " + std::to_string(count) + " that the server refused alone"
+           + (reason.empty() ? "" : ", " + reason);
 }
 
 } // namespace
@@ -118,7 +125,7 @@ Step Sender::send(Refused refused)
     }
     const Response response = m_transport.post(gzip(batch.payload));
     if (response.cancelled) {
-        return {Step::Kind::Failed, m_clock.now(), "cancelled", 0};
+        return {Step::Kind::Failed, m_clock.now(), {}, 0};
     }
     return apply(std::move(batch), response, refused);
 }
@@ -153,10 +160,9 @@ Step Sender::settle(Refused refused, const std::string &reason)
     m_memory = {};
     m_refusalsInARow = 0;
     m_batchRecords = std::min(m_limits.batchRecords, m_batchRecords * 2);
-    if (refused == Refused::Dropped) {
-        dropSuspects();
-    }
-    return {Step::Kind::Progress, 0, reason, records};
+    const std::size_t dropped = refused == Refused::Dropped ? dropSuspects() : 0;
+    return {Step::Kind::Progress, 0, dropped == 0 ? reason : describeDropped(dropped, reason),
+            records};
 }
 
 Step Sender::retry(const Response &response, Refused refused)
@@ -190,6 +196,7 @@ Step Sender::waitFor(std::chrono::nanoseconds time, const std::string &reason)
     const Schedule schedule{m_clock.now() + time.count(), failuresSoFar() + 1};
     m_outbox.setSchedule(schedule);
     m_memory.schedule = {};
+    m_outbox.noteFailure(reason, m_clock.now());
     return {Step::Kind::Failed, schedule.notBefore, reason, 0};
 }
 
@@ -202,18 +209,23 @@ Step Sender::split(const Batch &batch, const Response &response)
 Step Sender::suspect(Batch batch, const Response &response, LossReason loss, Refused refused)
 {
     batch.payload.clear();
-    m_suspects.push_back({std::move(batch), loss, describe(response)});
+    const std::string reason =
+        (batch.isOptOut ? "the withdrawal of consent was refused: " : "") + describe(response);
+    if (refused == Refused::Dropped) {
+        m_outbox.noteFailure(reason, m_clock.now());
+    }
+    m_suspects.push_back({std::move(batch), loss, reason});
     const std::int64_t doublings = std::clamp<std::int64_t>(failuresSoFar(), 0, 16);
     const std::size_t allowed =
         std::min(m_limits.batchRecords, m_limits.refusalsInARow << doublings);
     if (++m_refusalsInARow >= allowed) {
-        return holdBack(describe(response), refused);
+        return holdBack(reason, refused);
     }
-    return {Step::Kind::Progress, 0, describe(response), 0};
+    return {Step::Kind::Progress, 0, reason, 0};
 }
 
 // The user's withdrawal is never given up; it stays behind what the server takes.
-void Sender::dropSuspects()
+std::size_t Sender::dropSuspects()
 {
     const auto firstDropped =
         std::stable_partition(m_suspects.begin(), m_suspects.end(),
@@ -221,7 +233,9 @@ void Sender::dropSuspects()
     for (auto dropped = firstDropped; dropped != m_suspects.end(); ++dropped) {
         m_outbox.drop(dropped->batch, dropped->loss);
     }
+    const auto count = static_cast<std::size_t>(m_suspects.end() - firstDropped);
     m_suspects.erase(firstDropped, m_suspects.end());
+    return count;
 }
 
 void Sender::postpone() noexcept

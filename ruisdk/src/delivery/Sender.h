@@ -27,7 +27,7 @@ struct Step
 
     Kind kind = Kind::Idle;
     std::int64_t due = 0; // nanoseconds since 1970
-    // What the server or the network said, in one line.
+    // What the server or the network said, in one line. Empty for a request that was ended here.
     std::string reason;
     std::size_t records = 0;
 };
@@ -91,7 +91,7 @@ private:
     Step split(const Batch &batch, const Response &response);
     Step suspect(Batch batch, const Response &response, LossReason loss, Refused refused);
     Step waitFor(std::chrono::nanoseconds time, const std::string &reason);
-    void dropSuspects();
+    std::size_t dropSuspects();
     void postpone() noexcept;
     std::int64_t lastSuspect() const;
     std::int64_t failuresSoFar() const;

@@ -3,6 +3,7 @@
 #include "delivery/WorkerLoop.h"
 
 #include "core/Failure.h"
+#include "delivery/DeliveryLog.h"
 #include "store/Erasure.h"
 #include "store/Policy.h"
 #include "store/Quota.h"
@@ -76,14 +77,24 @@ void WorkerLoop::run() noexcept
             again = false;
         } catch (const SqliteError &error) {
             m_isDamaged = error.isDamage();
+            sayFailure(error);
             again = mendAtOnce() || rest();
-        } catch (const std::exception &) {
+        } catch (const std::exception &error) {
+            sayFailure(error);
             again = rest();
         }
     }
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_isDone = true;
     m_done.notify_all();
+}
+
+void WorkerLoop::sayFailure(const std::exception &error)
+{
+    // What was cut short has not failed.
+    if (!m_cancelled) {
+        m_options.log->say(RUI_LOG_ERROR, error.what());
+    }
 }
 
 // Also when the session is being ended: the next one would come upon the same damage. Not without
@@ -152,6 +163,7 @@ Step WorkerLoop::deliver(Work &work)
     while (work.sender && !m_deliveryEnded && !isDeliveryForbidden(work.database)
            && !isDeliveryPaused(work.database)) {
         step = work.sender->step();
+        logStep(*m_options.log, step, m_options.clock->now());
         if (step.kind == Step::Kind::NoLock) {
             sayOnce(step.reason);
         }

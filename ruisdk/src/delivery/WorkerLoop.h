@@ -35,6 +35,7 @@ private:
     struct Work;
 
     void runRounds();
+    void sayFailure(const std::exception &error);
     bool mendAtOnce();
     bool rest();
     void round(Work &work);

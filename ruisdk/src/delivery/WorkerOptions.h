@@ -4,6 +4,7 @@
 
 #include "core/Clock.h"
 #include "core/Limits.h"
+#include "core/Log.h"
 #include "delivery/DeliveryLimits.h"
 #include "delivery/Transport.h"
 #include "store/StoreOpening.h"
@@ -21,6 +22,7 @@ struct WorkerOptions
     Limits limits;
     DeliveryLimits delivery;
     const Clock *clock = &systemClock();
+    std::shared_ptr<Log> log = std::make_shared<Log>();
     // Null: nothing is delivered.
     std::shared_ptr<Transport> transport;
     // Events of this time travel together.

@@ -70,10 +70,15 @@ constexpr const char *keepTheServer = "ALTER TABLE state ADD COLUMN server TEXT;
 constexpr const char *keepThePause =
     "ALTER TABLE state ADD COLUMN paused INTEGER NOT NULL DEFAULT 0;";
 
+// failed_at, failure: when a request failed last (nanoseconds since 1970), and why; null: none has
+constexpr const char *keepTheLastFailure = "ALTER TABLE state ADD COLUMN failed_at INTEGER;"
+                                           "ALTER TABLE state ADD COLUMN failure TEXT;";
+
 // Each leads from one version to the next; the first one to version 2. What stands here has run
 // on users' machines: add to its end only.
-constexpr std::array migrations = {countWhatIsGone, keepTheRun,    rememberWithdrawals,
-                                   keepTheHandOver, keepTheServer, keepThePause};
+constexpr std::array migrations = {countWhatIsGone,   keepTheRun,    rememberWithdrawals,
+                                   keepTheHandOver,   keepTheServer, keepThePause,
+                                   keepTheLastFailure};
 
 constexpr std::int64_t firstVersion = 1;
 

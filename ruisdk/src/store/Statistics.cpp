@@ -38,6 +38,18 @@ std::optional<std::string> optionalText(const Database &database, const char *sq
                                             : std::nullopt;
 }
 
+std::optional<Statistics::DeliveryFailure> readLastFailure(const Database &database)
+{
+    if (!database.hasColumn("state", "failure")) {
+        return std::nullopt;
+    }
+    Statement query = database.prepare("SELECT failed_at, failure FROM state");
+    if (!query.step() || query.isNull(1)) {
+        return std::nullopt;
+    }
+    return Statistics::DeliveryFailure{query.integer(0), std::string(query.text(1))};
+}
+
 } // namespace
 
 Statistics readStatistics(const Database &database)
@@ -47,6 +59,7 @@ Statistics readStatistics(const Database &database)
     if (database.hasColumn("state", "server")) {
         statistics.server = optionalText(database, "SELECT server FROM state");
     }
+    statistics.lastFailure = readLastFailure(database);
     statistics.pending = database.integer("SELECT count(*) FROM record WHERE state = 'pending'");
     statistics.delivered = database.integer("SELECT delivered FROM state");
     statistics.exported = database.hasColumn("state", "exported")

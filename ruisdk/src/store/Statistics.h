@@ -32,6 +32,13 @@ struct Statistics
     std::optional<std::string> client;
     // Where the last session delivers to; empty: nowhere. Nothing: not known yet.
     std::optional<std::string> server;
+    // When a request failed last, in nanoseconds since 1970, and why. Nothing: none has.
+    struct DeliveryFailure
+    {
+        std::int64_t time = 0;
+        std::string reason;
+    };
+    std::optional<DeliveryFailure> lastFailure;
     std::int64_t pending = 0;
     // Since the beginning; only the last of them are still stored.
     std::int64_t delivered = 0;
