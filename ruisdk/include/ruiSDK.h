@@ -190,6 +190,9 @@ RUI_API int32_t ruiTrackEvent(ruiInstance instance, const char *category, const 
  * category, name: what happened. May be empty.
  * text: the record, kept and sent byte for byte; it need not be JSON.
  * sessionId: the caller's name of the session, or empty.
+ * An event that is not delivered is dropped and counted as lost after 30 days: by the time since
+ * the machine was started, so that a clock that is set forward drops nothing that is younger; by
+ * the clock when it is from before that start.
  * Together they are at most 1 MiB, else RUI_TOO_LARGE.
  */
 RUI_API int32_t ruiTrackEventText(ruiInstance instance, const char *category, const char *name,

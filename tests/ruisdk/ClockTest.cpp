@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Ostrand
 // SPDX-License-Identifier: MIT
 //
-// A machine whose clock is set during a session, by less than the age at which events are dropped.
+// A machine whose clock is set during a session.
 #include "core/Instance.h"
 #include "ReceivedRecords.h"
 #include "SetClock.h"
@@ -9,6 +9,8 @@
 #include "TemporaryDirectory.h"
 
 #include <gtest/gtest.h>
+
+#include <atomic>
 
 namespace {
 
@@ -36,8 +38,17 @@ protected:
 
     void trackAt(std::int64_t time, const std::string &text)
     {
-        m_clock.time = time;
+        m_clock.jump(time - m_clock.time);
         m_instance.track({"C", "N", "", text});
+    }
+
+    static std::vector<std::string> sentTexts(const TestServer &server)
+    {
+        std::vector<std::string> texts;
+        for (const ReceivedRecord &record : receivedRecords(server)) {
+            texts.push_back(record.text);
+        }
+        return texts;
     }
 
     TemporaryDirectory m_directory;
@@ -54,11 +65,33 @@ TEST_F(ClockSet, BackAndForwardLosesNothingAndKeepsTheOrderOfTheCalls)
     trackAt(start + day, "3");
     trackAt(start - 25 * day, "4");
     m_instance.stop(true);
-    std::vector<std::string> texts;
-    for (const ReceivedRecord &record : receivedRecords(server)) {
-        texts.push_back(record.text);
-    }
-    EXPECT_EQ(texts, (std::vector<std::string>{"1", "2", "3", "4"}));
+    EXPECT_EQ(sentTexts(server), (std::vector<std::string>{"1", "2", "3", "4"}));
+}
+
+TEST_F(ClockSet, BackDoesNotEndTheExpiry)
+{
+    TestServer server;
+    std::atomic<int> requests{0};
+    server.setRule([&](const Request &) {
+        m_clock.step = nanosecondsPerSecond;
+        ++requests;
+        if (requests == 1) {
+            m_clock.time += day;
+        } else if (requests == 2) {
+            m_clock.jump(-365 * day);
+            m_clock.time += 31 * day;
+            m_instance.track({"C", "N", "", "2"});
+        }
+        return Answer{requests < 3 ? 503 : 200, {}, {}, Answer::Manner::Reply};
+    });
+    open(server.url());
+    trackAt(start, "1");
+    ASSERT_TRUE(server.waitForRequests(3));
+    m_instance.stop(true);
+    EXPECT_EQ(
+        sentTexts(server),
+        (std::vector<std::string>{
+            "1", "1", "2", R"({"EventCategory":"ruiSDK","EventName":"EventsLost","maxAge":1})"}));
 }
 
 TEST_F(ClockSet, BeforeNineteenSeventyIsStored)

@@ -231,6 +231,16 @@ public:
         return rui::systemClock().now();
     }
 
+    std::int64_t sinceBoot() const override
+    {
+        return 0;
+    }
+
+    std::string boot() const override
+    {
+        return "1";
+    }
+
 private:
     const std::function<void()> m_withdraw;
     mutable int m_calls = 0;

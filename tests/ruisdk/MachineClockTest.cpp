@@ -92,10 +92,20 @@ TEST_F(MachineClock, SetForwardByLessThanThirtyDaysLosesNothing)
     EXPECT_EQ(storedTexts(m_data), (Texts{"today 1", "today 2", "later 1", "later 2"}));
 }
 
-TEST_F(MachineClock, SetForwardByMoreThanThirtyDaysDropsAndCountsWhatIsTooOld)
+TEST_F(MachineClock, SetForwardByAYearLosesNothingThatIsYounger)
 {
     setClock("2026-11-21 12:00:00");
     EXPECT_EQ(runWriter("today").status, 0);
+    setClock("2027-11-21 12:00:00");
+    EXPECT_EQ(runWriter("later").status, 0);
+    EXPECT_EQ(storedTexts(m_data), (Texts{"today 1", "today 2", "later 1", "later 2"}));
+}
+
+TEST_F(MachineClock, StartedAgainAYearLaterDropsAndCountsWhatIsTooOld)
+{
+    setClock("2026-11-21 12:00:00");
+    EXPECT_EQ(runWriter("today").status, 0);
+    change(m_data, "UPDATE clock_mark SET boot = 'an earlier one'");
     setClock("2027-11-21 12:00:00");
     EXPECT_EQ(runWriter("later").status, 0);
     EXPECT_EQ(storedTexts(m_data), (Texts{"later 1", "later 2"}));

@@ -45,7 +45,7 @@ protected:
     {
         Database database(databasePath(m_directory.path()), Database::Access::ReadWrite,
                           std::make_shared<BusyLimit>(std::chrono::milliseconds(1000)));
-        dropExpired(database, m_limits, m_clock.time);
+        dropExpired(database, m_limits, m_clock);
     }
 
     std::vector<std::string> texts()
@@ -133,13 +133,110 @@ TEST_F(Quota, EventIsTooOldAfterThirtyDays)
     EXPECT_EQ(losses(), (Rows{{"maxAge", "1"}}));
 }
 
+TEST_F(Quota, ClockThatJumpsForwardDropsNothingThatIsYoungerByTheTimeSinceTheStart)
+{
+    m_clock.time = 1000 * day;
+    add("1");
+    m_clock.time += 29 * day;
+    drop();
+    add("2");
+    m_clock.jump(365 * day);
+    drop();
+    EXPECT_EQ(texts(), (Texts{"1", "2"}));
+    m_clock.time += 2 * day;
+    add("3");
+    drop();
+    EXPECT_EQ(texts(), (Texts{"2", "3"}));
+    EXPECT_EQ(losses(), (Rows{{"maxAge", "1"}}));
+}
+
+TEST_F(Quota, ClockThatJumpsForwardAtTheStartOfALaterSessionDropsNothingThatIsYounger)
+{
+    m_clock.time = 1000 * day;
+    add("1");
+    m_store.reset();
+    m_clock.jump(365 * day);
+    drop();
+    add("2");
+    drop();
+    EXPECT_EQ(texts(), (Texts{"1", "2"}));
+    EXPECT_EQ(losses(), Rows{});
+}
+
+TEST_F(Quota, ClockThatJumpsBackKeepsNothingForLonger)
+{
+    m_clock.time = 1000 * day;
+    add("1");
+    m_clock.time += day / 24;
+    drop();
+    m_clock.jump(-365 * day);
+    drop();
+    m_clock.time += 29 * day;
+    add("2");
+    drop();
+    EXPECT_EQ(texts(), (Texts{"1", "2"}));
+    m_clock.time += 2 * day;
+    drop();
+    EXPECT_EQ(texts(), (Texts{"2"}));
+    EXPECT_EQ(losses(), (Rows{{"maxAge", "1"}}));
+}
+
+TEST_F(Quota, EventOfAClockThatWasAheadGoesAfterThirtyDaysOfUseInSpiteOfRestarts)
+{
+    m_clock.time = 5000 * day;
+    add("1");
+    for (int days = 0; days < 30; ++days) {
+        EXPECT_EQ(texts(), (Texts{"1"})) << days;
+        m_store.reset();
+        m_clock.restart();
+        m_clock.jump(1000 * day - m_clock.time);
+        drop();
+        m_clock.time += day + 1;
+        drop();
+    }
+    EXPECT_EQ(texts(), Texts{});
+}
+
+TEST_F(Quota, AgeOfWhatIsFromBeforeARestartIsByTheClock)
+{
+    m_clock.time = 1000 * day;
+    add("1");
+    m_store.reset();
+    m_clock.restart();
+    m_clock.time += 20 * day;
+    add("2");
+    m_store.reset();
+    m_clock.restart();
+    m_clock.jump(15 * day);
+    drop();
+    EXPECT_EQ(texts(), (Texts{"2"}));
+}
+
+TEST_F(Quota, ClockIsMarkedOnceAnHourAndForThirtyDays)
+{
+    m_clock.time = 1000 * day;
+    add("1");
+    for (int minutes = 0; minutes < 120; ++minutes) {
+        m_clock.time += day / 1440;
+        drop();
+    }
+    EXPECT_EQ(queryValue(m_directory.path(), "SELECT count(*) FROM clock_mark"), "3");
+    for (int days = 0; days < 100; ++days) {
+        m_clock.time += day;
+        drop();
+    }
+    EXPECT_EQ(queryValue(m_directory.path(), "SELECT count(*) FROM clock_mark"), "32");
+}
+
 TEST_F(Quota, GapsThatExpiryLeavesAreNotCountedAsEvents)
 {
     m_clock.time = 100 * day;
     add("new");
-    m_clock.time = 1 * day;
+    m_clock.jump(-99 * day);
     add("old by a clock that was set back");
-    m_clock.time = 100 * day;
+    m_clock.restart();
+    m_clock.jump(99 * day);
+    m_store.reset();
     add("newer");
     drop();
     add("newest");

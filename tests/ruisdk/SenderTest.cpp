@@ -172,6 +172,16 @@ TEST_F(Sending, ScheduleOfAClockThatWasSetBackIsForgotten)
     EXPECT_EQ(deliveredTexts(), Texts{"kept"});
 }
 
+TEST_F(Sending, ClockThatWasSetBackByAMinuteDoesNotHoldUpARetryForAsLong)
+{
+    track("kept");
+    m_server.add({503, {}, {}, Manner::Reply});
+    deliver();
+    m_clock.jump(-60 * nanosecondsPerSecond);
+    EXPECT_EQ(deliver().kind, Step::Kind::Idle);
+    EXPECT_EQ(deliveredTexts(), Texts{"kept"});
+}
+
 struct PartialAnswer
 {
     const char *rule;

@@ -126,6 +126,16 @@ public:
         return startTime + m_asked * nanosecondsPerSecond;
     }
 
+    std::int64_t sinceBoot() const override
+    {
+        return 0;
+    }
+
+    std::string boot() const override
+    {
+        return "1";
+    }
+
     bool waitUntilAsked(int times)
     {
         std::unique_lock<std::mutex> lock(m_mutex);

@@ -2,11 +2,22 @@
 // SPDX-License-Identifier: MIT
 #include "core/Clock.h"
 
+#include "core/Random.h"
+
 #include <chrono>
+#include <ctime>
+#include <fstream>
 
 namespace rui {
 
 namespace {
+
+std::string readBoot()
+{
+    std::ifstream file("/proc/sys/kernel/random/boot_id");
+    std::string id;
+    return std::getline(file, id) && !id.empty() ? id : randomUuid();
+}
 
 class SystemClock : public Clock
 {
@@ -15,6 +26,19 @@ public:
     {
         const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
         return std::chrono::duration_cast<std::chrono::nanoseconds>(sinceEpoch).count();
+    }
+
+    std::int64_t sinceBoot() const override
+    {
+        timespec time{};
+        clock_gettime(CLOCK_BOOTTIME, &time);
+        return time.tv_sec * nanosecondsPerSecond + time.tv_nsec;
+    }
+
+    std::string boot() const override
+    {
+        static const std::string id = readBoot();
+        return id;
     }
 };
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace rui {
 
@@ -14,6 +15,14 @@ public:
 
     // Nanoseconds since 1970 in UTC. May jump when somebody sets the machine's clock.
     virtual std::int64_t now() const = 0;
+
+    // Nanoseconds since the machine was started, also while it slept. Nobody sets this one; it is
+    // the same for all processes.
+    virtual std::int64_t sinceBoot() const = 0;
+
+    // Another one after each start of the machine. Where the system names none, another one for
+    // each process.
+    virtual std::string boot() const = 0;
 };
 
 // The machine's clock; lives as long as the process.

@@ -34,9 +34,4 @@ std::chrono::nanoseconds waitWhenAsked(std::chrono::nanoseconds pause, const Del
     return pause + std::chrono::nanoseconds(static_cast<std::int64_t>(spread * jitter()));
 }
 
-std::chrono::nanoseconds longestWait(const DeliveryLimits &limits)
-{
-    return waitWhenAsked(limits.maxRetryAfter, limits, [] { return 1.0; });
-}
-
 } // namespace rui

@@ -21,7 +21,4 @@ std::chrono::nanoseconds waitAfterFailures(std::int64_t failures, const Backoff 
 std::chrono::nanoseconds waitWhenAsked(std::chrono::nanoseconds pause, const DeliveryLimits &limits,
                                        const Jitter &jitter);
 
-// No wait is longer.
-std::chrono::nanoseconds longestWait(const DeliveryLimits &limits);
-
 } // namespace rui

@@ -80,18 +80,19 @@ std::int64_t Outbox::pending() const
 
 Schedule Outbox::schedule() const
 {
-    Statement query = m_database.prepare("SELECT not_before, failures FROM state");
+    Statement query = m_database.prepare("SELECT not_before, failures, wait FROM state");
     query.step();
-    return {query.integer(0), query.integer(1)};
+    return {query.integer(0), query.integer(1), query.integer(2)};
 }
 
 void Outbox::setSchedule(const Schedule &schedule)
 {
     m_database
-        .prepare("UPDATE state SET not_before = ?1, failures = ?2"
+        .prepare("UPDATE state SET not_before = ?1, failures = ?2, wait = ?3"
                  " WHERE not_before <> ?1 OR failures <> ?2")
         .bind(1, schedule.notBefore)
         .bind(2, schedule.failures)
+        .bind(3, schedule.wait)
         .run();
 }
 

@@ -32,6 +32,7 @@ struct Schedule
 {
     std::int64_t notBefore = 0; // nanoseconds since 1970
     std::int64_t failures = 0;  // failed tries in a row
+    std::int64_t wait = 0;      // nanoseconds that lay before notBefore when it was set
 };
 
 // What waits for delivery, and what becomes of it. Used by one thread. Throws SqliteError.

@@ -40,6 +40,12 @@ std::string describe(const Response &response)
                                 : "the server answered " + std::to_string(response.status);
 }
 
+// Further away than when it was set: the clock was set back meanwhile.
+std::int64_t dueTimeOf(const Schedule &schedule, std::int64_t now)
+{
+    return schedule.notBefore > now + schedule.wait ? 0 : schedule.notBefore;
+}
+
 std::string describeRejected(std::int64_t count)
 {
     return count == 0 ? std::string() : "the server rejected " + std::to_string(count);
@@ -67,9 +73,8 @@ Sender::Sender(Database &database, std::string lockPath, Transport &transport, c
 
 std::int64_t Sender::dueTime() const
 {
-    const std::int64_t due = std::max(m_outbox.schedule().notBefore, m_memory.schedule.notBefore);
-    // Further away than anything schedules: the clock was set back meanwhile.
-    return due > m_clock.now() + longestWait(m_limits).count() ? 0 : due;
+    const std::int64_t now = m_clock.now();
+    return std::max(dueTimeOf(m_outbox.schedule(), now), dueTimeOf(m_memory.schedule, now));
 }
 
 Step Sender::step()
@@ -193,7 +198,7 @@ Step Sender::holdBack(std::string reason, Refused refused)
 
 Step Sender::waitFor(std::chrono::nanoseconds time, const std::string &reason)
 {
-    const Schedule schedule{m_clock.now() + time.count(), failuresSoFar() + 1};
+    const Schedule schedule{m_clock.now() + time.count(), failuresSoFar() + 1, time.count()};
     m_outbox.setSchedule(schedule);
     m_memory.schedule = {};
     m_outbox.noteFailure(reason, m_clock.now());
@@ -244,6 +249,7 @@ void Sender::postpone() noexcept
     ++schedule.failures;
     const auto wait = waitAfterFailures(schedule.failures, m_limits.backoff, m_jitter);
     schedule.notBefore = m_clock.now() + wait.count();
+    schedule.wait = wait.count();
 }
 
 std::int64_t Sender::lastSuspect() const

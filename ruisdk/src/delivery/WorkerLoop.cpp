@@ -131,10 +131,10 @@ void WorkerLoop::runRounds()
 void WorkerLoop::round(Work &work)
 {
     checkpoint(work.database);
-    const std::int64_t now = m_options.clock->now();
-    // A clock that was set back is no reason to wait for longer.
-    if (now >= m_nextExpiry || now < m_nextExpiry - expiryEvery) {
-        dropExpired(work.database, m_options.limits, now);
+    // Not by the time of day, which may be set back.
+    const std::int64_t now = m_options.clock->sinceBoot();
+    if (now >= m_nextExpiry) {
+        dropExpired(work.database, m_options.limits, *m_options.clock);
         m_nextExpiry = now + expiryEvery;
     }
     const Step step = deliver(work);

@@ -74,11 +74,23 @@ constexpr const char *keepThePause =
 constexpr const char *keepTheLastFailure = "ALTER TABLE state ADD COLUMN failed_at INTEGER;"
                                            "ALTER TABLE state ADD COLUMN failure TEXT;";
 
+// What the age of events is told from beside the clock, see ClockMarks.h. A row is a mark.
+// seq:        the highest number that was given by then
+// boot:       the start of the machine
+// since_boot: nanoseconds since that
+// uptime:     nanoseconds since the first mark, as far as the machine was seen running
+// In state, wait: what not_before was computed from (nanoseconds); when it is further away, the
+// clock was set back.
+constexpr const char *distrustTheClock =
+    "CREATE TABLE clock_mark(id INTEGER PRIMARY KEY, seq INTEGER NOT NULL, boot TEXT NOT NULL,"
+    "since_boot INTEGER NOT NULL, uptime INTEGER NOT NULL) STRICT;"
+    "ALTER TABLE state ADD COLUMN wait INTEGER NOT NULL DEFAULT 0;";
+
 // Each leads from one version to the next; the first one to version 2. What stands here has run
 // on users' machines: add to its end only.
-constexpr std::array migrations = {countWhatIsGone,   keepTheRun,    rememberWithdrawals,
-                                   keepTheHandOver,   keepTheServer, keepThePause,
-                                   keepTheLastFailure};
+constexpr std::array migrations = {countWhatIsGone,    keepTheRun,      rememberWithdrawals,
+                                   keepTheHandOver,    keepTheServer,   keepThePause,
+                                   keepTheLastFailure, distrustTheClock};
 
 constexpr std::int64_t firstVersion = 1;
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/Quota.h"
 
+#include "store/ClockMarks.h"
 #include "store/Losses.h"
 #include "store/Notices.h"
 
@@ -39,10 +40,20 @@ void count(Database &database, LossReason reason, std::int64_t lost)
     }
 }
 
-std::int64_t countOlder(const Database &database, std::int64_t time)
+// The statement with the condition for what is too old.
+Statement aboutExpired(const Database &database, const std::string &sql, const KnownAges &ages,
+                       std::int64_t oldest)
 {
-    Statement query = database.prepare("SELECT count(*) FROM event WHERE time < ?1");
-    query.bind(1, time).step();
+    Statement statement =
+        database.prepare(sql + " FROM event WHERE seq <= ?1 OR (seq < ?2 AND time < ?3)");
+    statement.bind(1, ages.lastExpired).bind(2, ages.firstYoung).bind(3, oldest);
+    return statement;
+}
+
+std::int64_t countExpired(const Database &database, const KnownAges &ages, std::int64_t oldest)
+{
+    Statement query = aboutExpired(database, "SELECT count(*)", ages, oldest);
+    query.step();
     return query.integer(0);
 }
 
@@ -77,16 +88,18 @@ void enforceQuota(Database &database, const Limits &limits)
     transaction.commit();
 }
 
-void dropExpired(Database &database, const Limits &limits, std::int64_t now)
+void dropExpired(Database &database, const Limits &limits, const Clock &clock)
 {
-    const std::int64_t oldest = now - std::chrono::nanoseconds(limits.maxAge).count();
-    if (countOlder(database, oldest) == 0) {
+    markClock(database, clock, limits);
+    const KnownAges ages = knownAges(database, clock, limits);
+    const std::int64_t oldest = clock.now() - std::chrono::nanoseconds(limits.maxAge).count();
+    if (countExpired(database, ages, oldest) == 0) {
         return;
     }
     Transaction transaction(database);
-    count(database, LossReason::MaxAge, countOlder(database, oldest));
+    count(database, LossReason::MaxAge, countExpired(database, ages, oldest));
     keepNumbers(database);
-    database.prepare("DELETE FROM event WHERE time < ?1").bind(1, oldest).run();
+    aboutExpired(database, "DELETE", ages, oldest).run();
     transaction.commit();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Clock.h"
 #include "core/Limits.h"
 #include "store/Database.h"
 #include "store/EventInsert.h"
@@ -17,7 +18,9 @@ bool exceeds(const Occupancy &occupancy, const Limits &limits);
 // limits, and counts them as lost; one transaction. Throws SqliteError.
 void enforceQuota(Database &database, const Limits &limits);
 
-// Deletes events that are too old, and counts them as lost; one transaction. Throws SqliteError.
-void dropExpired(Database &database, const Limits &limits, std::int64_t now);
+// Deletes events that are too old, and counts them as lost; one transaction. What was stored since
+// the machine was started is judged by the time since then, the rest by the clock. Marks the clock.
+// Throws SqliteError.
+void dropExpired(Database &database, const Limits &limits, const Clock &clock);
 
 } // namespace rui

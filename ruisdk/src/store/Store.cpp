@@ -3,6 +3,7 @@
 #include "store/Store.h"
 
 #include "core/Random.h"
+#include "store/ClockMarks.h"
 #include "store/Erasure.h"
 #include "store/Losses.h"
 #include "store/Policy.h"
@@ -93,6 +94,7 @@ void Store::join(const Product &product)
     }
     recovering([&](Connection &current) {
         m_membership = joinConsent(current.database, m_mark, product, m_clock.now());
+        markClock(current.database, m_clock, m_limits);
     });
     m_product = product;
     m_run = randomUuid();
@@ -238,6 +240,7 @@ void Store::rejoin()
     Membership joined;
     if (m_mark.read().requested == token) {
         joined = joinConsent(m_connection->database, m_mark, *m_product, m_clock.now());
+        markClock(m_connection->database, m_clock, m_limits);
     }
     m_membership = joined.token == token ? joined : Membership{-1, 0, token};
 }
