@@ -37,7 +37,7 @@ public:
 
     std::string boot() const override
     {
-        static const std::string id = readBoot();
+        static const std::string &id = *new std::string(readBoot()); // as the clock itself
         return id;
     }
 };
@@ -46,7 +46,8 @@ public:
 
 const Clock &systemClock()
 {
-    static const SystemClock clock;
+    // Never destroyed: a worker that another thread started may still run while the process ends.
+    static const Clock &clock = *new SystemClock;
     return clock;
 }
 
